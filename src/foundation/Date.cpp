@@ -1,0 +1,108 @@
+#include "foundation/Date.h"
+
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+
+namespace brindlex {
+namespace {
+
+/// Reads exactly `count` digits from the front of `text`.
+std::optional<int> takeDigits(std::string_view& text, std::size_t count)
+{
+    if (text.size() < count)
+        return {};
+    int number = 0;
+    for (const char digit : text.substr(0, count)) {
+        if (digit < '0' || digit > '9')
+            return {};
+        number = number * 10 + (digit - '0');
+    }
+    text.remove_prefix(count);
+    return number;
+}
+
+bool take(std::string_view& text, char expected)
+{
+    if (text.empty() || text.front() != expected)
+        return false;
+    text.remove_prefix(1);
+    return true;
+}
+
+std::optional<double> takeFraction(std::string_view& text)
+{
+    if (!take(text, '.'))
+        return 0.0;
+    double fraction = 0;
+    double unit = 0.1;
+    bool hasDigits = false;
+    while (const auto digit = takeDigits(text, 1)) {
+        fraction += *digit * unit;
+        unit /= 10;
+        hasDigits = true;
+    }
+    if (!hasDigits)
+        return {};
+    return fraction;
+}
+
+} // namespace
+
+std::string iso8601(Date date)
+{
+    using namespace std::chrono;
+    // A date outside the years 1 to 9999 has no ISO form; the nearest that has one stands for it.
+    constexpr double earliest = -62'135'596'800'000.0;
+    constexpr double latest = 253'402'300'799'999.0;
+    const double wanted = std::floor(date.unixTime() * 1000 + 1e-4);
+    const double milliseconds = wanted >= earliest ? std::fmin(wanted, latest) : earliest;
+    const sys_time<std::chrono::milliseconds> moment{
+        std::chrono::milliseconds{static_cast<std::int64_t>(milliseconds)}};
+    const auto day = floor<days>(moment);
+    const year_month_day calendar{day};
+    const hh_mm_ss time{moment - day};
+    char text[64];
+    std::snprintf(text, sizeof text, "%04d-%02u-%02uT%02d:%02d:%02d.%03dZ",
+        static_cast<int>(calendar.year()), static_cast<unsigned>(calendar.month()),
+        static_cast<unsigned>(calendar.day()), static_cast<int>(time.hours().count()),
+        static_cast<int>(time.minutes().count()), static_cast<int>(time.seconds().count()),
+        static_cast<int>(time.subseconds().count()));
+    return text;
+}
+
+std::optional<Date> dateFromISO8601(std::string_view text)
+{
+    using namespace std::chrono;
+    const auto yearNumber = takeDigits(text, 4);
+    if (!yearNumber || !take(text, '-'))
+        return {};
+    const auto monthNumber = takeDigits(text, 2);
+    if (!monthNumber || !take(text, '-'))
+        return {};
+    const auto dayNumber = takeDigits(text, 2);
+    if (!dayNumber || !take(text, 'T'))
+        return {};
+    const auto hour = takeDigits(text, 2);
+    if (!hour || !take(text, ':'))
+        return {};
+    const auto minute = takeDigits(text, 2);
+    if (!minute || !take(text, ':'))
+        return {};
+    const auto second = takeDigits(text, 2);
+    if (!second)
+        return {};
+    const auto fraction = takeFraction(text);
+    if (!fraction || text != "Z")
+        return {};
+    const year_month_day calendar{year{*yearNumber}, month{static_cast<unsigned>(*monthNumber)},
+        day{static_cast<unsigned>(*dayNumber)}};
+    if (!calendar.ok() || *hour > 23 || *minute > 59 || *second > 59)
+        return {};
+    const auto dayStart = sys_days{calendar}.time_since_epoch();
+    const double wholeSeconds = static_cast<double>(duration_cast<seconds>(dayStart).count())
+        + *hour * 3600.0 + *minute * 60.0 + *second;
+    return Date::fromUnixTime(wholeSeconds + *fraction);
+}
+
+} // namespace brindlex

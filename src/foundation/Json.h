@@ -1,0 +1,32 @@
+#pragma once
+
+#include "foundation/Result.h"
+
+#include <nlohmann/json.hpp>
+
+#include <string>
+#include <string_view>
+
+namespace brindlex {
+
+/// A JSON document; objects keep their keys in the order of insertion.
+using Json = nlohmann::ordered_json;
+
+/// Where a document does not have the declared form, and what is wrong there.
+struct JsonProblem {
+    std::string path{};
+    std::string reason{};
+
+    bool operator==(const JsonProblem&) const = default;
+};
+
+/// The document as compact text. Bytes that are not UTF-8 become U+FFFD.
+std::string jsonText(const Json& document);
+
+/// The document as text for a person to read, indented by two spaces.
+std::string prettyJsonText(const Json& document);
+
+/// The text as a document, or where and why it is not JSON.
+Result<Json, JsonProblem> parseJson(std::string_view text);
+
+} // namespace brindlex

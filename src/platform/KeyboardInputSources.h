@@ -1,0 +1,58 @@
+#pragma once
+
+#include "foundation/Subscription.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace brindlex {
+
+/// The category of the sources that type text, as opposed to palettes.
+inline constexpr std::string_view keyboardInputSourceCategory = "TISCategoryKeyboardInputSource";
+
+/// What the system tells of one input source; a property that it does not have is absent.
+struct InputSourceProperties {
+    std::optional<std::string> id{};
+    std::optional<std::string> category{};
+    std::optional<std::string> localizedName{};
+    std::optional<bool> isSelectCapable{};
+    std::optional<bool> isEnabled{};
+
+    bool operator==(const InputSourceProperties&) const = default;
+};
+
+/// The properties that a listed source must have; an absent one may be anything.
+struct InputSourceFilter {
+    std::optional<std::string> id{};
+    std::optional<std::string> category{};
+    std::optional<bool> isSelectCapable{};
+    std::optional<bool> isEnabled{};
+
+    bool operator==(const InputSourceFilter&) const = default;
+};
+
+/// The keyboard input sources of the system. Main thread only; no call waits for another program
+/// longer than 100 ms.
+class KeyboardInputSources {
+public:
+    virtual ~KeyboardInputSources() = default;
+
+    /// The selected source; nothing when the system cannot say.
+    virtual std::optional<InputSourceProperties> current() = 0;
+
+    /// The installed sources with all the given properties, in the system's order; nothing when the
+    /// system cannot say.
+    virtual std::optional<std::vector<InputSourceProperties>> list(const InputSourceFilter& filter)
+        = 0;
+
+    /// Selects a source that `list` gave. 0 on success, the system's status otherwise.
+    virtual int select(const InputSourceProperties& source) = 0;
+
+    /// Tells, never from inside `select`, that the selected source has changed, whoever changed it.
+    virtual Subscription observeSelectionChanges(std::function<void()> handler) = 0;
+};
+
+} // namespace brindlex

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+
+namespace brindlex {
+
+/// The folders that the system keeps for the user. Callable from any thread.
+class UserFolders {
+public:
+    virtual ~UserFolders() = default;
+
+    virtual std::filesystem::path home() const = 0;
+
+    /// Where the user wants downloads to go; nothing when the system has no such folder.
+    virtual std::optional<std::filesystem::path> downloads() const = 0;
+};
+
+} // namespace brindlex

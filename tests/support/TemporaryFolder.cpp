@@ -1,0 +1,32 @@
+#include "support/TemporaryFolder.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+
+namespace brindlex {
+
+TemporaryFolder::TemporaryFolder()
+{
+    auto pattern = (std::filesystem::temp_directory_path() / "brindlex.XXXXXX").string();
+    path_ = ::mkdtemp(pattern.data());
+}
+
+TemporaryFolder::~TemporaryFolder()
+{
+    std::error_code ignored;
+    std::filesystem::remove_all(path_, ignored);
+}
+
+std::string contentOf(const std::filesystem::path& file)
+{
+    std::ifstream stream(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(stream), {}};
+}
+
+void write(const std::filesystem::path& file, const std::string& content)
+{
+    std::ofstream(file, std::ios::binary) << content;
+}
+
+} // namespace brindlex
