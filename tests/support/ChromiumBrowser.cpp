@@ -10,8 +10,10 @@ using namespace std::chrono_literals;
 
 std::vector<std::string> commandFor(const VirtualDesktop& desktop, const LocalWebServer& web)
 {
+    const auto place = " 127.0.0.1:" + std::to_string(web.port());
     return {"chromium", "--user-data-dir=" + (desktop.home() / "chromium").string(),
-        "--host-resolver-rules=MAP * 127.0.0.1:" + std::to_string(web.port()),
+        "--host-resolver-rules=MAP *.example.com" + place + ",MAP *.example.org" + place
+            + ",MAP * ~NOTFOUND",
         // Root, as in a container, has no sandbox to start.
         "--no-sandbox", "--test-type", "--no-first-run", "--no-default-browser-check",
         "--disable-gpu", "--disable-dev-shm-usage", "--disable-quic", "--disable-sync",

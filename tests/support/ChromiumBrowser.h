@@ -10,8 +10,8 @@
 
 namespace brindlex {
 
-/// The Chromium browser with a new profile, for which every host of the web is a server on this
-/// machine.
+/// The Chromium browser with a new profile, for which the hosts below `example.com` and
+/// `example.org` are a server on this machine and no other host exists.
 class ChromiumBrowser {
 public:
     /// Opens the page and waits until its window shows it.

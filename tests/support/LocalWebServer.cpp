@@ -2,15 +2,15 @@
 
 #include "foundation/FatalError.h"
 
+#include <cerrno>
 #include <netinet/in.h>
 #include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
+#include <vector>
 
 namespace brindlex {
 namespace {
-
-constexpr int patience = 2'000; // in milliseconds
 
 std::string hostOf(const std::string& request)
 {
@@ -22,19 +22,27 @@ std::string hostOf(const std::string& request)
     return request.substr(from, request.find_first_of(":\r", from) - from);
 }
 
-/// Reads up to the end of the headers.
-std::string requestFrom(int connection)
+/// A client that is still sending its request.
+struct Client {
+    int connection;
+    std::string request{};
+};
+
+/// Takes what the client has sent and answers a whole request; false when the client is done with.
+bool serve(Client& client)
 {
-    std::string request;
     char bytes[4096];
-    pollfd waiting{connection, POLLIN, 0};
-    while (request.find("\r\n\r\n") == std::string::npos && poll(&waiting, 1, patience) > 0) {
-        const auto count = recv(connection, bytes, sizeof bytes, 0);
-        if (count <= 0)
-            break;
-        request.append(bytes, static_cast<std::size_t>(count));
-    }
-    return request;
+    const auto count = recv(client.connection, bytes, sizeof bytes, MSG_DONTWAIT);
+    if (count <= 0)
+        return false;
+    client.request.append(bytes, static_cast<std::size_t>(count));
+    if (client.request.find("\r\n\r\n") == std::string::npos)
+        return true;
+    const auto page = pageFor(client.request);
+    const auto answer = "HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nContent-Length: "
+        + std::to_string(page.size()) + "\r\nConnection: close\r\n\r\n" + page;
+    send(client.connection, answer.data(), answer.size(), MSG_NOSIGNAL);
+    return false;
 }
 
 } // namespace
@@ -68,7 +76,6 @@ LocalWebServer::LocalWebServer()
 
 LocalWebServer::~LocalWebServer()
 {
-    isEnding_ = true;
     shutdown(listening_, SHUT_RDWR);
     thread_.join();
     close(listening_);
@@ -76,16 +83,28 @@ LocalWebServer::~LocalWebServer()
 
 void LocalWebServer::serve()
 {
-    while (!isEnding_) {
-        const auto connection = accept4(listening_, nullptr, nullptr, SOCK_CLOEXEC);
-        if (connection < 0)
+    // A browser opens connections ahead of need and leaves them silent: none may hold up another.
+    std::vector<Client> clients;
+    while (true) {
+        std::vector<pollfd> waiting{{listening_, POLLIN, 0}};
+        for (const auto& client : clients)
+            waiting.push_back({client.connection, POLLIN, 0});
+        poll(waiting.data(), waiting.size(), -1);
+        for (auto index = clients.size(); index-- > 0;)
+            if (waiting[index + 1].revents != 0 && !brindlex::serve(clients[index])) {
+                close(clients[index].connection);
+                clients.erase(clients.begin() + static_cast<std::ptrdiff_t>(index));
+            }
+        if (waiting.front().revents == 0)
             continue;
-        const auto page = pageFor(requestFrom(connection));
-        const auto answer = "HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nContent-Length: "
-            + std::to_string(page.size()) + "\r\nConnection: close\r\n\r\n" + page;
-        send(connection, answer.data(), answer.size(), MSG_NOSIGNAL);
-        close(connection);
+        const auto connection = accept4(listening_, nullptr, nullptr, SOCK_CLOEXEC);
+        if (connection < 0 && errno == EINVAL)
+            break; // No longer listening.
+        if (connection >= 0)
+            clients.push_back({connection});
     }
+    for (const auto& client : clients)
+        close(client.connection);
 }
 
 } // namespace brindlex

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <atomic>
 #include <string>
 #include <thread>
 
@@ -22,7 +21,6 @@ private:
 
     int listening_ = -1;
     int port_ = 0;
-    std::atomic<bool> isEnding_ = false;
     std::thread thread_;
 };
 

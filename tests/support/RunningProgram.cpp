@@ -30,8 +30,7 @@ std::filesystem::path programFile()
 RunningProgram::RunningProgram(
     const VirtualDesktop& desktop, const std::vector<std::string>& arguments)
     : desktop_(desktop), files_(desktop), linesBefore_(files_.logLines().size()),
-      process_({.command = command(arguments), .output = desktop.outputFolder() / "brindlex"}),
-      hasLaunched_(logs("Brindlex launched"))
+      process_({.command = command(arguments), .output = desktop.outputFolder() / "brindlex"})
 {
 }
 

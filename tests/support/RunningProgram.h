@@ -5,7 +5,6 @@
 #include "support/VirtualDesktop.h"
 
 #include <filesystem>
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -42,7 +41,6 @@ private:
     ProgramFiles files_;
     std::size_t linesBefore_;
     ChildProcess process_;
-    bool hasLaunched_;
 };
 
 /// The name under which the first instance is found on the session bus.
