@@ -23,6 +23,9 @@ std::string prettyJsonText(const Json& document) { return dumped(document, 2); }
 
 Result<Json, JsonProblem> parseJson(std::string_view text)
 {
+    // The library takes this byte for the end of the text and would not look at what follows.
+    if (text.find('\0') != std::string_view::npos)
+        return fail(JsonProblem{"", "is not JSON"});
     bool isTooDeep = false;
     const auto watchDepth = [&](int depth, Json::parse_event_t, Json&) {
         isTooDeep |= depth > deepestNesting;
