@@ -18,6 +18,9 @@ std::string dumped(const Json& document, int indentation)
 template <typename Document>
 Result<Document, JsonProblem> parse(std::string_view text)
 {
+    // The library takes this byte for the end of the text and would not look at what follows.
+    if (text.find('\0') != std::string_view::npos)
+        return fail(JsonProblem{"", "is not JSON"});
     bool isTooDeep = false;
     const auto watchDepth = [&](int depth, typename Document::parse_event_t, Document&) {
         isTooDeep |= depth > deepestNesting;
