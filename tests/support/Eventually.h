@@ -1,0 +1,20 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+namespace brindlex {
+
+/// How long a test waits for something that should be there at once.
+inline constexpr std::chrono::milliseconds usualDeadline{10'000};
+
+/// Asks again and again until the condition holds; whether it did so before the deadline.
+///
+/// The deadline only bounds a failing test: one that passes goes on at the first success.
+bool eventually(
+    const std::function<bool()>& condition, std::chrono::milliseconds deadline = usualDeadline);
+
+/// Whether the condition holds at every one of the many times it is asked during the period.
+bool throughout(std::chrono::milliseconds period, const std::function<bool()>& condition);
+
+} // namespace brindlex

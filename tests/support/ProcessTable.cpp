@@ -1,0 +1,28 @@
+#include "support/ProcessTable.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <charconv>
+#include <filesystem>
+#include <unistd.h>
+
+namespace brindlex {
+
+std::vector<pid_t> processesWithVariable(const std::string& name, const std::string& value)
+{
+    const auto wanted = '\0' + name + "=" + value + '\0';
+    std::vector<pid_t> processes;
+    std::error_code ignored;
+    for (const auto& entry : std::filesystem::directory_iterator("/proc", ignored)) {
+        const auto text = entry.path().filename().string();
+        pid_t id = 0;
+        const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), id);
+        if (error != std::errc{} || end != text.data() + text.size() || id == getpid())
+            continue;
+        if (('\0' + contentOf(entry.path() / "environ")).find(wanted) != std::string::npos)
+            processes.push_back(id);
+    }
+    return processes;
+}
+
+} // namespace brindlex
