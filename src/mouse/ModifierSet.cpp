@@ -1,0 +1,56 @@
+#include "mouse/ModifierSet.h"
+
+#include <array>
+#include <string_view>
+
+namespace brindlex {
+namespace {
+
+struct Modifier {
+    ModifierSet set;
+    std::uint64_t eventFlag;
+    std::string_view text;
+};
+
+/// In the order of the display text.
+constexpr std::array modifiers{
+    Modifier{ModifierSet::control, 0x40000, "^"},
+    Modifier{ModifierSet::option, 0x80000, "Option"},
+    Modifier{ModifierSet::shift, 0x20000, "Shift"},
+    Modifier{ModifierSet::command, 0x100000, "Command"},
+};
+
+} // namespace
+
+ModifierSet ModifierSet::fromEventFlags(std::uint64_t flags)
+{
+    ModifierSet result;
+    for (const auto& modifier : modifiers)
+        if ((flags & modifier.eventFlag) != 0)
+            result = result | modifier.set;
+    return result;
+}
+
+std::uint64_t ModifierSet::eventFlags() const
+{
+    std::uint64_t flags = 0;
+    for (const auto& modifier : modifiers)
+        if (contains(modifier.set))
+            flags |= modifier.eventFlag;
+    return flags;
+}
+
+std::string ModifierSet::displayText() const
+{
+    std::string text;
+    for (const auto& modifier : modifiers) {
+        if (!contains(modifier.set))
+            continue;
+        if (!text.empty())
+            text += ' ';
+        text += modifier.text;
+    }
+    return text;
+}
+
+} // namespace brindlex

@@ -1,0 +1,116 @@
+#include "mouse/MouseAction.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+#include <vector>
+
+namespace brindlex {
+namespace {
+
+using Action = MouseAction::Any;
+
+Result<Action, JsonProblem> read(std::string_view text)
+{
+    return fromJson<Action>(parseJson(text).value());
+}
+
+TEST(MouseAction, isStoredUnderTheNameOfItsCase)
+{
+    const std::vector<std::pair<Action, std::string>> rows{
+        {MouseAction::MissionControl{}, R"({"missionControl":{}})"},
+        {MouseAction::Back{}, R"({"back":{}})"},
+        {MouseAction::Forward{}, R"({"forward":{}})"},
+        {MouseAction::ShowDesktop{}, R"({"showDesktop":{}})"},
+        {MouseAction::SwitchSpaceLeft{}, R"({"switchSpaceLeft":{}})"},
+        {MouseAction::SwitchSpaceRight{}, R"({"switchSpaceRight":{}})"},
+        {MouseAction::SendKeystroke{49, ModifierSet::command},
+            R"({"sendKeystroke":{"keyCode":49,"modifiers":1}})"},
+        {MouseAction::RunShellCommand{"echo hi"}, R"({"runShellCommand":{"_0":"echo hi"}})"},
+    };
+    for (const auto& [action, text] : rows) {
+        EXPECT_EQ(jsonText(toJson(action)), text);
+        EXPECT_EQ(read(text).value(), action) << text;
+    }
+}
+
+TEST(MouseAction, ofARetiredNameBecomesMissionControl)
+{
+    const auto action = read(R"({"launchpad":{}})").value();
+
+    EXPECT_EQ(action, Action(MouseAction::MissionControl{}));
+    EXPECT_EQ(jsonText(toJson(action)), R"({"missionControl":{}})");
+}
+
+TEST(MouseAction, looksOnlyForThePresenceOfAPlainKey)
+{
+    for (const auto* text : {R"({"back":null})", R"({"back":7})", R"({"back":"x"})",
+             R"({"back":{"extra":1}})", R"({"back":[]})"})
+        EXPECT_EQ(read(text).value(), Action(MouseAction::Back{})) << text;
+}
+
+TEST(MouseAction, looksForItsKeysInOneOrder)
+{
+    const std::vector<std::string> keys{"missionControl", "back", "forward", "showDesktop",
+        "switchSpaceLeft", "switchSpaceRight", "sendKeystroke", "runShellCommand"};
+    const std::vector<Action> actions{MouseAction::MissionControl{}, MouseAction::Back{},
+        MouseAction::Forward{}, MouseAction::ShowDesktop{}, MouseAction::SwitchSpaceLeft{},
+        MouseAction::SwitchSpaceRight{}, MouseAction::SendKeystroke{1, {}},
+        MouseAction::RunShellCommand{"x"}};
+    for (std::size_t first = 0; first < keys.size(); ++first) {
+        auto document = Json::object();
+        for (auto key = keys.size(); key-- > first;)
+            document[keys[key]] = Json{};
+        document["sendKeystroke"] = Json{{"keyCode", 1}, {"modifiers", 0}};
+        document["runShellCommand"] = "x";
+        if (first == 7)
+            document.erase("sendKeystroke");
+        EXPECT_EQ(fromJson<Action>(document).value(), actions[first]) << jsonText(document);
+    }
+    EXPECT_EQ(read(R"({"back":{},"launchpad":{}})").value(), Action(MouseAction::MissionControl{}));
+}
+
+TEST(MouseAction, readsBothFormsOfAShellCommand)
+{
+    EXPECT_EQ(read(R"({"runShellCommand":{"_0":"x"}})").value(),
+        read(R"({"runShellCommand":"x"})").value());
+    EXPECT_EQ(read(R"({"runShellCommand":""})").value(), Action(MouseAction::RunShellCommand{""}));
+}
+
+TEST(MouseAction, withoutAKnownKeyIsUnknown)
+{
+    EXPECT_EQ(read("{}").error(), (JsonProblem{"", "Unknown mouse action"}));
+    EXPECT_EQ(read(R"({"Back":{}})").error(), (JsonProblem{"", "Unknown mouse action"}));
+}
+
+TEST(MouseAction, withABadPayloadTellsWhere)
+{
+    EXPECT_EQ(read(R"("back")").error(), (JsonProblem{"", "is not an object"}));
+    EXPECT_EQ(read(R"({"sendKeystroke":{"keyCode":1}})").error(),
+        (JsonProblem{"sendKeystroke.modifiers", "is missing"}));
+    EXPECT_EQ(read(R"({"sendKeystroke":{"keyCode":1.5,"modifiers":0}})").error().path,
+        "sendKeystroke.keyCode");
+    EXPECT_EQ(read(R"({"runShellCommand":{}})").error(),
+        (JsonProblem{"runShellCommand._0", "is missing"}));
+    EXPECT_EQ(read(R"({"runShellCommand":{"_0":1}})").error(),
+        (JsonProblem{"runShellCommand._0", "is not text"}));
+    EXPECT_EQ(
+        read(R"({"runShellCommand":1})").error(), (JsonProblem{"runShellCommand", "is not text"}));
+}
+
+TEST(MouseAction, doesNotFallBackFromABadPayloadToALaterKey)
+{
+    EXPECT_FALSE(read(R"({"sendKeystroke":1,"runShellCommand":"x"})"));
+}
+
+TEST(MouseAction, keepsAShellCommandToTheByte)
+{
+    const Action action = MouseAction::RunShellCommand{"printf '%s\\n' \"ä\t\u4F60\"; exit 1\n"};
+
+    const auto text = jsonText(toJson(action));
+
+    EXPECT_EQ(read(text).value(), action) << text;
+}
+
+} // namespace
+} // namespace brindlex
