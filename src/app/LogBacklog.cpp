@@ -39,7 +39,7 @@ std::string_view LogChunk::message(const Line& line) const
 
 void LogBacklog::append(Date now, const LogCall& call)
 {
-    if (size_ > 0 && size_ + call.message.size() > limit) {
+    if (size_ > 0 && size_ + call.message.size() > limit_) {
         ++dropped_;
         return;
     }

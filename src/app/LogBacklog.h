@@ -35,8 +35,10 @@ struct LogChunk {
 /// and over.
 class LogBacklog {
 public:
+    static constexpr std::size_t usualLimit = 32 * 1024 * 1024;
+
     /// So many bytes of lines wait at most; a single line may be larger.
-    static constexpr std::size_t limit = 32 * 1024 * 1024;
+    explicit LogBacklog(std::size_t limit = usualLimit) : limit_(limit) { }
 
     /// Appends the line of a call, or counts it as dropped where there is no room.
     void append(Date now, const LogCall& call);
@@ -51,6 +53,7 @@ public:
 private:
     LogChunk& chunkWithRoomFor(std::size_t bytes);
 
+    const std::size_t limit_;
     std::vector<LogChunk> chunks_;
     std::vector<LogChunk> spares_;
     std::size_t size_ = 0;

@@ -22,10 +22,10 @@ class SystemLog;
 /// queue, where all the rest happens: a call waits neither for a file nor for the system log. Lines
 /// that wait together are written together. The lines of one process keep their order.
 ///
-/// What waits is bounded: while a flood outruns the disk by `LogBacklog::limit`, lines are dropped,
-/// whatever their level, since making the caller wait could halt the main thread; one WARN line
-/// says afterwards how many. Owned by a `shared_ptr`; work that waits in the queue keeps it alive.
-/// All operations are callable from any thread.
+/// What waits is bounded: while a flood outruns the disk by `LogBacklog::usualLimit`, lines are
+/// dropped, whatever their level, since making the caller wait could halt the main thread; one WARN
+/// line says afterwards how many. Owned by a `shared_ptr`; work that waits in the queue keeps it
+/// alive. All operations are callable from any thread.
 class LogWriter : public LogSink, public std::enable_shared_from_this<LogWriter> {
 public:
     /// The queue is for this writer alone and ends before the others.
