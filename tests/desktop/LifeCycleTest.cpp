@@ -138,8 +138,7 @@ TEST(LifeCycle, endsInOrderWhenTheScreenGoes)
 TEST(LifeCycle, goesOnWithoutTheSessionBusThatWentAway)
 {
     ProgramDesk desk;
-    desk.files.writePreferences(
-        SwitchingRules{.applications = {{identifierOf("Alpha"), german}}}.preferences());
+    desk.applyRules({{"Alpha", german}});
     RunningProgram program(desk.desktop);
     ASSERT_TRUE(program.launches()) << program.report();
 
@@ -154,8 +153,7 @@ TEST(LifeCycle, goesOnWithoutTheSessionBusThatWentAway)
 TEST(LifeCycle, worksWithoutASessionBus)
 {
     ProgramDesk desk({.keyboardLayouts = "us,de,ru", .sessionBus = false});
-    desk.files.writePreferences(
-        SwitchingRules{.applications = {{identifierOf("Alpha"), german}}}.preferences());
+    desk.applyRules({{"Alpha", german}});
     RunningProgram program(desk.desktop);
     ASSERT_TRUE(program.launches()) << program.report();
 

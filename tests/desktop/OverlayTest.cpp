@@ -12,9 +12,7 @@ class Overlay : public testing::Test {
 protected:
     Overlay()
     {
-        desk.files.writePreferences(SwitchingRules{
-            .applications = {{identifierOf("Alpha"), german}, {identifierOf("Beta"), russian}}}
-                                        .preferences());
+        desk.applyRules({{"Alpha", german}, {"Beta", russian}});
         desk.windows.place(alpha.window(), {340, 200, 600, 400});
         desk.windows.place(beta.window(), {10, 30, 200, 100});
         program.emplace(desk.desktop);

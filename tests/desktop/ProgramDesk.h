@@ -2,6 +2,7 @@
 
 #include "support/DesktopWindows.h"
 #include "support/Eventually.h"
+#include "support/InstalledApplication.h"
 #include "support/KeyboardGroup.h"
 #include "support/PlayedInput.h"
 #include "support/ProgramFiles.h"
@@ -11,20 +12,20 @@
 #include "support/VirtualDesktop.h"
 #include "support/XConnection.h"
 
-#include <string>
+#include <vector>
 
 namespace brindlex {
-
-/// The identifier of an application of `ProgramDesk`, by the class of its windows.
-std::string identifierOf(const std::string& className);
 
 /// A desktop with the layouts US, German and Russian and the applications Alpha, Beta and Gamma
 /// installed, ready for the program to be started on it.
 struct ProgramDesk {
     explicit ProgramDesk(const VirtualDesktop::Options& options = usual);
 
-    /// Selects nothing and is what most tests want.
+    /// What most tests want.
     static const VirtualDesktop::Options usual;
+
+    /// Gives the user these rules and no other settings; an application goes by its class.
+    void applyRules(const std::vector<SwitchingRules::Rule>& applications) const;
 
     /// Waits until the layout is in force.
     bool usesGroup(int group) const;

@@ -1,0 +1,34 @@
+#include "app/Log.h"
+#include "app/LogWriter.h"
+#include "app/linux/LinuxEntry.h"
+#include "foundation/FatalError.h"
+#include "platform/linux/JournalSystemLog.h"
+#include "platform/linux/XdgUserFolders.h"
+#include "platform/posix/PosixAppGroupContainer.h"
+#include "platform/posix/PosixClock.h"
+#include "platform/posix/SerialQueue.h"
+
+#include <memory>
+
+int main(int, char** arguments)
+{
+    using namespace brindlex;
+    PosixClock clock;
+    XdgUserFolders userFolders;
+    PosixAppGroupContainer container(userFolders.dataHome() / "group.com.brindlex.Brindlex");
+    JournalSystemLog systemLog;
+    SerialQueue logQueue("Brindlex.Log");
+    const auto log = std::make_shared<LogWriter>(logQueue, container, systemLog, clock);
+    Log::install(log);
+    setFatalErrorHandler([log](const std::string& message) {
+        Log::error(message, logCategory::lifecycle);
+        log->drain();
+    });
+
+    const int status = runOnDesktop(arguments[0], clock, userFolders, container, *log);
+
+    log->drain();
+    setFatalErrorHandler(nullptr);
+    Log::install(nullptr);
+    return status;
+}
