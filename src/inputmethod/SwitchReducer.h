@@ -13,13 +13,12 @@ namespace brindlex {
 
 /// Advances the switching of input sources by one event.
 ///
-///                       ┌──────────────────────── stop, switched off ────────────────────────┐
-///                       │                                                                    │
-///                       ▼      start, switched on                  browser in front          │
-///     ────────▶ stopped ─────────────────────▶ observing ─────────────────▶ observingWith────┤
-///                       ▲                       │      ◀───────────────── BrowserPolling     │
-///                       │                       │       other application,                   │
-///                       └──── stop, switched off┘       website rules off                    │
+///                start, switched on             browser in front
+///     ▶ stopped ────────────────────▶ observing ──────────────────▶ observingWithBrowserPolling
+///        ▲  ▲                          │     ▲                       │        │
+///        │  └─── stop, switched off ───┘     └── other application, ─┘        │
+///        │                                       website rules off            │
+///        └──────────────────────── stop, switched off ────────────────────────┘
 ///
 /// An activation and a look at the browser's page attempt a switch: they ask the rules and select
 /// what these answer, once per place, so that a user who changes the source afterwards is left
