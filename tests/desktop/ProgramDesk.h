@@ -40,7 +40,7 @@ struct ProgramDesk {
 };
 
 inline constexpr auto us = "xkb:us::eng";
-inline constexpr auto german = "xkb:de::ger";
+inline constexpr auto german = "xkb:de::deu";
 inline constexpr auto russian = "xkb:ru::rus";
 
 inline constexpr int usGroup = 0;

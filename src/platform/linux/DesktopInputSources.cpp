@@ -1,7 +1,7 @@
 #include "platform/linux/DesktopInputSources.h"
 
 #include "app/Log.h"
-#include "platform/linux/InputSourceIdentifiers.h"
+#include "platform/InputSourceIdentifiers.h"
 
 #include <algorithm>
 #include <array>

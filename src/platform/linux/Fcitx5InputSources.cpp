@@ -2,7 +2,7 @@
 
 #include "app/Log.h"
 #include "foundation/Text.h"
-#include "platform/linux/InputSourceIdentifiers.h"
+#include "platform/InputSourceIdentifiers.h"
 
 #include <QDBusArgument>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/InputSourceIdentifiers.h"
+#include "platform/InputSourceIdentifiers.h"
 
 #include <map>
 #include <string>

@@ -1,4 +1,4 @@
-#include "platform/linux/InputSourceIdentifiers.h"
+#include "platform/InputSourceIdentifiers.h"
 
 #include <gtest/gtest.h>
 
