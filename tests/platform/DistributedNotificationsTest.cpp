@@ -128,11 +128,32 @@ TYPED_TEST(DistributedNotificationsPromises, letAnObserverLeaveFromInsideItsHand
 
 TYPED_TEST(DistributedNotificationsPromises, takeAnyText)
 {
+    const std::vector<std::string> texts{
+        "", " ", "a b=,;", "it's", "a\\", "tab\tnew\n", "é", "键盘 🎹", "%1"};
+    std::vector<std::string> heard;
+    std::vector<Subscription> subscriptions;
+    for (const auto& text : texts) {
+        subscriptions.push_back(
+            this->one().observe(text, "o", [&heard, text] { heard.push_back("name " + text); }));
+        subscriptions.push_back(
+            this->one().observe("n", text, [&heard, text] { heard.push_back("object " + text); }));
+    }
+    for (const auto& text : texts) {
+        this->other().post(text, "o");
+        this->other().post("n", text);
+        this->settle();
+        EXPECT_EQ(heard, (std::vector{"name " + text, "object " + text}));
+        heard.clear();
+    }
+}
+
+TYPED_TEST(DistributedNotificationsPromises, surviveBytesThatAreNotText)
+{
     int heard = 0;
-    const std::string name = "键 盘=,;";
-    const auto subscription = this->one().observe(name, "", [&] { ++heard; });
-    this->other().post(name, "");
-    this->other().post("\xFF\xFE", std::string("a\0b", 3));
+    const auto strange = this->one().observe("\xFF\xFE", std::string("a\0b", 3), [&] { ++heard; });
+    const auto ordinary = this->one().observe(showMainWindow, program, [&] { ++heard; });
+    this->other().post("\xC3", std::string("\0", 1));
+    this->other().post(showMainWindow, program);
     this->settle();
     EXPECT_EQ(heard, 1);
 }
