@@ -14,8 +14,17 @@ Instance& shared(std::unique_ptr<Instance>& instance, Arguments&&... arguments)
 } // namespace
 
 SharedInstances::SharedInstances(Platform& platform)
-    : platform_(platform), preferences_(platform.defaults, platform.userFolders)
+    : platform_(platform), preferences_(platform.defaults, platform.userFolders),
+      changesOfOthers_(platform.defaults.observeChanges([this] { reloadStores(); }))
 {
+}
+
+void SharedInstances::reloadStores()
+{
+    if (inputMethodConfigStore_)
+        inputMethodConfigStore_->reload();
+    if (smartInputMethodConfigStore_)
+        smartInputMethodConfigStore_->reload();
 }
 
 InputMethodConfigStore& SharedInstances::inputMethodConfigStore()

@@ -12,7 +12,7 @@
 namespace brindlex {
 
 /// The one of each manager and store. Each is made on first use and kept to the end of the process.
-/// Main thread only.
+/// What another process writes to the preferences reaches the stores. Main thread only.
 class SharedInstances {
 public:
     explicit SharedInstances(Platform& platform);
@@ -24,12 +24,15 @@ public:
     InputMethodSwitchCoordinator& inputMethodSwitchCoordinator();
 
 private:
+    void reloadStores();
+
     Platform& platform_;
     Preferences preferences_;
     std::unique_ptr<InputMethodConfigStore> inputMethodConfigStore_;
     std::unique_ptr<SmartInputMethodConfigStore> smartInputMethodConfigStore_;
     std::unique_ptr<OverlayHUDController> overlayHUDController_;
     std::unique_ptr<InputMethodSwitchCoordinator> inputMethodSwitchCoordinator_;
+    Subscription changesOfOthers_;
 };
 
 } // namespace brindlex

@@ -281,5 +281,24 @@ TEST(AppLifecycleCoordinator, showsTheNameOfASourceFor800Milliseconds)
     EXPECT_TRUE(desktop.overlayPanel.isFading());
 }
 
+TEST(AppLifecycleCoordinator, followsRulesThatAnotherProcessWrites)
+{
+    SimulatedSessionServices services;
+    SimulatedDesktop desktop(services);
+    RecordedLog log;
+    SharedInstances shared(desktop.platform);
+    AppLifecycleCoordinator lifecycle(desktop.platform, shared);
+    lifecycle.start();
+    InputMethodConfig config;
+    config.enabled = false;
+
+    shared.preferences().write(&UserDefaultPreferenceKeys::inputMethodConfig, config);
+    desktop.mainThread.runUntilIdle();
+
+    EXPECT_EQ(shared.inputMethodConfigStore().config().value(), config);
+    EXPECT_EQ(
+        shared.inputMethodSwitchCoordinator().state().lifecycle, SwitchState::Lifecycle::stopped);
+}
+
 } // namespace
 } // namespace brindlex

@@ -30,7 +30,8 @@ const std::map<std::string, std::set<std::string>> mayInclude{
     {"inputmethod", {"foundation", "platform", "app"}},
     {"mouse", {"foundation", "platform", "app", "inputmethod"}},
     {"app", {"foundation", "platform", "inputmethod", "mouse"}},
-    {"app/linux", {"foundation", "platform", "platform/posix", "platform/linux", "app"}},
+    {"app/linux",
+        {"foundation", "platform", "platform/posix", "platform/linux", "app", "inputmethod"}},
 };
 
 /// Where the whole of app/ may be included, not just what the subsystems share.

@@ -4,6 +4,7 @@
 #include "app/Log.h"
 #include "app/SharedInstances.h"
 #include "app/linux/LinuxPlatform.h"
+#include "inputmethod/TextInputSourceService.h"
 #include "platform/linux/UnixSignals.h"
 
 #include <QGuiApplication>
@@ -11,6 +12,7 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <malloc.h>
 #include <utility>
 
 namespace brindlex {
@@ -74,6 +76,18 @@ bool canReachDisplay()
     return isReached;
 }
 
+/// Prepares the overlay for the names that it will show, and gives back what the start took and
+/// nothing needs any more.
+void getReadyForLater(LinuxPlatform& platform)
+{
+    std::string names;
+    for (const auto& source :
+        TextInputSourceService(platform.abilities().inputSources).availableSources())
+        names += source.localizedName;
+    platform.overlayPanel().warmUp(names);
+    ::malloc_trim(0);
+}
+
 } // namespace
 
 int runOnDesktop(char* programName, Clock& clock, XdgUserFolders& userFolders,
@@ -105,8 +119,7 @@ int runOnDesktop(char* programName, Clock& clock, XdgUserFolders& userFolders,
     lifecycle.start();
     Subscription warmUp;
     if (lifecycle.isStarted())
-        warmUp = platform.mainThread.after(
-            warmUpDelay, [&] { linuxPlatform.overlayPanel().warmUp(); });
+        warmUp = platform.mainThread.after(warmUpDelay, [&] { getReadyForLater(linuxPlatform); });
     const int status = QGuiApplication::exec();
     ending.end();
     return status;

@@ -22,9 +22,6 @@ constexpr int fadeOutMilliseconds = 250;
 /// Leaves a part of the screen at both sides of a long text.
 constexpr double mostShareOfScreen = 0.8;
 
-/// Scripts whose fonts are apart from each other, as the names of input sources use them.
-const QString fontSample = QStringLiteral("Aa 中文 あ 한 ع 😀");
-
 QRegion roundedRegion(const QSize& size)
 {
     QBitmap shape(size);
@@ -58,10 +55,10 @@ public:
         });
     }
 
-    void warmUp()
+    void warmUp(const QString& text)
     {
         prepare();
-        const PillHUDView sample(fontSample, 1000);
+        const PillHUDView sample(text, 1000);
         QImage surface(sample.fittingSize(), QImage::Format_ARGB32_Premultiplied);
         QPainter painter(&surface);
         sample.paint(painter, PillHUDView::Fill::translucent);
@@ -163,7 +160,10 @@ QtOverlayPanel::Window& QtOverlayPanel::window()
     return *window_;
 }
 
-void QtOverlayPanel::warmUp() { window().warmUp(); }
+void QtOverlayPanel::warmUp(const std::string& text)
+{
+    window().warmUp(QString::fromStdString(text));
+}
 
 void QtOverlayPanel::show(const std::string& text)
 {
