@@ -11,11 +11,13 @@ constexpr auto longEnough = 400ms;
 
 const VirtualDesktop::Options ProgramDesk::usual{.keyboardLayouts = "us,de,ru"};
 
+std::string identifierOf(const std::string& className) { return "com.example." + className; }
+
 ProgramDesk::ProgramDesk(const VirtualDesktop::Options& options)
     : desktop(options), windows(server), input(server), files(desktop)
 {
     for (const auto className : {"Alpha", "Beta", "Gamma"})
-        installApplication(desktop, className);
+        installApplication(desktop, identifierOf(className), className);
 }
 
 void ProgramDesk::applyRules(const std::vector<SwitchingRules::Rule>& applications) const

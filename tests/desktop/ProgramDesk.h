@@ -16,6 +16,9 @@
 
 namespace brindlex {
 
+/// The identifier of an application of `ProgramDesk`, by the class of its windows.
+std::string identifierOf(const std::string& className);
+
 /// A desktop with the layouts US, German and Russian and the applications Alpha, Beta and Gamma
 /// installed, ready for the program to be started on it.
 struct ProgramDesk {

@@ -9,6 +9,9 @@
 namespace brindlex {
 namespace {
 
+constexpr auto lettersApplication = "com.example.Letters";
+constexpr auto notesApplication = "com.example.Notes";
+
 constexpr auto english = "xkb:us::eng";
 constexpr auto german = "xkb:de::ger";
 constexpr auto pinyin = "libpinyin";
@@ -22,9 +25,8 @@ std::vector<std::string> paper(const std::string& title, const std::string& colo
 SwitchingRules rules()
 {
     return {
-        .applications = {{identifierOf("Letters"), german},
-            {identifierOf("Notes"), std::string("ibus:") + pinyin},
-            {"org.chromium.Chromium", english}},
+        .applications = {{lettersApplication, german},
+            {notesApplication, std::string("ibus:") + pinyin}, {"org.chromium.Chromium", english}},
         .websites = {{"forum.example.org", german}},
     };
 }
@@ -34,8 +36,8 @@ SwitchingRules rules()
 TourDesktop::TourDesktop() : ibus(desktop, {english, german, pinyin})
 {
     paintWallpaper(server);
-    for (const auto application : {"Letters", "Notes"})
-        installApplication(desktop, application);
+    installApplication(desktop, lettersApplication, "Letters");
+    installApplication(desktop, notesApplication, "Notes");
     files.writePreferences(rules().preferences());
     browser.emplace(desktop, windows, web, "www.example.com");
     windows.place(browser->window(), {150, 350, 980, 420});
