@@ -1,7 +1,7 @@
 #include "platform/linux/IBusAddress.h"
 
+#include "foundation/FileReplacement.h"
 #include "foundation/Text.h"
-#include "platform/linux/BoundedFile.h"
 
 #include <cerrno>
 #include <charconv>
@@ -22,8 +22,8 @@ std::string variable(const char* name)
 std::string machineIdentifier()
 {
     for (const auto* file : {"/var/lib/dbus/machine-id", "/etc/machine-id"})
-        if (const auto content = readBoundedFile(file, 4096))
-            return trimmed(*content);
+        if (const auto content = readFile(file, 4096); content && *content)
+            return trimmed(**content);
     return {};
 }
 
@@ -71,10 +71,10 @@ std::optional<IBusAddress> ibusAddress()
         file = ibusAddressFile(config.empty() ? variable("HOME") + "/.config" : config,
             machineIdentifier(), variable("DISPLAY"));
     }
-    const auto content = readBoundedFile(file, fileLimit);
-    if (!content)
+    const auto content = readFile(file, fileLimit);
+    if (!content || !*content)
         return {};
-    const auto address = parseIBusAddress(*content);
+    const auto address = parseIBusAddress(**content);
     if (!address || !isRunning(address->processIdentifier))
         return {};
     return address;
