@@ -252,7 +252,7 @@ TEST_F(QtOverlayPanelTest, followsACompositorThatComesAndGoes)
 
 TEST_F(QtOverlayPanelTest, showsNothingWhenItIsWarmedUp)
 {
-    panel.warmUp();
+    panel.warmUp("Aa 中文");
 
     EXPECT_TRUE(loopThroughout(100ms, [&] { return window() == XCB_WINDOW_NONE; }));
     shown("U.S.");
