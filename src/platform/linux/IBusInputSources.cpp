@@ -93,14 +93,17 @@ IBusInputSources::IBusInputSources(XkbInputSources& layouts, DBusDeadline deadli
         problem_ = bus_.lastError().message().toStdString();
         return;
     }
+    // The daemon answers nothing that reaches it before it has given the connection a name.
     whenAnswered(call(busName, busPath, busName, "Hello", {}), deadline, &context_,
-        [this](const QDBusMessage& reply) {
-            if (reply.type() == QDBusMessage::ErrorMessage)
+        [this, deadline](const QDBusMessage& reply) {
+            if (reply.type() == QDBusMessage::ErrorMessage) {
                 fail(reply);
+                return;
+            }
+            listen();
+            readCurrent(deadline);
+            readEngineList(deadline);
         });
-    listen();
-    readCurrent(deadline);
-    readEngineList(deadline);
 }
 
 IBusInputSources::~IBusInputSources()
