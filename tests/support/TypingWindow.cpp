@@ -30,7 +30,7 @@ TypingWindow::TypingWindow(const DesktopWindows& windows, const std::string& cla
 {
     const auto isReady = [&] {
         const auto found = windows.withClass(className);
-        if (!found || !windows.isOnScreen(*found)
+        if (!found || !windows.hasFocus(*found)
             || !std::filesystem::exists(folder_.path() / "ready"))
             return false;
         window_ = *found;
