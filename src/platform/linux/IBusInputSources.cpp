@@ -121,10 +121,11 @@ bool IBusInputSources::isUsable() const
 
 std::optional<std::string> IBusInputSources::current()
 {
-    const auto& engine = target_ ? target_ : engine_;
-    if (!engine)
+    if (target_)
+        return sourceIDOfIBusEngine(target_->engine);
+    if (!engine_)
         return {};
-    return sourceIDOfIBusEngine(*engine);
+    return sourceIDOfIBusEngine(*engine_);
 }
 
 SelectionStatus IBusInputSources::select(const std::string& id)
@@ -141,46 +142,56 @@ SelectionStatus IBusInputSources::select(const std::string& id)
     if (group && *group != groupBefore)
         layouts_.lockGroup(*group);
 
-    return ask(found->name, groupBefore);
+    return ask({found->name, groupBefore});
 }
 
-SelectionStatus IBusInputSources::ask(const std::string& engine, int groupBefore)
+SelectionStatus IBusInputSources::ask(Selection selection)
 {
-    if (!target_ && engine_ == engine)
+    if (!target_ && engine_ == selection.engine)
         return SelectionStatus::done;
-    target_ = engine;
-    echoes_.push_back(engine);
-    const int number = ++selection_;
-    const auto pending = call(
-        daemonName, daemonPath, daemonName, "SetGlobalEngine", {QString::fromStdString(engine)});
-    if (waitForAnswer(pending, std::chrono::steady_clock::now() + selectionWait))
-        return finish(number, engine, groupBefore, pending.reply());
-    whenAnswered(
-        pending, doNotWait, &context_, [this, number, engine, groupBefore](const auto& reply) {
-            finish(number, engine, groupBefore, reply);
-        });
+    target_ = std::move(selection);
+    if (isAsking_)
+        return SelectionStatus::done;
+    return askForTarget(std::chrono::steady_clock::now() + selectionWait);
+}
+
+SelectionStatus IBusInputSources::askForTarget(DBusDeadline deadline)
+{
+    isAsking_ = true;
+    const auto asked = *target_;
+    echoes_.push_back(asked.engine);
+    const auto pending = call(daemonName, daemonPath, daemonName, "SetGlobalEngine",
+        {QString::fromStdString(asked.engine)});
+    if (waitForAnswer(pending, deadline))
+        return finish(asked, pending.reply());
+    whenAnswered(pending, doNotWait, &context_,
+        [this, asked](const QDBusMessage& reply) { finish(asked, reply); });
     return SelectionStatus::done;
 }
 
-SelectionStatus IBusInputSources::finish(
-    int number, const std::string& engine, int groupBefore, const QDBusMessage& reply)
+SelectionStatus IBusInputSources::finish(const Selection& asked, const QDBusMessage& reply)
 {
-    const bool isLatest = number == selection_;
-    if (isLatest)
-        target_.reset();
-    if (reply.type() == QDBusMessage::ErrorMessage) {
-        std::erase(echoes_, engine);
-        Log::warn("IBus did not select " + engine + ": " + reply.errorMessage().toStdString(),
+    isAsking_ = false;
+    const bool isLatest = target_->engine == asked.engine;
+    const bool isRefused = reply.type() == QDBusMessage::ErrorMessage;
+    if (isRefused) {
+        std::erase(echoes_, asked.engine);
+        Log::warn("IBus did not select " + asked.engine + ": " + reply.errorMessage().toStdString(),
             logCategory::inputMethod);
-        if (isLatest)
-            layouts_.lockGroup(groupBefore);
-        notify();
-        return bus_.isConnected() ? SelectionStatus::refused : SelectionStatus::notConnected;
+    } else {
+        engine_ = asked.engine;
     }
-    if (isLatest)
-        engine_ = engine;
+    if (!isLatest) {
+        askForTarget(doNotWait);
+        return SelectionStatus::done;
+    }
+    target_.reset();
+    if (isRefused)
+        layouts_.lockGroup(asked.groupBefore);
     notify();
-    return SelectionStatus::done;
+    if (!isRefused)
+        return SelectionStatus::done;
+    return bus_.isConnected() ? SelectionStatus::refused : SelectionStatus::notConnected;
 }
 
 QDBusPendingCall IBusInputSources::call(const char* service, const char* path,

@@ -246,6 +246,33 @@ TEST(DesktopInputSources, doesNotHangWithAnIBusThatHangs)
     EXPECT_TRUE(loopUntil([&] { return currentID(sources) == "ibus:libpinyin"; }));
 }
 
+TEST(DesktopInputSources, endsInTheLastOfTwoEnginesWhenTheFirstHasToStart)
+{
+    VirtualDesktop desktop({.keyboardLayouts = "us"});
+    IBusDaemon daemon(desktop, ibusEngines);
+    const XConnection server;
+    const DesktopWindows windows(server);
+    const TypingWindow first(windows, "First");
+    const TypingWindow second(windows, "Second");
+    const SessionBus bus;
+    X11Connection connection;
+    DesktopInputSources sources(connection, bus.get());
+    ASSERT_TRUE(becomes(sources, "IBus"));
+    EXPECT_EQ(selectID(sources, "xkb:us::eng"), 0);
+    ASSERT_TRUE(loopUntil([&] { return daemon.current() == "xkb:us::eng"; }));
+
+    EXPECT_EQ(selectID(sources, "ibus:libpinyin"), 0);
+    EXPECT_TRUE(windows.activate(first.window()));
+    EXPECT_EQ(selectID(sources, "xkb:us::eng"), 0);
+    EXPECT_EQ(currentID(sources), "xkb:us::eng");
+
+    EXPECT_TRUE(loopUntil([&] { return processOf(desktop, "ibus-engine-libpinyin") > 0; }));
+    // Pinyin may come and go until both have been carried out.
+    EXPECT_TRUE(loopUntil(
+        [&] { return loopThroughout(1s, [&] { return daemon.current() == "xkb:us::eng"; }); }));
+    EXPECT_EQ(currentID(sources), "xkb:us::eng");
+}
+
 TEST(DesktopInputSources, findsFcitxAgainAfterItWasKilled)
 {
     VirtualDesktop desktop;
