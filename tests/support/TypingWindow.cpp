@@ -30,13 +30,13 @@ TypingWindow::TypingWindow(const DesktopWindows& windows, const std::string& cla
 {
     const auto isReady = [&] {
         const auto found = windows.withClass(className);
-        if (!found || !windows.hasFocus(*found)
+        if (!found || !windows.isOnScreen(*found)
             || !std::filesystem::exists(folder_.path() / "ready"))
             return false;
         window_ = *found;
         return true;
     };
-    if (!eventually(isReady))
+    if (!eventually(isReady) || !windows.activate(window_))
         fatalError("The terminal " + className + " did not open.\n" + terminal_.output());
 }
 
