@@ -5,6 +5,7 @@
 #include "support/IBusDaemon.h"
 #include "support/KeyboardGroup.h"
 #include "support/LoopUntil.h"
+#include "support/PlayedInput.h"
 #include "support/ProcessTable.h"
 #include "support/RecordedLog.h"
 #include "support/SessionBus.h"
@@ -260,6 +261,8 @@ TEST(DesktopInputSources, endsInTheLastOfTwoEnginesWhenTheFirstHasToStart)
     ASSERT_TRUE(becomes(sources, "IBus"));
     EXPECT_EQ(selectID(sources, "xkb:us::eng"), 0);
     ASSERT_TRUE(loopUntil([&] { return daemon.current() == "xkb:us::eng"; }));
+    PlayedInput(server).type("a");
+    ASSERT_TRUE(second.receives("a"));
 
     EXPECT_EQ(selectID(sources, "ibus:libpinyin"), 0);
     EXPECT_TRUE(windows.activate(first.window()));
