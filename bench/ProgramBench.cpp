@@ -9,6 +9,7 @@
 #include "support/DesktopWindows.h"
 #include "support/Eventually.h"
 #include "support/InstalledApplication.h"
+#include "support/KeyboardGroup.h"
 #include "support/PlainWindow.h"
 #include "support/ProgramFiles.h"
 #include "support/RunningProgram.h"
@@ -31,6 +32,7 @@
 #include <memory>
 #include <string>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace brindlex {
@@ -183,8 +185,10 @@ void measureActivation(int rounds)
     windows.activate(alpha.window());
     RunningProgram program(desktop);
     program.launches();
-    windows.activate(beta.window());
-    windows.activate(alpha.window());
+    for (const auto& [window, group] : {std::pair(beta.window(), 1), std::pair(alpha.window(), 0)})
+        if (!windows.activate(window)
+            || !eventually([&] { return keyboardGroup(server) == group; }))
+            std::printf("%s\n", program.report().c_str());
 
     Witness witness(server);
     std::vector<double> milliseconds;
