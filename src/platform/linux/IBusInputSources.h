@@ -1,15 +1,13 @@
 #pragma once
 
 #include "platform/linux/DBusAnswer.h"
-#include "platform/linux/DBusSignal.h"
+#include "platform/linux/IBusConnection.h"
 #include "platform/linux/IBusEngine.h"
 #include "platform/linux/InputSourceBackend.h"
 #include "platform/linux/XkbInputSources.h"
 
-#include <QDBusConnection>
 #include <QObject>
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -47,8 +45,6 @@ private:
         int groupBefore = 0;
     };
 
-    QDBusPendingCall call(const char* service, const char* path, const char* interface,
-        const char* member, const QVariantList& arguments) const;
     void listen();
     void readEngineList(DBusDeadline deadline);
     void readEngines(const QStringList& names, DBusDeadline deadline);
@@ -63,10 +59,8 @@ private:
     std::optional<int> groupFor(const IBusEngine& engine);
 
     XkbInputSources& layouts_;
-    QString connectionName_;
-    QDBusConnection bus_;
+    IBusConnection bus_;
     QObject context_;
-    std::vector<std::unique_ptr<DBusSignal>> signals_;
     std::vector<IBusEngine> engines_;
     std::vector<InputSource> sources_;
     std::optional<std::string> engine_;
