@@ -6,6 +6,7 @@
 // "ready" is the line "Brindlex launched" in the log. "activation" is from the window manager
 // naming the window to the server's keyboard having the group, seen by one other client.
 
+#include "platform/linux/XkbProtocol.h"
 #include "support/DesktopWindows.h"
 #include "support/Eventually.h"
 #include "support/InstalledApplication.h"
@@ -20,9 +21,6 @@
 #include <poll.h>
 #include <unistd.h>
 #include <xcb/xcb.h>
-#define explicit explicit_
-#include <xcb/xkb.h>
-#undef explicit
 
 #include <algorithm>
 #include <chrono>
@@ -32,7 +30,6 @@
 #include <memory>
 #include <string>
 #include <thread>
-#include <utility>
 #include <vector>
 
 namespace brindlex {
@@ -185,10 +182,13 @@ void measureActivation(int rounds)
     windows.activate(alpha.window());
     RunningProgram program(desktop);
     program.launches();
-    for (const auto& [window, group] : {std::pair(beta.window(), 1), std::pair(alpha.window(), 0)})
-        if (!windows.activate(window)
+    const auto settle = [&](const PlainWindow& window, int group) {
+        if (!windows.activate(window.window())
             || !eventually([&] { return keyboardGroup(server) == group; }))
             std::printf("%s\n", program.report().c_str());
+    };
+    settle(beta, 1);
+    settle(alpha, 0);
 
     Witness witness(server);
     std::vector<double> milliseconds;
