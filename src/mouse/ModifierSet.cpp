@@ -1,5 +1,7 @@
 #include "mouse/ModifierSet.h"
 
+#include "platform/Event.h"
+
 #include <array>
 #include <string_view>
 
@@ -14,10 +16,10 @@ struct Modifier {
 
 /// In the order of the display text.
 constexpr std::array modifiers{
-    Modifier{ModifierSet::control, 0x40000, "^"},
-    Modifier{ModifierSet::option, 0x80000, "Option"},
-    Modifier{ModifierSet::shift, 0x20000, "Shift"},
-    Modifier{ModifierSet::command, 0x100000, "Command"},
+    Modifier{ModifierSet::control, eventFlag::control, "^"},
+    Modifier{ModifierSet::option, eventFlag::option, "Option"},
+    Modifier{ModifierSet::shift, eventFlag::shift, "Shift"},
+    Modifier{ModifierSet::command, eventFlag::command, "Command"},
 };
 
 } // namespace

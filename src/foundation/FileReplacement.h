@@ -1,0 +1,43 @@
+#pragma once
+
+#include "foundation/Result.h"
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace brindlex {
+
+/// What went wrong with a file, in the system's words.
+struct FileProblem {
+    std::filesystem::path path{};
+    std::string reason{};
+
+    bool operator==(const FileProblem&) const = default;
+};
+
+/// Replaces the content of a file in one step.
+///
+/// Whoever reads the file, also after a crash or a loss of power, finds the old content or the new
+/// one, never a part. On a failure the old file is left as it was. The replacement keeps the owner
+/// and the permissions of the old file; a new file gets `permissions`, whatever the process's mask.
+/// A symbolic link stays, and the file that it leads to is replaced. The folder has to exist. What
+/// is not a regular file is not replaced.
+///
+/// The content is made in a temporary file beside it, ".<name>.tmp". One that a killed process left
+/// behind is used up by the next replacement. Callable from any thread and process: of replacements
+/// at the same time each is whole, and the last one stays. Waits for the disk.
+Result<Done, FileProblem> replaceFile(const std::filesystem::path& file, std::string_view content,
+    std::filesystem::perms permissions
+    = std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+
+/// The whole content of a regular file; nothing when there is no such file.
+///
+/// More than `limit` bytes are a problem, and so is a folder, a device or a pipe, which is never
+/// waited for.
+Result<std::optional<std::string>, FileProblem> readFile(
+    const std::filesystem::path& file, std::size_t limit);
+
+} // namespace brindlex

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <utility>
+
+namespace brindlex {
+
+/// Keeps presses and releases in pairs on their way from the devices to the applications: a release
+/// goes where its press went, so that no application is left with a key or button held, nor with a
+/// release of nothing.
+///
+/// For systems on which the program itself hands on what it has intercepted.
+class PressLedger {
+public:
+    using DeviceIdentifier = std::uint64_t;
+    enum class Kind { button, key };
+
+    /// Notes a press and whether it went on to the applications. A repeated press of a key that is
+    /// held adds nothing.
+    void pressed(DeviceIdentifier device, Kind kind, std::int64_t code, bool wentOn);
+
+    /// Whether the release has to go on; the pair is then closed. True for what was never pressed
+    /// here, since the press came before the program did.
+    bool released(DeviceIdentifier device, Kind kind, std::int64_t code);
+
+    /// Whether any press is open.
+    bool isEmpty() const { return pressesThatWentOn_.empty(); }
+
+private:
+    using Press = std::pair<DeviceIdentifier, std::pair<Kind, std::int64_t>>;
+    std::map<Press, bool> pressesThatWentOn_;
+};
+
+} // namespace brindlex

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "foundation/Subscription.h"
+
+#include <functional>
+
+namespace brindlex {
+
+/// Whether the user works in this program. Main thread only.
+class ProgramActivation {
+public:
+    virtual ~ProgramActivation() = default;
+
+    virtual bool isActive() const = 0;
+
+    /// Tells each time the program has become the active one.
+    virtual Subscription observeDidBecomeActive(std::function<void()> handler) = 0;
+};
+
+} // namespace brindlex

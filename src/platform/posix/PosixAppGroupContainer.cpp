@@ -1,0 +1,70 @@
+#include "platform/posix/PosixAppGroupContainer.h"
+
+#include "app/Log.h"
+
+#include <cerrno>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+/// Makes the folder and what is missing above it. Answers the first error that may be why there is
+/// still no folder afterwards, or 0.
+int makeFolder(const std::filesystem::path& folder)
+{
+    int error = 0;
+    std::filesystem::path made;
+    for (const auto& name : folder) {
+        made /= name;
+        const bool isThere
+            = ::mkdir(made.c_str(), S_IRWXU) == 0 || errno == EEXIST || errno == EISDIR;
+        if (!isThere && error == 0)
+            error = errno;
+    }
+    return error;
+}
+
+} // namespace
+
+PosixAppGroupContainer::PosixAppGroupContainer(std::filesystem::path folder)
+    : folder_(std::move(folder))
+{
+}
+
+std::optional<std::filesystem::path> PosixAppGroupContainer::appGroupContainerURL()
+{
+    struct stat status = {};
+    int error = ::stat(folder_.c_str(), &status) == 0 ? 0 : errno;
+    if (error == ENOENT) {
+        const int cause = makeFolder(folder_);
+        if (::stat(folder_.c_str(), &status) == 0)
+            error = 0;
+        else if (cause != 0)
+            error = cause;
+    }
+    if (error != 0)
+        refuse(Problem::cannotBeHad, "cannot be had: " + std::generic_category().message(error));
+    else if (!S_ISDIR(status.st_mode))
+        refuse(Problem::isNoFolder, "is not a folder");
+    else if (status.st_uid != ::geteuid())
+        refuse(Problem::isNotTheUsers, "belongs to another user");
+    else if ((status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
+        refuse(Problem::isOpenToOthers, "may be written to by others");
+    else
+        return folder_;
+    return {};
+}
+
+/// The log asks for the container itself: the problem counts as logged before it is.
+void PosixAppGroupContainer::refuse(Problem problem, const std::string& words)
+{
+    if (isLogged_[static_cast<std::size_t>(problem)].exchange(true))
+        return;
+    Log::error(
+        "App Group container refused: " + folder_.string() + " " + words, logCategory::lifecycle);
+}
+
+} // namespace brindlex

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/AppGroupContainer.h"
+
+#include <array>
+#include <atomic>
+
+namespace brindlex {
+
+/// A container in a folder of the file system.
+///
+/// The folder and what is missing above it are made for the user alone. A folder that belongs to
+/// another user, that others may write to, or that is none at all is refused, with one ERROR line
+/// for each kind of problem in the life of this object.
+class PosixAppGroupContainer : public AppGroupContainer {
+public:
+    explicit PosixAppGroupContainer(std::filesystem::path folder);
+
+    std::optional<std::filesystem::path> appGroupContainerURL() override;
+
+private:
+    enum class Problem { cannotBeHad, isNoFolder, isNotTheUsers, isOpenToOthers };
+
+    void refuse(Problem problem, const std::string& words);
+
+    const std::filesystem::path folder_;
+    std::array<std::atomic<bool>, 4> isLogged_{};
+};
+
+} // namespace brindlex

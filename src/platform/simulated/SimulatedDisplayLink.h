@@ -1,0 +1,31 @@
+#pragma once
+
+#include "foundation/Subscribers.h"
+#include "platform/DisplayLink.h"
+
+namespace brindlex {
+
+/// A screen that shows a frame when it is told to, or no screen.
+class SimulatedDisplayLink : public DisplayLink {
+public:
+    std::optional<double> maximumFramesPerSecond() const override { return framesPerSecond; }
+    Subscription onEachFrame(std::optional<double> wish, FrameHandler handler) override
+    {
+        lastWish = wish;
+        return subscribers_.add(std::move(handler));
+    }
+
+    void frame(Seconds timestamp) { subscribers_.notify(timestamp); }
+
+    bool isRunning() const { return !subscribers_.isEmpty(); }
+
+    /// Absent: there is no screen.
+    std::optional<double> framesPerSecond = 60;
+    /// The rate that was last wished for.
+    std::optional<double> lastWish{};
+
+private:
+    Subscribers<FrameHandler> subscribers_;
+};
+
+} // namespace brindlex

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/ProcessLaunching.h"
+
+#include <optional>
+#include <utility>
+
+namespace brindlex {
+
+/// Notes what is launched, or refuses with a reason.
+class SimulatedProcessLaunching : public ProcessLaunching {
+public:
+    struct Launch {
+        std::filesystem::path executable{};
+        std::vector<std::string> arguments{};
+
+        bool operator==(const Launch&) const = default;
+    };
+
+    Result<Done, std::string> launch(
+        const std::filesystem::path& executable, const std::vector<std::string>& arguments) override
+    {
+        if (refusal)
+            return fail(*refusal);
+        launches.push_back({executable, arguments});
+        return Done{};
+    }
+
+    std::vector<Launch> launches{};
+    std::optional<std::string> refusal{};
+};
+
+} // namespace brindlex

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "foundation/Subscribers.h"
+#include "platform/ProgramActivation.h"
+
+namespace brindlex {
+
+/// The program comes to the front and goes when it is told to.
+class SimulatedProgramActivation : public ProgramActivation {
+public:
+    bool isActive() const override { return isActive_; }
+    Subscription observeDidBecomeActive(std::function<void()> handler) override
+    {
+        return subscribers_.add(std::move(handler));
+    }
+
+    void becomeActive()
+    {
+        isActive_ = true;
+        subscribers_.notify();
+    }
+    void resignActive() { isActive_ = false; }
+
+    bool isObserved() const { return !subscribers_.isEmpty(); }
+
+private:
+    bool isActive_ = false;
+    Subscribers<std::function<void()>> subscribers_;
+};
+
+} // namespace brindlex

@@ -1,0 +1,135 @@
+#include "mouse/MouseActionDispatcher.h"
+
+#include "mouse/SpaceSwitcher.h"
+#include "platform/simulated/SimulatedApplicationOpening.h"
+#include "platform/simulated/SimulatedDisplayLink.h"
+#include "platform/simulated/SimulatedInput.h"
+#include "platform/simulated/SimulatedMainThread.h"
+#include "platform/simulated/SimulatedProcessLaunching.h"
+#include "support/RecordedLog.h"
+
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+Event keyEvent(EventType type, std::int64_t keyCode, std::uint64_t flags)
+{
+    return {type, {}, flags, {{EventField::keyboardEventKeycode, keyCode}}};
+}
+
+class MouseActionDispatcherTest : public testing::Test {
+protected:
+    RecordedLog log;
+    SimulatedClock clock;
+    SimulatedMainThread mainThread{clock};
+    SimulatedDisplayLink displayLink;
+    SimulatedInput input;
+    SimulatedApplicationOpening applications;
+    SimulatedProcessLaunching processes;
+    SpaceSwitcher spaces{input, displayLink, mainThread, clock};
+    MouseActionDispatcher dispatcher{input, applications, processes, spaces};
+};
+
+TEST_F(MouseActionDispatcherTest, pressesAndReleasesTheKeyOfAnAction)
+{
+    dispatcher.perform(MouseAction::ShowDesktop{});
+
+    EXPECT_EQ(log.lines(), (Lines{"INFO [mouse] dispatch action: Show Desktop"}));
+    EXPECT_EQ(input.delivered(),
+        (std::vector{keyEvent(EventType::keyDown, 103, 0), keyEvent(EventType::keyUp, 103, 0)}));
+}
+
+TEST_F(MouseActionDispatcherTest, addsNoModifierThatIsHeld)
+{
+    input.heldFlags = eventFlag::shift | eventFlag::option;
+
+    dispatcher.perform(MouseAction::Back{});
+    dispatcher.perform(MouseAction::SendKeystroke{49, {}});
+
+    EXPECT_EQ(input.delivered(),
+        (std::vector{keyEvent(EventType::keyDown, 33, eventFlag::command),
+            keyEvent(EventType::keyUp, 33, eventFlag::command), keyEvent(EventType::keyDown, 49, 0),
+            keyEvent(EventType::keyUp, 49, 0)}));
+}
+
+TEST_F(MouseActionDispatcherTest, postsTheReleaseWhenThePressCannotBeMade)
+{
+    input.setCannotMake(
+        [](const SyntheticEvent& event) { return event.type == EventType::keyDown; });
+
+    dispatcher.perform(MouseAction::Forward{});
+
+    EXPECT_EQ(input.delivered(), (std::vector{keyEvent(EventType::keyUp, 30, eventFlag::command)}));
+}
+
+TEST_F(MouseActionDispatcherTest, showsItsKeystrokesToTheTap)
+{
+    std::vector<Event> seen;
+    const auto tap = input.createTap(1024, {{1024, {}}}, [&](const Event& event) {
+        seen.push_back(event);
+        return EventVerdict::swallow;
+    });
+    tap->setEnabled(true);
+
+    dispatcher.perform(MouseAction::SendKeystroke{9, ModifierSet::command});
+
+    EXPECT_EQ(seen, (std::vector{keyEvent(EventType::keyDown, 9, eventFlag::command)}));
+}
+
+TEST_F(MouseActionDispatcherTest, opensMissionControl)
+{
+    dispatcher.perform(MouseAction::MissionControl{});
+
+    EXPECT_EQ(applications.opened,
+        (std::vector<std::filesystem::path>{"/System/Applications/Mission Control.app"}));
+    EXPECT_EQ(log.lines(), (Lines{"INFO [mouse] dispatch action: Mission Control"}));
+}
+
+TEST_F(MouseActionDispatcherTest, runsACommandInTheShell)
+{
+    dispatcher.perform(MouseAction::RunShellCommand{"say 'a b'; exit 1"});
+
+    EXPECT_EQ(processes.launches,
+        (std::vector<SimulatedProcessLaunching::Launch>{
+            {"/bin/zsh", {"-c", "say 'a b'; exit 1"}}}));
+    EXPECT_EQ(log.lines(), (Lines{"INFO [mouse] dispatch action: Run Shell Command"}));
+}
+
+TEST_F(MouseActionDispatcherTest, saysWhyTheShellDidNotStart)
+{
+    processes.refusal = "No such file or directory";
+
+    dispatcher.perform(MouseAction::RunShellCommand{""});
+
+    EXPECT_EQ(log.lines(),
+        (Lines{"INFO [mouse] dispatch action: Run Shell Command",
+            "ERROR [mouse] runShell failed: No such file or directory"}));
+}
+
+TEST_F(MouseActionDispatcherTest, asksForTheSecondSpaceSwitchInVain)
+{
+    dispatcher.perform(MouseAction::SwitchSpaceLeft{});
+    mainThread.advance(0.2);
+    dispatcher.perform(MouseAction::SwitchSpaceLeft{});
+
+    EXPECT_EQ(log.lines(),
+        (Lines{"INFO [mouse] dispatch action: Switch Space Left",
+            "INFO [mouse] SpaceSwitcher: start left",
+            "INFO [mouse] dispatch action: Switch Space Left",
+            "INFO [mouse] SpaceSwitcher: re-trigger ignored, animation in flight"}));
+}
+
+TEST_F(MouseActionDispatcherTest, switchesToTheRight)
+{
+    dispatcher.perform(MouseAction::SwitchSpaceRight{});
+    displayLink.frame(1);
+    displayLink.frame(2);
+
+    EXPECT_EQ(input.delivered().back().value(EventField{135}), 1061000000 + 2147483648);
+}
+
+} // namespace
+} // namespace brindlex
