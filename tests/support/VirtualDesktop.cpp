@@ -55,7 +55,7 @@ VirtualDesktop::VirtualDesktop(const Options& options) : home_(folder_.path() / 
     for (const auto name :
         {"WAYLAND_DISPLAY", "WAYLAND_SOCKET", "XAUTHORITY", "SESSION_MANAGER", "DESKTOP_STARTUP_ID",
             "AT_SPI_BUS_ADDRESS", "NO_AT_BRIDGE", "IBUS_ADDRESS", "IBUS_ADDRESS_FILE", "XMODIFIERS",
-            "GTK_IM_MODULE", "QT_IM_MODULE", "XDG_CURRENT_DESKTOP", "LC_ALL", "LANGUAGE"})
+            "GTK_IM_MODULE", "QT_IM_MODULE", "XDG_CURRENT_DESKTOP", "XDG_DATA_DIRS", "XDG_CONFIG_DIRS", "LC_ALL", "LANGUAGE"})
         setVariable(name, std::nullopt);
     setVariable("HOME", home_);
     setVariable("XDG_CONFIG_HOME", configFolder());

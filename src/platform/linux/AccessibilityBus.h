@@ -1,0 +1,92 @@
+#pragma once
+
+#include "foundation/Result.h"
+
+#include <QDBusConnection>
+#include <QString>
+#include <QVariantList>
+#include <chrono>
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace brindlex {
+
+/// An object in the accessible tree of some program.
+struct AccessibleObject {
+    QString service{};
+    QString path{};
+
+    bool operator==(const AccessibleObject&) const = default;
+
+    /// Whether it stands for "there is none".
+    bool isNull() const;
+};
+
+/// Why a question on the accessibility bus has no answer.
+enum class AccessibilityProblem {
+    /// The time was up first: the program is busy, and may answer later.
+    noAnswer,
+    /// The program or the object is gone, or what came was not an answer.
+    refused,
+};
+
+template <typename Value>
+using AccessibilityAnswer = Result<Value, AccessibilityProblem>;
+
+/// Questions to the accessible trees of other programs.
+///
+/// Programs on the bus are not trusted: each question waits at most 30 ms, all questions since
+/// `begin` together 60 ms, and of a list only the first entries are read. Never starts a service:
+/// a session without the accessibility bus is left as it is, which is logged once. Connects again
+/// after the bus was restarted. To be used from one worker thread only, as every question blocks.
+class AccessibilityBus {
+public:
+    static constexpr std::chrono::milliseconds timePerQuestion{30};
+    static constexpr std::chrono::milliseconds timePerReading{60};
+    static constexpr std::size_t mostListEntries = 256;
+
+    AccessibilityBus();
+    ~AccessibilityBus();
+    AccessibilityBus(const AccessibilityBus&) = delete;
+    AccessibilityBus& operator=(const AccessibilityBus&) = delete;
+
+    /// Begins a reading: connects where needed, and the time starts. False when there is no bus.
+    bool begin();
+
+    /// The programs on the bus.
+    AccessibilityAnswer<std::vector<AccessibleObject>> applications();
+
+    /// The process behind a bus name, as the bus itself knows it.
+    AccessibilityAnswer<std::int64_t> processIdentifier(const QString& service);
+
+    AccessibilityAnswer<std::vector<AccessibleObject>> children(const AccessibleObject& object);
+
+    AccessibilityAnswer<QString> name(const AccessibleObject& object);
+
+    /// Whether the window has the state ACTIVE.
+    AccessibilityAnswer<bool> isActive(const AccessibleObject& object);
+
+    /// What the object says it embeds, such as a browser window its current page.
+    AccessibilityAnswer<std::vector<AccessibleObject>> embedded(const AccessibleObject& object);
+
+    /// An attribute of a document; empty when the document does not have it.
+    AccessibilityAnswer<QString> documentAttribute(
+        const AccessibleObject& document, const QString& attribute);
+
+private:
+    bool connect();
+    std::optional<QString> address();
+    AccessibilityAnswer<QVariant> ask(const AccessibleObject& object, const QString& interface,
+        const QString& member, const QVariantList& arguments = {});
+    void logOnce(bool& isLogged, const char* message);
+
+    const QString connectionName_;
+    const QString sessionConnectionName_;
+    QDBusConnection connection_;
+    std::chrono::steady_clock::time_point deadline_{};
+    bool isAbsenceLogged_ = false;
+    bool isDisabledLogged_ = false;
+};
+
+} // namespace brindlex

@@ -1,0 +1,110 @@
+#include "platform/linux/X11WindowReading.h"
+
+#include "foundation/Text.h"
+#include "platform/linux/X11Properties.h"
+
+#include <limits>
+#include <unistd.h>
+
+namespace brindlex {
+namespace {
+
+constexpr std::uint32_t classLimit = 1024;
+constexpr std::uint32_t titleLimit = 4096;
+constexpr std::uint32_t machineLimit = 256;
+constexpr std::uint32_t windowLimit = 4 * 4096;
+
+std::string upToNull(std::string_view bytes)
+{
+    return std::string(bytes.substr(0, bytes.find('\0')));
+}
+
+const std::string& thisMachine()
+{
+    static const std::string name = [] {
+        char buffer[256] = {};
+        ::gethostname(buffer, sizeof buffer - 1);
+        return std::string(buffer);
+    }();
+    return name;
+}
+
+/// Windows of programs on other machines name their process there. Some give the full name of the
+/// machine and some the short one.
+bool isThisMachine(const std::string& name)
+{
+    const auto host = [](const std::string& full) { return full.substr(0, full.find('.')); };
+    return name.empty() || name == "localhost" || host(name) == host(thisMachine());
+}
+
+struct DescriptionRequest {
+    X11PropertyRequest classes;
+    X11PropertyRequest process;
+    X11PropertyRequest machine;
+
+    DescriptionRequest(X11Connection& connection, xcb_window_t window)
+        : classes(connection, window, "WM_CLASS", classLimit),
+          process(connection, window, "_NET_WM_PID", 4),
+          machine(connection, window, "WM_CLIENT_MACHINE", machineLimit)
+    {
+    }
+};
+
+X11WindowDescription description(DescriptionRequest& request)
+{
+    X11WindowDescription result;
+    const auto classes = request.classes.bytes().value_or("");
+    const auto instance = upToNull(classes);
+    result.instance = wellFormed(instance);
+    if (instance.size() < classes.size())
+        result.className
+            = wellFormed(upToNull(std::string_view(classes).substr(instance.size() + 1)));
+
+    const auto process = request.process.values();
+    const auto machine = request.machine.bytes();
+    const bool isNamed = process && !process->empty()
+        && process->front() <= static_cast<std::uint32_t>(std::numeric_limits<pid_t>::max());
+    if (isNamed && isThisMachine(upToNull(machine.value_or(""))))
+        result.processIdentifier = process->front();
+    return result;
+}
+
+} // namespace
+
+xcb_window_t activeWindow(X11Connection& connection)
+{
+    const auto window
+        = X11PropertyRequest(connection, connection.root(), "_NET_ACTIVE_WINDOW", 4).values();
+    return window && !window->empty() ? window->front() : xcb_window_t{XCB_WINDOW_NONE};
+}
+
+std::vector<xcb_window_t> managedWindows(X11Connection& connection)
+{
+    return X11PropertyRequest(connection, connection.root(), "_NET_CLIENT_LIST", windowLimit)
+        .values()
+        .value_or(std::vector<xcb_window_t>());
+}
+
+std::vector<X11WindowDescription> describe(
+    X11Connection& connection, const std::vector<xcb_window_t>& windows)
+{
+    std::vector<DescriptionRequest> requests;
+    requests.reserve(windows.size());
+    for (const auto window : windows)
+        requests.emplace_back(connection, window);
+    std::vector<X11WindowDescription> descriptions;
+    descriptions.reserve(windows.size());
+    for (auto& request : requests)
+        descriptions.push_back(description(request));
+    return descriptions;
+}
+
+std::string windowTitle(X11Connection& connection, xcb_window_t window)
+{
+    X11PropertyRequest modern(connection, window, "_NET_WM_NAME", titleLimit);
+    X11PropertyRequest old(connection, window, "WM_NAME", titleLimit);
+    const auto title = modern.bytes();
+    return wellFormed(upToNull(title && !title->empty() ? *title : old.bytes().value_or("")));
+}
+
+} // namespace brindlex

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/linux/X11Connection.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace brindlex {
+
+/// What a window says of itself, as well-formed text of bounded length.
+struct X11WindowDescription {
+    /// The two parts of WM_CLASS.
+    std::string instance{};
+    std::string className{};
+    /// 0 when the window names none that can be one of this machine.
+    std::int64_t processIdentifier = 0;
+
+    bool operator==(const X11WindowDescription&) const = default;
+};
+
+/// The window that the window manager calls active; 0 when it names none.
+xcb_window_t activeWindow(X11Connection& connection);
+
+/// The windows that the window manager manages, oldest first.
+std::vector<xcb_window_t> managedWindows(X11Connection& connection);
+
+/// The descriptions of the windows, in their order, at the price of one round trip for all. A
+/// window that has gone has an empty one.
+std::vector<X11WindowDescription> describe(
+    X11Connection& connection, const std::vector<xcb_window_t>& windows);
+
+/// The title of the window; empty when it has none or has gone.
+std::string windowTitle(X11Connection& connection, xcb_window_t window);
+
+} // namespace brindlex

@@ -1,0 +1,72 @@
+#include "support/FcitxDaemon.h"
+
+#include "foundation/FatalError.h"
+#include "support/BusConnection.h"
+#include "support/Eventually.h"
+#include "support/XInputMethodServer.h"
+
+#include <csignal>
+
+namespace brindlex {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto name = "org.fcitx.Fcitx5";
+constexpr auto path = "/controller";
+constexpr auto interface = "org.fcitx.Fcitx.Controller1";
+
+std::string profile(const std::vector<std::string>& inputMethods)
+{
+    auto text = "[Groups/0]\nName=Default\nDefault Layout=us\nDefaultIM=" + inputMethods.back();
+    for (std::size_t index = 0; index < inputMethods.size(); ++index)
+        text += "\n\n[Groups/0/Items/" + std::to_string(index) + "]\nName=" + inputMethods[index]
+            + "\nLayout=";
+    return text + "\n\n[GroupOrder]\n0=Default\n";
+}
+
+} // namespace
+
+FcitxDaemon::FcitxDaemon(VirtualDesktop& desktop, const std::vector<std::string>& inputMethods)
+    : desktop_(desktop)
+{
+    const auto folder = desktop.configFolder() / "fcitx5";
+    std::error_code ignored;
+    std::filesystem::create_directories(folder, ignored);
+    write(folder / "profile", profile(inputMethods));
+    for (const auto variable : {"GTK_IM_MODULE", "QT_IM_MODULE"})
+        desktop.setVariable(variable, "fcitx");
+    desktop.setVariable("XMODIFIERS", "@im=fcitx");
+    start();
+}
+
+void FcitxDaemon::start()
+{
+    daemon_ = std::make_unique<ChildProcess>(ChildProcess::Start{
+        .command = {"fcitx5", "--disable=wayland,waylandim,cloudpinyin,notifications"},
+        .output = desktop_.outputFolder() / "fcitx5",
+    });
+    const auto answers
+        = [] { return BusConnection().hasOwner(name) && hasXInputMethodServer("fcitx"); };
+    if (!eventually(answers, 20s))
+        fatalError("Fcitx did not start.\n" + daemon_->output());
+}
+
+void FcitxDaemon::stop()
+{
+    daemon_->signal(SIGKILL);
+    daemon_.reset();
+}
+
+std::string FcitxDaemon::current() const
+{
+    return BusConnection().call(name, path, interface, "CurrentInputMethod").text();
+}
+
+bool FcitxDaemon::select(const std::string& inputMethod)
+{
+    return static_cast<bool>(
+        BusConnection().call(name, path, interface, "SetCurrentIM", {inputMethod}));
+}
+
+} // namespace brindlex

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "support/ChildProcess.h"
+#include "support/VirtualDesktop.h"
+
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace brindlex {
+
+/// The Fcitx 5 input-method daemon, running on a virtual desktop; programs that are started after
+/// it type through it.
+class FcitxDaemon {
+public:
+    /// Starts the daemon with one group of these input methods, such as `keyboard-us` and `pinyin`.
+    FcitxDaemon(VirtualDesktop& desktop, const std::vector<std::string>& inputMethods);
+
+    /// The selected input method; empty when none is, or the daemon does not answer.
+    std::string current() const;
+    /// Selects an input method, as the user does in the daemon's menu; false when that failed.
+    bool select(const std::string& inputMethod);
+
+    /// Starts the daemon that was stopped.
+    void start();
+    /// Kills the daemon, as a crash of it would.
+    void stop();
+
+private:
+    VirtualDesktop& desktop_;
+    std::unique_ptr<ChildProcess> daemon_;
+};
+
+} // namespace brindlex

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <thread>
+
+namespace brindlex {
+
+/// A web server on this machine that answers every request with a page named after the host that
+/// was asked for.
+class LocalWebServer {
+public:
+    LocalWebServer();
+    ~LocalWebServer();
+    LocalWebServer(const LocalWebServer&) = delete;
+    LocalWebServer& operator=(const LocalWebServer&) = delete;
+
+    int port() const { return port_; }
+
+private:
+    void serve();
+
+    int listening_ = -1;
+    int port_ = 0;
+    std::thread thread_;
+};
+
+/// The page that a request is answered with, a field to type into included.
+std::string pageFor(const std::string& request);
+
+} // namespace brindlex

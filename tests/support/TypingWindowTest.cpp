@@ -1,0 +1,96 @@
+#include "support/TypingWindow.h"
+
+#include "support/FcitxDaemon.h"
+#include "support/IBusDaemon.h"
+#include "support/KeyboardGroup.h"
+#include "support/PlayedInput.h"
+#include "support/VirtualDesktop.h"
+
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+TEST(TypingWindow, receivesWhatTheKeysTypeInTheLayoutInForce)
+{
+    const VirtualDesktop desktop({.keyboardLayouts = "us,de"});
+    const XConnection server;
+    const DesktopWindows windows(server);
+    const PlayedInput input(server);
+    TypingWindow window(windows, "Alpha");
+    ASSERT_TRUE(windows.activate(window.window()));
+
+    input.type("xyz XYZ 09-");
+    EXPECT_TRUE(window.receives("xyz XYZ 09-")) << window.text();
+
+    window.forget();
+    selectKeyboardGroup(server, 1);
+    input.type("xyz-;");
+    EXPECT_TRUE(window.receives("xzyßö")) << window.text();
+    EXPECT_EQ(keyboardGroup(server), 1);
+}
+
+TEST(TypingWindow, receivesNothingWhileAnotherWindowIsInFront)
+{
+    const VirtualDesktop desktop;
+    const XConnection server;
+    const DesktopWindows windows(server);
+    const PlayedInput input(server);
+    TypingWindow first(windows, "Alpha");
+    TypingWindow second(windows, "Beta");
+
+    ASSERT_TRUE(windows.activate(first.window()));
+    input.type("a");
+    ASSERT_TRUE(first.receives("a"));
+    ASSERT_TRUE(windows.activate(second.window()));
+    input.type("b");
+
+    EXPECT_TRUE(second.receives("b")) << second.text();
+    EXPECT_EQ(first.text(), "a");
+    EXPECT_EQ(windows.classOf(second.window()), "Beta");
+    EXPECT_EQ(windows.titleOf(first.window()), "Alpha");
+}
+
+TEST(TypingWindow, receivesChineseThroughIBus)
+{
+    VirtualDesktop desktop({.keyboardLayouts = "us"});
+    IBusDaemon daemon(desktop, {"xkb:us::eng", "libpinyin"});
+    const XConnection server;
+    const DesktopWindows windows(server);
+    const PlayedInput input(server);
+    TypingWindow window(windows, "Alpha");
+    ASSERT_TRUE(windows.activate(window.window()));
+
+    ASSERT_TRUE(daemon.select("libpinyin"));
+    EXPECT_EQ(daemon.current(), "libpinyin");
+    input.type("nihao ");
+    EXPECT_TRUE(window.receives("你好")) << window.text() << desktop.output();
+
+    window.forget();
+    ASSERT_TRUE(daemon.select("xkb:us::eng"));
+    input.type("nihao");
+    EXPECT_TRUE(window.receives("nihao")) << window.text();
+}
+
+TEST(TypingWindow, receivesChineseThroughFcitx)
+{
+    VirtualDesktop desktop({.keyboardLayouts = "us"});
+    FcitxDaemon daemon(desktop, {"keyboard-us", "pinyin"});
+    const XConnection server;
+    const DesktopWindows windows(server);
+    const PlayedInput input(server);
+    TypingWindow window(windows, "Alpha");
+    ASSERT_TRUE(windows.activate(window.window()));
+
+    ASSERT_TRUE(daemon.select("pinyin"));
+    input.type("nihao ");
+    EXPECT_TRUE(window.receives("你好")) << window.text() << desktop.output();
+
+    window.forget();
+    ASSERT_TRUE(daemon.select("keyboard-us"));
+    input.type("nihao");
+    EXPECT_TRUE(window.receives("nihao")) << window.text();
+}
+
+} // namespace
+} // namespace brindlex
