@@ -14,12 +14,13 @@ namespace brindlex {
 /// The program itself, running on a virtual desktop.
 class RunningProgram {
 public:
-    /// Starts the program that was built together with this one; it has launched when the
-    /// constructor returns, or `hasLaunched` is false.
+    /// Starts the program that was built together with this one.
     explicit RunningProgram(
         const VirtualDesktop& desktop, const std::vector<std::string>& arguments = {});
 
-    bool hasLaunched() const { return hasLaunched_; }
+    /// Waits until it says in its log that it has launched.
+    bool launches() const { return logs("Brindlex launched"); }
+
     int process() const { return process_.id(); }
     const ChildProcess& child() const { return process_; }
 

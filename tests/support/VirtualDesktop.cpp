@@ -52,10 +52,10 @@ VirtualDesktop::VirtualDesktop() : VirtualDesktop(Options{}) { }
 VirtualDesktop::VirtualDesktop(const Options& options) : home_(folder_.path() / "home")
 {
     makeFolders();
-    for (const auto name :
-        {"WAYLAND_DISPLAY", "WAYLAND_SOCKET", "XAUTHORITY", "SESSION_MANAGER", "DESKTOP_STARTUP_ID",
-            "AT_SPI_BUS_ADDRESS", "NO_AT_BRIDGE", "IBUS_ADDRESS", "IBUS_ADDRESS_FILE", "XMODIFIERS",
-            "GTK_IM_MODULE", "QT_IM_MODULE", "XDG_CURRENT_DESKTOP", "XDG_DATA_DIRS", "XDG_CONFIG_DIRS", "LC_ALL", "LANGUAGE"})
+    for (const auto name : {"WAYLAND_DISPLAY", "WAYLAND_SOCKET", "XAUTHORITY", "SESSION_MANAGER",
+             "DESKTOP_STARTUP_ID", "AT_SPI_BUS_ADDRESS", "NO_AT_BRIDGE", "IBUS_ADDRESS",
+             "IBUS_ADDRESS_FILE", "XMODIFIERS", "GTK_IM_MODULE", "QT_IM_MODULE",
+             "XDG_CURRENT_DESKTOP", "XDG_DATA_DIRS", "XDG_CONFIG_DIRS", "LC_ALL", "LANGUAGE"})
         setVariable(name, std::nullopt);
     setVariable("HOME", home_);
     setVariable("XDG_CONFIG_HOME", configFolder());
@@ -143,9 +143,18 @@ void VirtualDesktop::startWindowManager()
         .command = {"openbox", "--sm-disable", "--config-file", folder / "rc.xml"},
         .output = outputFolder() / "window-manager",
     });
+    // It tells what it supports long before it looks after windows; an answer shows the latter.
     const XConnection server;
-    if (!eventually(
-            [&] { return !server.values(server.root(), "_NET_SUPPORTED").empty(); }, timeToStart))
+    const auto window = xcb_generate_id(server.get());
+    xcb_create_window(server.get(), XCB_COPY_FROM_PARENT, window, server.root(), 0, 0, 1, 1, 0,
+        XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    const auto answers = [&] {
+        server.ask(window, "_NET_REQUEST_FRAME_EXTENTS", {});
+        return !server.values(window, "_NET_FRAME_EXTENTS").empty();
+    };
+    const bool isReady = eventually(answers, timeToStart);
+    xcb_destroy_window(server.get(), window);
+    if (!isReady)
         fatalError("The window manager did not start.\n" + windowManager_->output());
 }
 

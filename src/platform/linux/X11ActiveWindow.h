@@ -15,7 +15,8 @@ namespace brindlex {
 /// Follows which window the user works in.
 ///
 /// Between two windows a window manager may name none for a moment: that none is active is believed
-/// only when it has lasted 50 ms, while a window is believed at once. Main thread only.
+/// only when it has lasted 50 ms, while a window is believed at once. The connection gets the
+/// property changes of every window from the time when it was first active. Main thread only.
 class X11ActiveWindow {
 public:
     explicit X11ActiveWindow(X11Connection& connection);
@@ -31,6 +32,10 @@ public:
 
 private:
     void read();
+    void doubt();
+    void doubtUnlessManaged();
+    void decide();
+    bool isManaged(xcb_window_t window) const;
     void become(xcb_window_t window);
 
     X11Connection& connection_;

@@ -29,13 +29,13 @@ X11Connection::X11Connection(const std::string& display)
         notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { handOut(true); });
     // Waiting for a reply also reads events off the socket, which then stays silent about them.
     if (auto* dispatcher = QAbstractEventDispatcher::instance())
-        beforeWaiting_ = QObject::connect(dispatcher, &QAbstractEventDispatcher::aboutToBlock,
-            notifier_.get(), [this] { handOut(false); });
+        for (const auto turn :
+            {&QAbstractEventDispatcher::aboutToBlock, &QAbstractEventDispatcher::awake})
+            QObject::connect(dispatcher, turn, notifier_.get(), [this] { handOut(false); });
 }
 
 X11Connection::~X11Connection()
 {
-    QObject::disconnect(beforeWaiting_);
     notifier_.reset();
     xcb_disconnect(connection_);
 }

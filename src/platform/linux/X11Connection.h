@@ -3,7 +3,6 @@
 #include "foundation/Subscribers.h"
 #include "foundation/Subscription.h"
 
-#include <QMetaObject>
 #include <QSocketNotifier>
 #include <xcb/xcb.h>
 
@@ -70,7 +69,6 @@ private:
     Subscribers<EventHandler> eventObservers_;
     Subscribers<std::function<void()>> endObservers_;
     std::unique_ptr<QSocketNotifier> notifier_;
-    QMetaObject::Connection beforeWaiting_;
 };
 
 } // namespace brindlex

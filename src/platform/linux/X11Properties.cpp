@@ -22,7 +22,7 @@ X11PropertyRequest::~X11PropertyRequest()
 
 X11PropertyRequest::X11PropertyRequest(X11PropertyRequest&& other) noexcept
     : connection_(other.connection_), cookie_(other.cookie_),
-      pending_(std::exchange(other.pending_, false))
+      pending_(std::exchange(other.pending_, false)), windowHasGone_(other.windowHasGone_)
 {
 }
 
@@ -55,6 +55,7 @@ X11Message<xcb_get_property_reply_t> X11PropertyRequest::reply()
     xcb_generic_error_t* error = nullptr;
     X11Message<xcb_get_property_reply_t> answer(
         xcb_get_property_reply(connection_, cookie_, &error));
+    windowHasGone_ = error && error->error_code == XCB_WINDOW;
     std::free(error);
     return answer;
 }

@@ -30,12 +30,16 @@ public:
     /// The content as 32-bit numbers, unless it has another form.
     std::optional<std::vector<std::uint32_t>> values();
 
+    /// Whether the answer was that there is no such window.
+    bool windowHasGone() const { return windowHasGone_; }
+
 private:
     X11Message<xcb_get_property_reply_t> reply();
 
     xcb_connection_t* connection_;
     xcb_get_property_cookie_t cookie_{};
     bool pending_ = true;
+    bool windowHasGone_ = false;
 };
 
 } // namespace brindlex

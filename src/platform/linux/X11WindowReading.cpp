@@ -50,10 +50,12 @@ struct DescriptionRequest {
     }
 };
 
-X11WindowDescription description(DescriptionRequest& request)
+std::optional<X11WindowDescription> description(DescriptionRequest& request)
 {
-    X11WindowDescription result;
     const auto classes = request.classes.bytes().value_or("");
+    if (request.classes.windowHasGone())
+        return {};
+    X11WindowDescription result;
     const auto instance = upToNull(classes);
     result.instance = wellFormed(instance);
     if (instance.size() < classes.size())
@@ -85,14 +87,14 @@ std::vector<xcb_window_t> managedWindows(X11Connection& connection)
         .value_or(std::vector<xcb_window_t>());
 }
 
-std::vector<X11WindowDescription> describe(
+std::vector<std::optional<X11WindowDescription>> describe(
     X11Connection& connection, const std::vector<xcb_window_t>& windows)
 {
     std::vector<DescriptionRequest> requests;
     requests.reserve(windows.size());
     for (const auto window : windows)
         requests.emplace_back(connection, window);
-    std::vector<X11WindowDescription> descriptions;
+    std::vector<std::optional<X11WindowDescription>> descriptions;
     descriptions.reserve(windows.size());
     for (auto& request : requests)
         descriptions.push_back(description(request));

@@ -2,7 +2,9 @@
 
 #include "platform/linux/X11Connection.h"
 
+#include <compare>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -17,6 +19,7 @@ struct X11WindowDescription {
     std::int64_t processIdentifier = 0;
 
     bool operator==(const X11WindowDescription&) const = default;
+    auto operator<=>(const X11WindowDescription&) const = default;
 };
 
 /// The window that the window manager calls active; 0 when it names none.
@@ -25,9 +28,9 @@ xcb_window_t activeWindow(X11Connection& connection);
 /// The windows that the window manager manages, oldest first.
 std::vector<xcb_window_t> managedWindows(X11Connection& connection);
 
-/// The descriptions of the windows, in their order, at the price of one round trip for all. A
-/// window that has gone has an empty one.
-std::vector<X11WindowDescription> describe(
+/// The descriptions of the windows, in their order, at the price of one round trip for all; nothing
+/// for a window that has gone.
+std::vector<std::optional<X11WindowDescription>> describe(
     X11Connection& connection, const std::vector<xcb_window_t>& windows);
 
 /// The title of the window; empty when it has none or has gone.

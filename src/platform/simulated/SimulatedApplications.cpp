@@ -1,0 +1,60 @@
+#include "platform/simulated/SimulatedApplications.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace brindlex {
+
+std::optional<RunningApplication> SimulatedApplications::frontmost() const
+{
+    if (!frontmost_)
+        return {};
+    return *find(*frontmost_);
+}
+
+Subscription SimulatedApplications::observeActivation(ActivationHandler handler)
+{
+    return observers_.add(std::move(handler));
+}
+
+void SimulatedApplications::launch(const RunningApplication& application)
+{
+    if (find(application.processIdentifier) == running_.end())
+        running_.push_back(application);
+}
+
+void SimulatedApplications::bringToFront(const RunningApplication& application)
+{
+    launch(application);
+    bringToFront(application.processIdentifier);
+}
+
+void SimulatedApplications::bringToFront(std::int64_t processIdentifier)
+{
+    if (find(processIdentifier) == running_.end())
+        return;
+    frontmost_ = processIdentifier;
+    if (std::exchange(lastTold_, processIdentifier) != processIdentifier)
+        observers_.notify(frontmost());
+}
+
+void SimulatedApplications::quit(std::int64_t processIdentifier)
+{
+    if (frontmost_ == processIdentifier)
+        frontmost_.reset();
+    if (lastTold_ == processIdentifier)
+        lastTold_.reset();
+    std::erase_if(running_, [&](const RunningApplication& application) {
+        return application.processIdentifier == processIdentifier;
+    });
+}
+
+std::vector<RunningApplication>::const_iterator SimulatedApplications::find(
+    std::int64_t processIdentifier) const
+{
+    return std::find_if(running_.begin(), running_.end(), [&](const RunningApplication& each) {
+        return each.processIdentifier == processIdentifier;
+    });
+}
+
+} // namespace brindlex

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "foundation/Subscribers.h"
+#include "platform/RunningApplications.h"
+
+#include <cstdint>
+#include <optional>
+#include <vector>
+
+namespace brindlex {
+
+/// The applications of a simulated computer. Main thread only.
+class SimulatedApplications final : public RunningApplications {
+public:
+    std::optional<RunningApplication> frontmost() const override;
+    std::vector<RunningApplication> running() const override { return running_; }
+    Subscription observeActivation(ActivationHandler handler) override;
+
+    /// Starts an application, which opens its first window behind all others.
+    void launch(const RunningApplication& application);
+
+    /// Starts an application unless it runs, and brings it to the front.
+    void bringToFront(const RunningApplication& application);
+    /// Brings a running application to the front; of one that does not run nothing is done.
+    void bringToFront(std::int64_t processIdentifier);
+
+    /// Leaves no window active.
+    void emptyFront() { frontmost_.reset(); }
+
+    /// Ends an application; if it was in front, the front is empty.
+    void quit(std::int64_t processIdentifier);
+
+private:
+    std::vector<RunningApplication>::const_iterator find(std::int64_t processIdentifier) const;
+
+    std::vector<RunningApplication> running_;
+    std::optional<std::int64_t> frontmost_;
+    std::optional<std::int64_t> lastTold_;
+    Subscribers<ActivationHandler> observers_;
+};
+
+} // namespace brindlex

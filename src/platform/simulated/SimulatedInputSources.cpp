@@ -1,0 +1,114 @@
+#include "platform/simulated/SimulatedInputSources.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+template <typename Value>
+bool agrees(const std::optional<Value>& wanted, const std::optional<Value>& value)
+{
+    return !wanted || wanted == value;
+}
+
+bool matches(const InputSourceFilter& filter, const InputSourceProperties& source)
+{
+    return agrees(filter.id, source.id) && agrees(filter.category, source.category)
+        && agrees(filter.isSelectCapable, source.isSelectCapable)
+        && agrees(filter.isEnabled, source.isEnabled);
+}
+
+} // namespace
+
+std::optional<InputSourceProperties> SimulatedInputSources::current()
+{
+    const auto* source = answers_ && selected_ ? find(*selected_) : nullptr;
+    if (!source)
+        return {};
+    return *source;
+}
+
+std::optional<std::vector<InputSourceProperties>> SimulatedInputSources::list(
+    const InputSourceFilter& filter)
+{
+    if (!answers_)
+        return {};
+    std::vector<InputSourceProperties> found;
+    std::copy_if(sources_.begin(), sources_.end(), std::back_inserter(found),
+        [&](const InputSourceProperties& source) { return matches(filter, source); });
+    return found;
+}
+
+int SimulatedInputSources::select(const InputSourceProperties& source)
+{
+    const auto id = source.id.value_or("");
+    attempts_.push_back(id);
+    if (failures_ > 0) {
+        --failures_;
+        return failureStatus_;
+    }
+    const auto* installed = find(id);
+    if (!answers_ || !installed || installed->isSelectCapable == false
+        || installed->isEnabled == false)
+        return invalidSource;
+    become(id);
+    return 0;
+}
+
+Subscription SimulatedInputSources::observeSelectionChanges(std::function<void()> handler)
+{
+    return observers_.add(std::move(handler));
+}
+
+InputSourceProperties SimulatedInputSources::keyboard(
+    const std::string& id, const std::string& name)
+{
+    return {id, std::string(keyboardInputSourceCategory), name, true, true};
+}
+
+void SimulatedInputSources::install(const InputSourceProperties& source)
+{
+    sources_.push_back(source);
+    if (!selected_ && source.id)
+        selected_ = source.id;
+}
+
+void SimulatedInputSources::remove(const std::string& id)
+{
+    std::erase_if(sources_, [&](const InputSourceProperties& source) { return source.id == id; });
+    if (selected_ == id && !sources_.empty() && sources_.front().id)
+        become(*sources_.front().id);
+}
+
+void SimulatedInputSources::userSelects(const std::string& id)
+{
+    if (find(id))
+        become(id);
+}
+
+void SimulatedInputSources::failSelections(int count, int status)
+{
+    failures_ = count;
+    failureStatus_ = status;
+}
+
+const InputSourceProperties* SimulatedInputSources::find(const std::string& id) const
+{
+    const auto found = std::find_if(sources_.begin(), sources_.end(),
+        [&](const InputSourceProperties& source) { return source.id == id; });
+    return found == sources_.end() ? nullptr : &*found;
+}
+
+void SimulatedInputSources::become(const std::string& id)
+{
+    if (std::exchange(selected_, id) == id)
+        return;
+    const auto tell = [this] { observers_.notify(); };
+    if (delay_ > 0)
+        delayed_.push_back(mainThread_.after(delay_, tell));
+    else
+        mainThread_.post(tell);
+}
+
+} // namespace brindlex

@@ -1,0 +1,133 @@
+#include "desktop/ProgramDesk.h"
+
+#include <gtest/gtest.h>
+
+#include <unistd.h>
+
+namespace brindlex {
+namespace {
+
+using namespace std::chrono_literals;
+
+class DamagedFiles : public testing::Test {
+protected:
+    /// Starts the program, and sees that it switches and ends as always, with or without its files.
+    void expectToWork()
+    {
+        RunningProgram program(desk.desktop);
+        EXPECT_TRUE(desk.usesGroup(germanGroup)) << program.report();
+        EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
+    }
+
+    void writeRule()
+    {
+        desk.files.writePreferences(
+            SwitchingRules{.applications = {{identifierOf("Alpha"), german}}}.preferences());
+    }
+
+    ProgramDesk desk;
+    TypingWindow alpha{desk.windows, "Alpha"};
+};
+
+TEST_F(DamagedFiles, includeAFileWhereTheContainerBelongs)
+{
+    writeRule();
+    write(desk.files.container(), "not a folder");
+
+    expectToWork();
+
+    EXPECT_EQ(contentOf(desk.files.container()), "not a folder");
+}
+
+TEST_F(DamagedFiles, includeAPlaceWhereNoContainerCanBe)
+{
+    writeRule();
+    // Not even root can make a folder there.
+    desk.desktop.setVariable("XDG_DATA_HOME", "/proc/nowhere");
+
+    RunningProgram program(desk.desktop);
+
+    // Without its applications folder Alpha is known by the class of its window alone.
+    EXPECT_TRUE(program.child().isRunning());
+    EXPECT_EQ(program.child().waitForEnd(500ms), std::nullopt) << program.report();
+    EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
+}
+
+TEST_F(DamagedFiles, includeAContainerOfAnotherUser)
+{
+    writeRule();
+    // The root folder is another's to everyone but root, who can give a folder away.
+    if (geteuid() == 0) {
+        std::filesystem::create_directory(desk.files.container());
+        ASSERT_EQ(chown(desk.files.container().c_str(), 65534, 65534), 0);
+    } else {
+        std::filesystem::create_directory_symlink("/", desk.files.container());
+    }
+
+    expectToWork();
+
+    EXPECT_FALSE(std::filesystem::exists(desk.files.container() / "Logs"));
+}
+
+TEST_F(DamagedFiles, includeAContainerThatOthersMayWriteTo)
+{
+    writeRule();
+    std::filesystem::create_directory(desk.files.container());
+    std::filesystem::permissions(desk.files.container(), std::filesystem::perms::all);
+
+    expectToWork();
+
+    EXPECT_FALSE(std::filesystem::exists(desk.files.container() / "Logs"));
+}
+
+TEST_F(DamagedFiles, includeAContainerThatGoesWhileTheProgramRuns)
+{
+    writeRule();
+    const TypingWindow gamma(desk.windows, "Gamma");
+    RunningProgram program(desk.desktop);
+    ASSERT_TRUE(program.launches()) << program.report();
+
+    std::error_code ignored;
+    std::filesystem::remove_all(desk.files.container(), ignored);
+    ASSERT_TRUE(desk.windows.activate(alpha.window()));
+
+    EXPECT_TRUE(desk.usesGroup(germanGroup)) << program.report();
+    EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
+    EXPECT_EQ(desk.files.logMessages(), std::vector<std::string>{"Brindlex will terminate"});
+}
+
+class DamagedPreferences : public DamagedFiles, public testing::WithParamInterface<std::string> { };
+
+TEST_P(DamagedPreferences, areLikeNone)
+{
+    write(desk.files.preferences(), GetParam());
+    RunningProgram program(desk.desktop);
+
+    ASSERT_TRUE(program.launches()) << program.report();
+
+    EXPECT_TRUE(eventually([&] {
+        const auto preferences = desk.files.readPreferences();
+        return preferences.is_object() && preferences.contains("inputMethodConfig");
+    })) << contentOf(desk.files.preferences());
+    EXPECT_TRUE(desk.keepsGroup(usGroup));
+    EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
+}
+
+INSTANTIATE_TEST_SUITE_P(OfManyKinds, DamagedPreferences,
+    testing::Values("", "{", "null", "[1,2,3]", std::string("\0\0\0\0", 4), "\xff\xfe{}",
+        std::string(100'000, '['), R"({"inputMethodConfig":7,"smartInputMethodConfig":[]})",
+        R"({"inputMethodConfig":"{\"enabled\":"})"));
+
+TEST_F(DamagedFiles, includeAFolderWhereThePreferencesBelong)
+{
+    std::filesystem::create_directories(desk.files.preferences() / "inside");
+    RunningProgram program(desk.desktop);
+
+    ASSERT_TRUE(program.launches()) << program.report();
+
+    EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
+    EXPECT_TRUE(std::filesystem::is_directory(desk.files.preferences() / "inside"));
+}
+
+} // namespace
+} // namespace brindlex

@@ -1,0 +1,133 @@
+#include "desktop/ProgramDesk.h"
+#include "support/FcitxDaemon.h"
+#include "support/IBusDaemon.h"
+
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+/// What differs between the daemons; the user does the same under each.
+struct IBus {
+    using Daemon = IBusDaemon;
+    static constexpr auto latin = "xkb:us::eng";
+    static constexpr auto chinese = "libpinyin";
+    static constexpr auto latinSource = us;
+    static constexpr auto chineseSource = "ibus:libpinyin";
+};
+
+struct Fcitx {
+    using Daemon = FcitxDaemon;
+    static constexpr auto latin = "keyboard-us";
+    static constexpr auto chinese = "pinyin";
+    static constexpr auto latinSource = us;
+    static constexpr auto chineseSource = "fcitx5:pinyin";
+};
+
+template <typename T>
+class InputMethodSwitching : public testing::Test {
+protected:
+    InputMethodSwitching()
+    {
+        desk_.files.writePreferences(SwitchingRules{.applications
+            = {{identifierOf("Alpha"), T::chineseSource}, {identifierOf("Beta"), T::latinSource}}}
+                                        .preferences());
+    }
+
+    bool selects(const std::string& engine)
+    {
+        return eventually([&] { return daemon_.current() == engine; });
+    }
+
+    ProgramDesk desk_{VirtualDesktop::Options{.keyboardLayouts = "us"}};
+    typename T::Daemon daemon_{desk_.desktop, {T::latin, T::chinese}};
+};
+
+using Daemons = testing::Types<IBus, Fcitx>;
+TYPED_TEST_SUITE(InputMethodSwitching, Daemons);
+
+TYPED_TEST(InputMethodSwitching, followsTheApplicationInFront)
+{
+    auto& desk = this->desk_;
+    TypingWindow alpha(desk.windows, "Alpha");
+    TypingWindow beta(desk.windows, "Beta");
+    const RunningProgram program(desk.desktop);
+    ASSERT_TRUE(program.launches()) << program.report();
+
+    ASSERT_TRUE(desk.windows.activate(alpha.window()));
+    EXPECT_TRUE(this->selects(TypeParam::chinese)) << program.report();
+    desk.input.type("nihao ");
+    EXPECT_TRUE(alpha.receives("你好")) << alpha.text();
+
+    ASSERT_TRUE(desk.windows.activate(beta.window()));
+    EXPECT_TRUE(this->selects(TypeParam::latin)) << program.report();
+    desk.input.type("nihao");
+    EXPECT_TRUE(beta.receives("nihao")) << beta.text();
+
+    ASSERT_TRUE(desk.windows.activate(alpha.window()));
+    EXPECT_TRUE(this->selects(TypeParam::chinese)) << program.report();
+}
+
+TYPED_TEST(InputMethodSwitching, letsTheUsersChoiceStandUntilTheContextChanges)
+{
+    auto& desk = this->desk_;
+    TypingWindow alpha(desk.windows, "Alpha");
+    TypingWindow beta(desk.windows, "Beta");
+    TypingWindow gamma(desk.windows, "Gamma");
+    ASSERT_TRUE(desk.windows.activate(beta.window()));
+    const RunningProgram program(desk.desktop);
+    ASSERT_TRUE(program.launches()) << program.report();
+    ASSERT_TRUE(desk.windows.activate(alpha.window()));
+    ASSERT_TRUE(this->selects(TypeParam::chinese)) << program.report();
+
+    ASSERT_TRUE(this->daemon_.select(TypeParam::latin));
+    ASSERT_TRUE(desk.windows.activate(gamma.window()));
+    ASSERT_TRUE(desk.windows.activate(alpha.window()));
+
+    desk.input.type("nihao");
+    EXPECT_TRUE(alpha.receives("nihao")) << alpha.text();
+    EXPECT_EQ(this->daemon_.current(), TypeParam::latin);
+}
+
+TYPED_TEST(InputMethodSwitching, findsTheDaemonThatWasStartedAgain)
+{
+    auto& desk = this->desk_;
+    TypingWindow beta(desk.windows, "Beta");
+    const RunningProgram program(desk.desktop);
+    ASSERT_TRUE(program.launches()) << program.report();
+
+    this->daemon_.stop();
+    this->daemon_.start();
+    TypingWindow alpha(desk.windows, "Alpha");
+    ASSERT_TRUE(desk.windows.activate(alpha.window()));
+
+    EXPECT_TRUE(eventually([&] {
+        // The daemon may be found only after the window has come to the front.
+        desk.windows.activate(beta.window());
+        desk.windows.activate(alpha.window());
+        return eventually([&] { return this->daemon_.current() == TypeParam::chinese; },
+            std::chrono::milliseconds{1'000});
+    })) << program.report();
+    desk.input.type("nihao ");
+    EXPECT_TRUE(alpha.receives("你好")) << alpha.text();
+}
+
+TYPED_TEST(InputMethodSwitching, outlivesTheDaemon)
+{
+    auto& desk = this->desk_;
+    const TypingWindow alpha(desk.windows, "Alpha");
+    const TypingWindow beta(desk.windows, "Beta");
+    RunningProgram program(desk.desktop);
+    ASSERT_TRUE(program.launches()) << program.report();
+
+    this->daemon_.stop();
+    ASSERT_TRUE(desk.windows.activate(alpha.window()));
+    ASSERT_TRUE(desk.windows.activate(beta.window()));
+
+    EXPECT_TRUE(program.logs(std::string("Failed to select ") + TypeParam::chineseSource))
+        << program.report();
+    EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
+}
+
+} // namespace
+} // namespace brindlex

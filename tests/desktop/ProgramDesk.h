@@ -1,0 +1,49 @@
+#pragma once
+
+#include "support/DesktopWindows.h"
+#include "support/Eventually.h"
+#include "support/KeyboardGroup.h"
+#include "support/PlayedInput.h"
+#include "support/ProgramFiles.h"
+#include "support/RunningProgram.h"
+#include "support/SwitchingRules.h"
+#include "support/TypingWindow.h"
+#include "support/VirtualDesktop.h"
+#include "support/XConnection.h"
+
+#include <string>
+
+namespace brindlex {
+
+/// The identifier of an application of `ProgramDesk`, by the class of its windows.
+std::string identifierOf(const std::string& className);
+
+/// A desktop with the layouts US, German and Russian and the applications Alpha, Beta and Gamma
+/// installed, ready for the program to be started on it.
+struct ProgramDesk {
+    explicit ProgramDesk(const VirtualDesktop::Options& options = usual);
+
+    /// Selects nothing and is what most tests want.
+    static const VirtualDesktop::Options usual;
+
+    /// Waits until the layout is in force.
+    bool usesGroup(int group) const;
+    /// Whether the layout stays in force for as long as the program could need to change it.
+    bool keepsGroup(int group) const;
+
+    VirtualDesktop desktop;
+    XConnection server;
+    DesktopWindows windows;
+    PlayedInput input;
+    ProgramFiles files;
+};
+
+inline constexpr auto us = "xkb:us::eng";
+inline constexpr auto german = "xkb:de::ger";
+inline constexpr auto russian = "xkb:ru::rus";
+
+inline constexpr int usGroup = 0;
+inline constexpr int germanGroup = 1;
+inline constexpr int russianGroup = 2;
+
+} // namespace brindlex
