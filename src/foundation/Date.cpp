@@ -2,7 +2,6 @@
 
 #include <chrono>
 #include <cmath>
-#include <cstdio>
 
 namespace brindlex {
 namespace {
@@ -47,6 +46,13 @@ std::optional<double> takeFraction(std::string_view& text)
     return fraction;
 }
 
+/// Puts the decimal digits of a number that is not negative into `count` places of the text.
+void putDigits(std::string& text, std::size_t begin, std::size_t count, int number)
+{
+    for (auto place = begin + count; place > begin; number /= 10)
+        text[--place] = static_cast<char>('0' + number % 10);
+}
+
 } // namespace
 
 std::string iso8601(Date date)
@@ -62,12 +68,14 @@ std::string iso8601(Date date)
     const auto day = floor<days>(moment);
     const year_month_day calendar{day};
     const hh_mm_ss time{moment - day};
-    char text[64];
-    std::snprintf(text, sizeof text, "%04d-%02u-%02uT%02d:%02d:%02d.%03dZ",
-        static_cast<int>(calendar.year()), static_cast<unsigned>(calendar.month()),
-        static_cast<unsigned>(calendar.day()), static_cast<int>(time.hours().count()),
-        static_cast<int>(time.minutes().count()), static_cast<int>(time.seconds().count()),
-        static_cast<int>(time.subseconds().count()));
+    std::string text = "0000-00-00T00:00:00.000Z";
+    putDigits(text, 0, 4, static_cast<int>(calendar.year()));
+    putDigits(text, 5, 2, static_cast<int>(static_cast<unsigned>(calendar.month())));
+    putDigits(text, 8, 2, static_cast<int>(static_cast<unsigned>(calendar.day())));
+    putDigits(text, 11, 2, static_cast<int>(time.hours().count()));
+    putDigits(text, 14, 2, static_cast<int>(time.minutes().count()));
+    putDigits(text, 17, 2, static_cast<int>(time.seconds().count()));
+    putDigits(text, 20, 3, static_cast<int>(time.subseconds().count()));
     return text;
 }
 

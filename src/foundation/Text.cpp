@@ -10,12 +10,28 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <cstring>
 #include <memory>
 
 namespace brindlex {
 namespace {
 
 constexpr char32_t replacement = 0xFFFD;
+
+/// How many bytes at the front are ASCII, of which most text consists.
+std::size_t plainLength(std::string_view text)
+{
+    constexpr std::uint64_t highBits = 0x8080808080808080;
+    std::size_t length = 0;
+    for (std::uint64_t word = 0; text.size() - length >= sizeof word; length += sizeof word) {
+        std::memcpy(&word, text.data() + length, sizeof word);
+        if ((word & highBits) != 0)
+            break;
+    }
+    while (length < text.size() && static_cast<std::uint8_t>(text[length]) < 0x80)
+        ++length;
+    return length;
+}
 
 /// Calls `visit` with each scalar and the range of bytes that it was read from.
 template <typename Visit>
@@ -81,9 +97,17 @@ std::string wellFormed(std::string_view text)
 
 bool isWellFormed(std::string_view text)
 {
-    bool isGood = true;
-    forEachScalar(text, [&](auto, auto, auto, bool isIllFormed) { isGood &= !isIllFormed; });
-    return isGood;
+    const auto* bytes = reinterpret_cast<const std::uint8_t*>(text.data());
+    const auto length = static_cast<std::int64_t>(text.size());
+    auto at = static_cast<std::int64_t>(plainLength(text));
+    while (at < length) {
+        UChar32 scalar = 0;
+        U8_NEXT(bytes, at, length, scalar);
+        if (scalar < 0)
+            return false;
+        at += static_cast<std::int64_t>(plainLength(text.substr(static_cast<std::size_t>(at))));
+    }
+    return true;
 }
 
 std::string trimmed(std::string_view text)

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "foundation/JsonForm.h"
+#include "foundation/Uuid.h"
+
+#include <cstddef>
+#include <functional>
+#include <string>
+
+namespace brindlex {
+
+/// One website, with everything below its domain, uses one input source.
+struct DomainInputMethodRule {
+    /// Identity in lists, fixed at creation.
+    Uuid id{};
+    /// A domain in the form that `normalizedDomain` gives.
+    std::string domainSuffix{};
+    std::string inputSourceID{};
+
+    bool operator==(const DomainInputMethodRule&) const = default;
+
+    static constexpr auto jsonForm()
+    {
+        return std::tuple{
+            required("id", &DomainInputMethodRule::id),
+            required("domainSuffix", &DomainInputMethodRule::domainSuffix),
+            required("inputSourceID", &DomainInputMethodRule::inputSourceID),
+        };
+    }
+};
+static_assert(jsonFormIsComplete<DomainInputMethodRule>);
+
+} // namespace brindlex
+
+template <>
+struct std::hash<brindlex::DomainInputMethodRule> {
+    std::size_t operator()(const brindlex::DomainInputMethodRule& rule) const noexcept
+    {
+        return std::hash<brindlex::Uuid>{}(rule.id);
+    }
+};

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "app/AppIdentifier.h"
+#include "foundation/JsonForm.h"
+#include "foundation/Uuid.h"
+
+#include <cstddef>
+#include <functional>
+#include <string>
+
+namespace brindlex {
+
+/// One application uses one input source.
+struct InputMethodRule {
+    /// Identity in lists, fixed at creation.
+    Uuid id{};
+    AppIdentifier app{};
+    std::string inputSourceID{};
+
+    bool operator==(const InputMethodRule&) const = default;
+
+    static constexpr auto jsonForm()
+    {
+        return std::tuple{
+            required("id", &InputMethodRule::id),
+            required("app", &InputMethodRule::app),
+            required("inputSourceID", &InputMethodRule::inputSourceID),
+        };
+    }
+};
+static_assert(jsonFormIsComplete<InputMethodRule>);
+
+} // namespace brindlex
+
+template <>
+struct std::hash<brindlex::InputMethodRule> {
+    std::size_t operator()(const brindlex::InputMethodRule& rule) const noexcept
+    {
+        return std::hash<brindlex::Uuid>{}(rule.id);
+    }
+};

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+
+#include <optional>
+
+namespace brindlex {
+
+/// The message bus of the user's session, seen by one connection to it.
+///
+/// Where the session has none, nothing starts one: the connection is then not connected, and
+/// everything that is sent is lost. Names are never started by a message. Main thread only.
+class SessionBus {
+public:
+    /// A connection of its own to the bus that the environment names, or else to the one at the
+    /// usual place below XDG_RUNTIME_DIR.
+    SessionBus();
+    ~SessionBus();
+    SessionBus(const SessionBus&) = delete;
+    SessionBus& operator=(const SessionBus&) = delete;
+
+    QDBusConnection& connection() { return connection_; }
+    bool isConnected() const { return connection_.isConnected(); }
+
+    /// Asks the bus itself; nothing when it does not answer within half a second.
+    std::optional<QDBusMessage> ask(const QString& member, const QVariantList& arguments = {});
+
+    /// Waits until the bus has taken all that was sent before, no longer than half a second.
+    void flush() { ask(QStringLiteral("GetId")); }
+
+private:
+    QDBusConnection connection_;
+};
+
+} // namespace brindlex

@@ -1,0 +1,92 @@
+#include "foundation/Json.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+#include <string>
+
+namespace brindlex {
+namespace {
+
+using Parsed = Result<Json, JsonProblem>;
+
+TEST(Json, keepsKeysInTheOrderOfInsertion)
+{
+    Json document;
+    document["z"] = 1;
+    document["a"] = Json::array({1, "two", nullptr});
+
+    EXPECT_EQ(jsonText(document), R"({"z":1,"a":[1,"two",null]})");
+    EXPECT_EQ(prettyJsonText(document),
+        "{\n  \"z\": 1,\n  \"a\": [\n    1,\n    \"two\",\n    null\n  ]\n}");
+}
+
+TEST(Json, isReadBackAsItWasWritten)
+{
+    const std::string text = R"({"b":[true,false,null,-5,1.5,""],"a":{"漢":"🎛\n\u0000"}})";
+    const auto document = parseJson(text);
+
+    ASSERT_TRUE(document);
+    EXPECT_EQ(jsonText(*document), text);
+}
+
+TEST(Json, replacesBytesThatAreNotUtf8WhenWritten)
+{
+    Json document;
+    document["a\xFF"] = "b\xC3";
+    EXPECT_EQ(jsonText(document), "{\"a\uFFFD\":\"b\uFFFD\"}");
+}
+
+TEST(Json, writesNumbersThatItCannotHoldAsNull)
+{
+    EXPECT_EQ(jsonText(Json::array({std::nan(""), std::numeric_limits<double>::infinity()})),
+        "[null,null]");
+}
+
+TEST(Json, isNotReadFromOtherText)
+{
+    const Parsed refusal = fail(JsonProblem{"", "is not JSON"});
+    for (const auto* text : {"", " ", "{", "}", "{\"a\":}", "{\"a\":1,}", "[1,]", "[1 2]", "nul",
+             "'a'", "{a:1}", "01", "+1", ".5", "NaN", "Infinity", "-", "1e", "\"", "\"\\x\"",
+             "\"\\ud800\"", "\"a\nb\"", "{} {}", "{}x", "// x\n1", "1e999", "-1e999", "\"\xFF\"",
+             "\"\xED\xA0\x80\"", "\xFF", "<html></html>"})
+        EXPECT_EQ(parseJson(text), refusal) << text;
+    EXPECT_EQ(parseJson(std::string_view("1\0", 2)), refusal);
+    EXPECT_EQ(parseJson(std::string_view("{}\0x", 4)), refusal);
+}
+
+TEST(Json, isReadFromTextWithAMarkOrSpaceAroundIt)
+{
+    EXPECT_EQ(parseJson("\xEF\xBB\xBF 1 \n"), Parsed(Json(1)));
+}
+
+TEST(Json, isReadUpToADepthThatTheStackHolds)
+{
+    const auto nested
+        = [](std::size_t depth) { return std::string(depth, '[') + std::string(depth, ']'); };
+    EXPECT_TRUE(parseJson(nested(512)));
+    const Parsed refusal = fail(JsonProblem{"", "is nested too deeply"});
+    EXPECT_EQ(parseJson(nested(514)), refusal);
+    EXPECT_EQ(parseJson(nested(1'000'000)), refusal);
+    EXPECT_EQ(parseJson(std::string(1'000'000, '[')), refusal);
+    std::string objects;
+    for (int depth = 0; depth < 100'000; ++depth)
+        objects += "{\"a\":";
+    EXPECT_EQ(parseJson(objects), refusal);
+}
+
+TEST(Json, keepsTheLastOfEqualKeys)
+{
+    EXPECT_EQ(jsonText(*parseJson(R"({"a":1,"a":2})")), R"({"a":2})");
+}
+
+TEST(Json, readsWholeNumbersUpTo64Bits)
+{
+    EXPECT_EQ(jsonText(*parseJson("18446744073709551615")), "18446744073709551615");
+    EXPECT_EQ(jsonText(*parseJson("-9223372036854775808")), "-9223372036854775808");
+    EXPECT_TRUE(parseJson("18446744073709551616")->is_number_float());
+}
+
+} // namespace
+} // namespace brindlex

@@ -1,0 +1,303 @@
+#include "inputmethod/SwitchDecision.h"
+
+#include "support/SwitchRecords.h"
+#include "support/SwitchText.h"
+
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+using Context = InputMethodAutoSwitchContext;
+using Decision = std::optional<InputMethodSwitchDecision>;
+using Priority = SmartInputMethodPriority;
+using Source = InputMethodSwitchDecisionSource;
+using Text = std::optional<std::string>;
+
+const std::string browser = "com.example.Browser";
+constexpr Date now{800'000'000};
+
+/// A browser with a rule of each kind, each for a source of its own.
+struct SwitchDecision : testing::Test {
+    InputMethodConfig config{
+        .rules = {appRule(browser, "manual")},
+        .domainRulesEnabled = true,
+        .domainRules = {websiteRule("example.com", "website")},
+    };
+    SmartInputMethodConfig smartConfig = learnedConfig(browser, "learned");
+    Text bundleID = browser;
+    Text host = "example.com";
+    Text current = "other";
+    bool allowsAppRules = true;
+
+    const Decision byWebsite
+        = InputMethodSwitchDecision{browser, "example.com", "website", Source::websiteRule};
+    const Decision byManualRule
+        = InputMethodSwitchDecision{browser, {}, "manual", Source::manualAppRule};
+    const Decision byLearnedRule
+        = InputMethodSwitchDecision{browser, {}, "learned", Source::smartAppRule};
+
+    Decision decide() const
+    {
+        return resolveSwitchDecision(
+            bundleID, host, current, config, &smartConfig, allowsAppRules, now);
+    }
+    Decision decideWithoutLearning() const
+    {
+        return resolveSwitchDecision(bundleID, host, current, config, nullptr, allowsAppRules, now);
+    }
+    std::optional<Context::Any> context() const
+    {
+        return resolveAutoSwitchContext(
+            bundleID, host, current, config, &smartConfig, allowsAppRules, now);
+    }
+    void withoutWebsiteRule() { config.domainRules.clear(); }
+    void withoutManualRule() { config.rules.clear(); }
+    void withoutLearnedRule() { smartConfig.appStats.clear(); }
+};
+
+TEST_F(SwitchDecision, asksWebsiteThenManualThenLearnedRules)
+{
+    EXPECT_EQ(decide(), byWebsite);
+    withoutWebsiteRule();
+    EXPECT_EQ(decide(), byManualRule);
+    withoutManualRule();
+    EXPECT_EQ(decide(), byLearnedRule);
+    withoutLearnedRule();
+    EXPECT_EQ(decide(), Decision());
+}
+
+TEST_F(SwitchDecision, asksLearnedBeforeManualRulesIfWished)
+{
+    smartConfig.priority = Priority::beforeManualAppRules;
+    EXPECT_EQ(decide(), byWebsite);
+    withoutWebsiteRule();
+    EXPECT_EQ(decide(), byLearnedRule);
+    withoutLearnedRule();
+    EXPECT_EQ(decide(), byManualRule);
+    withoutManualRule();
+    EXPECT_EQ(decide(), Decision());
+}
+
+TEST_F(SwitchDecision, asksLearnedRulesFirstIfWished)
+{
+    smartConfig.priority = Priority::highest;
+    EXPECT_EQ(decide(), byLearnedRule);
+    withoutLearnedRule();
+    EXPECT_EQ(decide(), byWebsite);
+    withoutWebsiteRule();
+    EXPECT_EQ(decide(), byManualRule);
+    withoutManualRule();
+    EXPECT_EQ(decide(), Decision());
+}
+
+TEST_F(SwitchDecision, asksNoLearnedRulesWithoutLearning)
+{
+    EXPECT_EQ(decideWithoutLearning(), byWebsite);
+    withoutWebsiteRule();
+    EXPECT_EQ(decideWithoutLearning(), byManualRule);
+    withoutManualRule();
+    EXPECT_EQ(decideWithoutLearning(), Decision());
+}
+
+TEST_F(SwitchDecision, isNothingWhileSwitchingIsOff)
+{
+    config.enabled = false;
+    for (const auto priority : allCases<Priority>()) {
+        smartConfig.priority = priority;
+        EXPECT_EQ(decide(), Decision());
+        EXPECT_EQ(context(), std::nullopt);
+    }
+}
+
+TEST_F(SwitchDecision, leavesOtherRulesAloneWhileLearnedOnesAreOff)
+{
+    smartConfig.enabled = false;
+    for (const auto priority : allCases<Priority>()) {
+        smartConfig.priority = priority;
+        EXPECT_EQ(decide(), byWebsite);
+    }
+    withoutWebsiteRule();
+    EXPECT_EQ(decide(), byManualRule);
+    withoutManualRule();
+    EXPECT_EQ(decide(), Decision());
+}
+
+TEST_F(SwitchDecision, asksWebsiteRulesOnlyWithoutApplicationRules)
+{
+    allowsAppRules = false;
+    for (const auto priority : allCases<Priority>()) {
+        smartConfig.priority = priority;
+        EXPECT_EQ(decide(), byWebsite);
+    }
+    withoutWebsiteRule();
+    for (const auto priority : allCases<Priority>()) {
+        smartConfig.priority = priority;
+        EXPECT_EQ(decide(), Decision());
+    }
+}
+
+TEST_F(SwitchDecision, decidesByWebsiteWithoutAnApplication)
+{
+    bundleID.reset();
+    smartConfig.priority = Priority::highest;
+    EXPECT_EQ(decide(), Decision({std::nullopt, "example.com", "website", Source::websiteRule}));
+    withoutWebsiteRule();
+    EXPECT_EQ(decide(), Decision());
+}
+
+TEST_F(SwitchDecision, isNothingWhereTheSystemStandsAlready)
+{
+    current = "website";
+    EXPECT_EQ(decide(), Decision());
+    EXPECT_EQ(context(), std::nullopt);
+    withoutWebsiteRule();
+    EXPECT_EQ(decide(), byManualRule);
+    current = "manual";
+    EXPECT_EQ(decide(), Decision()) << "the learned rule below is not tried instead";
+    withoutManualRule();
+    EXPECT_EQ(decide(), byLearnedRule);
+    current = "learned";
+    EXPECT_EQ(decide(), Decision());
+}
+
+TEST_F(SwitchDecision, isMadeWhileTheCurrentSourceIsUnknown)
+{
+    current.reset();
+    EXPECT_EQ(decide(), byWebsite);
+}
+
+TEST_F(SwitchDecision, goesOnPastALearnedRuleThatIsNotInForce)
+{
+    smartConfig.priority = Priority::highest;
+    smartConfig.setDisabled(browser, true);
+    EXPECT_EQ(decide(), byWebsite);
+    smartConfig.setDisabled(browser, false);
+    smartConfig.windowSize = SmartInputMethodWindowSize::twenty;
+    EXPECT_EQ(decide(), byWebsite);
+}
+
+TEST_F(SwitchDecision, asksTheTopApplicationsOfTheGivenTime)
+{
+    smartConfig.priority = Priority::highest;
+    smartConfig.appLimit = SmartInputMethodAppLimit::top10;
+    for (int number = 0; number < 10; ++number)
+        smartConfig.appActivations["app" + std::to_string(number)] = std::vector<Date>(11, now);
+    EXPECT_EQ(decide(), byWebsite);
+    EXPECT_EQ(resolveSwitchDecision(
+                  bundleID, host, current, config, &smartConfig, true, now + 15'552'001),
+        byLearnedRule);
+}
+
+TEST_F(SwitchDecision, doesNotCareWhetherTheSourceExists)
+{
+    config.domainRules = {websiteRule("example.com", "")};
+    EXPECT_EQ(decide(), Decision({browser, "example.com", "", Source::websiteRule}));
+}
+
+TEST_F(SwitchDecision, isForTheDomainOrTheApplication)
+{
+    EXPECT_EQ(context(), Context::Any(Context::Domain{"example.com"}));
+    withoutWebsiteRule();
+    EXPECT_EQ(context(), Context::Any(Context::App{browser}));
+    withoutManualRule();
+    EXPECT_EQ(context(), Context::Any(Context::App{browser}));
+    withoutLearnedRule();
+    EXPECT_EQ(context(), std::nullopt);
+}
+
+TEST(InputMethodAutoSwitchContext, isEqualInCaseAndText)
+{
+    const Context::Any app = Context::App{"x"};
+    EXPECT_EQ(app, Context::Any(Context::App{"x"}));
+    EXPECT_NE(app, Context::Any(Context::App{"y"}));
+    EXPECT_NE(app, Context::Any(Context::Domain{"x"}));
+}
+
+InputMethodConfig websites(std::vector<DomainInputMethodRule> rules)
+{
+    return {.domainRulesEnabled = true, .domainRules = std::move(rules)};
+}
+
+TEST(MatchingDomainRule, isForTheDomainAndEverythingBelow)
+{
+    const auto rule = websiteRule("example.com", "german");
+    const auto config = websites({rule});
+    EXPECT_EQ(matchingDomainRule("example.com", config), rule);
+    EXPECT_EQ(matchingDomainRule("mail.example.com", config), rule);
+    EXPECT_EQ(matchingDomainRule("a.b.example.com", config), rule);
+    EXPECT_EQ(matchingDomainRule("https://WWW.Example.com:80/x", config), rule);
+    EXPECT_EQ(matchingDomainRule("myexample.com", config), std::nullopt);
+    EXPECT_EQ(matchingDomainRule("example.com.org", config), std::nullopt);
+    EXPECT_EQ(matchingDomainRule("xample.com", config), std::nullopt);
+    EXPECT_EQ(matchingDomainRule("com", config), std::nullopt);
+}
+
+TEST(MatchingDomainRule, isTheLongest)
+{
+    const auto parent = websiteRule("example.com", "german");
+    const auto child = websiteRule("mail.example.com", "english");
+    for (const auto& config : {websites({parent, child}), websites({child, parent})}) {
+        EXPECT_EQ(matchingDomainRule("in.mail.example.com", config), child);
+        EXPECT_EQ(matchingDomainRule("mail.example.com", config), child);
+        EXPECT_EQ(matchingDomainRule("web.example.com", config), parent);
+    }
+}
+
+TEST(MatchingDomainRule, isTheFirstOfEqualOnes)
+{
+    const auto first = websiteRule("example.com", "german");
+    const auto second = websiteRule("example.com", "english");
+    EXPECT_EQ(matchingDomainRule("example.com", websites({first, second})), first);
+    EXPECT_EQ(matchingDomainRule("example.com", websites({second, first})), second);
+}
+
+TEST(MatchingDomainRule, isNothingWhileWebsiteRulesAreOffOrThePageIsUnknown)
+{
+    auto config = websites({websiteRule("example.com", "german")});
+    EXPECT_EQ(matchingDomainRule(std::nullopt, config), std::nullopt);
+    EXPECT_EQ(matchingDomainRule("", config), std::nullopt);
+    EXPECT_EQ(matchingDomainRule("not a domain.example.com", config), std::nullopt);
+    config.domainRulesEnabled = false;
+    EXPECT_EQ(matchingDomainRule("example.com", config), std::nullopt);
+}
+
+TEST(MatchingDomainRule, takesTheSuffixAsItIsStored)
+{
+    EXPECT_EQ(matchingDomainRule("example.com", websites({websiteRule("Example.com", "x")})),
+        std::nullopt);
+    EXPECT_EQ(matchingDomainRule("example.com", websites({websiteRule(".example.com", "x")})),
+        std::nullopt);
+    EXPECT_EQ(matchingDomainRule("example.com", websites({websiteRule("", "x")})), std::nullopt);
+    const auto topLevel = websiteRule("com", "x");
+    EXPECT_EQ(matchingDomainRule("example.com", websites({topLevel})), topLevel);
+}
+
+TEST(MatchingDomainRule, comparesOtherScripts)
+{
+    const auto rule = websiteRule("bücher.example", "german");
+    EXPECT_EQ(matchingDomainRule("https://shop.BÜCHER.example/", websites({rule})), rule);
+}
+
+TEST(MatchingAppRule, isTheFirstForTheApplication)
+{
+    const auto first = appRule("a", "german");
+    const auto second = appRule("a", "english");
+    const auto other = appRule("b", "french");
+    const InputMethodConfig config{.rules = {other, first, second}};
+    EXPECT_EQ(matchingAppRule("a", config), first);
+    EXPECT_EQ(matchingAppRule("b", config), other);
+    EXPECT_EQ(matchingAppRule("A", config), std::nullopt);
+    EXPECT_EQ(matchingAppRule("", config), std::nullopt);
+}
+
+TEST(MatchingAppRule, looksAtTheIdentifierOnly)
+{
+    auto rule = appRule("a", "german");
+    rule.app.displayName = "b";
+    EXPECT_EQ(matchingAppRule("a", {.rules = {rule}}), rule);
+    EXPECT_EQ(matchingAppRule("b", {.rules = {rule}}), std::nullopt);
+}
+
+} // namespace
+} // namespace brindlex
