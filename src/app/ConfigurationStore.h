@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Log.h"
 #include "app/PreferenceAccess.h"
 #include "foundation/JsonSameness.h"
 #include "foundation/Observable.h"
@@ -21,7 +22,8 @@ template <typename Record>
 class ConfigurationStore {
 public:
     ConfigurationStore(UserDefaultsType& defaults, PreferenceKey<Record> key)
-        : config_(readPreference(defaults, key)), defaults_(defaults), key_(std::move(key))
+        : config_(readPreference(defaults, key)), defaults_(defaults), key_(std::move(key)),
+          lastSeen_(defaults_.value(key_.key))
     {
     }
     virtual ~ConfigurationStore() = default;
@@ -48,6 +50,23 @@ public:
         isApplyingLoadedConfig_ = before;
     }
 
+    /// Takes over what something else than this store has stored since. A removed record gives the
+    /// default; one that cannot be read leaves the present one in force, with a line in the log,
+    /// since somebody may be in the middle of editing it.
+    void reload()
+    {
+        const auto object = defaults_.value(key_.key);
+        if (object == lastSeen_)
+            return;
+        lastSeen_ = object;
+        auto stored = object ? PreferenceForm<Record>::read(*object) : key_.defaultValue;
+        if (!stored)
+            Log::warn("The preference \"" + key_.key + "\" cannot be read; the present one stays",
+                logCategory::lifecycle);
+        else if (!hasSameJson(*stored, config_.value()))
+            applyLoadedConfig(*std::move(stored));
+    }
+
     /// Brings the record to the preferences, for each assignment and whenever it is asked for.
     virtual void persist() { write(); }
 
@@ -59,6 +78,7 @@ protected:
         const auto& config = config_.value();
         if (!written_ || !hasSameJson(written_->record, config))
             written_ = Written{config, PreferenceForm<Record>::stored(config)};
+        lastSeen_ = written_->object;
         defaults_.set(key_.key, written_->object);
     }
 
@@ -73,6 +93,8 @@ private:
     bool isApplyingLoadedConfig_ = false;
     PreferenceKey<Record> key_;
     std::optional<Written> written_;
+    /// What was stored when this store last read or wrote.
+    std::optional<PreferenceValue> lastSeen_;
 };
 
 } // namespace brindlex

@@ -1,20 +1,33 @@
 #include "app/Log.h"
 
-#include <atomic>
+#include <mutex>
 #include <utility>
 
 namespace brindlex {
 namespace {
 
-std::atomic<std::shared_ptr<LogSink>>& installedSink()
+/// The sink and its lock. Never destroyed: threads may log while the process ends.
+struct Installed {
+    std::mutex mutex;
+    std::shared_ptr<LogSink> sink;
+};
+
+Installed& installed()
 {
-    static std::atomic<std::shared_ptr<LogSink>> sink;
-    return sink;
+    static auto* const value = new Installed;
+    return *value;
+}
+
+/// The sink, kept alive by whoever uses it.
+std::shared_ptr<LogSink> installedSink()
+{
+    const std::lock_guard guard(installed().mutex);
+    return installed().sink;
 }
 
 void write(const LogCall& call)
 {
-    if (const auto sink = installedSink().load())
+    if (const auto sink = installedSink())
         sink->write(call);
 }
 
@@ -76,13 +89,13 @@ void Log::error(
 
 void Log::prune(Date now)
 {
-    if (const auto sink = installedSink().load())
+    if (const auto sink = installedSink())
         sink->prune(now);
 }
 
 std::optional<std::filesystem::path> Log::fileURL(Subsystem subsystem)
 {
-    const auto sink = installedSink().load();
+    const auto sink = installedSink();
     if (!sink)
         return {};
     return sink->fileURL(subsystem);
@@ -90,7 +103,8 @@ std::optional<std::filesystem::path> Log::fileURL(Subsystem subsystem)
 
 std::shared_ptr<LogSink> Log::install(std::shared_ptr<LogSink> sink)
 {
-    return installedSink().exchange(std::move(sink));
+    const std::lock_guard guard(installed().mutex);
+    return std::exchange(installed().sink, std::move(sink));
 }
 
 } // namespace brindlex

@@ -11,9 +11,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Lines are gathered into writes of about this many bytes.
-constexpr std::size_t writeSize = 256 * 1024;
-
 fs::path numbered(const fs::path& file, int number)
 {
     return file.string() + "." + std::to_string(number);
@@ -44,19 +41,22 @@ FileHandle openToAppend(const fs::path& file)
 }
 
 /// Appends as many of the lines as go into the file before its next rotation; answers how many.
+/// Lines that stand behind each other in memory are written in one step.
 std::size_t appendUntilFull(const fs::path& file, std::span<const std::string_view> lines)
 {
     const auto handle = openToAppend(file);
     auto size = sizeOf(file);
-    std::string waiting;
+    std::string_view waiting;
     std::size_t count = 0;
     do {
-        waiting += lines[count];
-        size += lines[count].size();
-        if (waiting.size() >= writeSize) {
+        const auto line = lines[count];
+        if (waiting.data() + waiting.size() == line.data()) {
+            waiting = {waiting.data(), waiting.size() + line.size()};
+        } else {
             handle.writeAll(waiting);
-            waiting.clear();
+            waiting = line;
         }
+        size += line.size();
     } while (++count < lines.size() && size < logFileLimit);
     handle.writeAll(waiting);
     return count;

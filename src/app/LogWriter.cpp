@@ -6,14 +6,13 @@
 #include "platform/Clock.h"
 #include "platform/SystemLog.h"
 
+#include <string>
+#include <string_view>
 #include <system_error>
 #include <utility>
 
 namespace brindlex {
 namespace {
-
-/// What is kept of a backlog's memory for the next one.
-constexpr std::size_t keptCapacity = 1024 * 1024;
 
 SystemLogType systemLogType(LogLevel level)
 {
@@ -45,11 +44,8 @@ void LogWriter::write(const LogCall& call)
     bool isFirst = false;
     {
         const std::lock_guard guard(mutex_);
-        const bool isFull = backlog_.text.size() + call.message.size() > backlogLimit;
-        if (isFull && !backlog_.lines.empty())
-            ++backlog_.dropped;
-        else
-            append(backlog_, call);
+        // The time is taken inside the lock, so that the lines of a file are in its order.
+        backlog_.append(clock_.now(), call);
         isFirst = !std::exchange(isScheduled_, true);
     }
     if (isFirst)
@@ -76,13 +72,6 @@ void LogWriter::drain()
     queue_.drain();
 }
 
-/// The time is taken here, inside the lock, so that the lines of a file are in its order.
-void LogWriter::append(Backlog& backlog, const LogCall& call)
-{
-    const auto parts = appendLogLine(backlog.text, clock_.now(), call);
-    backlog.lines.push_back({call.subsystem, call.level, parts});
-}
-
 void LogWriter::schedule()
 {
     queue_.post([self = shared_from_this()] { self->writeBacklog(); });
@@ -90,48 +79,30 @@ void LogWriter::schedule()
 
 void LogWriter::writeBacklog()
 {
-    auto backlog = takeBacklog();
-    writeToFiles(backlog);
-    writeToSystemLog(backlog);
-    giveBack(std::move(backlog));
+    auto chunks = takeBacklog();
+    for (const auto& chunk : chunks)
+        writeToFiles(chunk);
+    for (const auto& chunk : chunks)
+        writeToSystemLog(chunk);
+    const std::lock_guard guard(mutex_);
+    backlog_.giveBack(chunks);
 }
 
-LogWriter::Backlog LogWriter::takeBacklog()
+std::vector<LogChunk> LogWriter::takeBacklog()
 {
     const std::lock_guard guard(mutex_);
-    auto backlog = std::exchange(backlog_, std::exchange(spare_, {}));
     isScheduled_ = false;
-    if (backlog.dropped > 0)
-        append(backlog,
-            {LogLevel::warn, Log::Subsystem::app, logCategory::lifecycle,
-                std::to_string(backlog.dropped)
-                    + " log lines were dropped: they came faster than they could be written",
-                CallSite::here()});
-    return backlog;
+    return backlog_.take(clock_.now());
 }
 
-void LogWriter::giveBack(Backlog backlog)
-{
-    if (backlog.text.capacity() > keptCapacity)
-        return;
-    backlog.text.clear();
-    backlog.lines.clear();
-    backlog.dropped = 0;
-    const std::lock_guard guard(mutex_);
-    spare_ = std::move(backlog);
-}
-
-void LogWriter::writeToFiles(const Backlog& backlog)
+void LogWriter::writeToFiles(const LogChunk& chunk)
 {
     std::vector<std::string_view> lines;
-    for (std::size_t next = 0; next < backlog.lines.size();) {
-        const auto subsystem = backlog.lines[next].subsystem;
+    for (auto line = chunk.lines.begin(); line != chunk.lines.end();) {
+        const auto subsystem = line->subsystem;
         lines.clear();
-        for (; next < backlog.lines.size() && backlog.lines[next].subsystem == subsystem; ++next) {
-            const auto& parts = backlog.lines[next].parts;
-            lines.push_back(std::string_view(backlog.text)
-                                .substr(parts.begin, parts.messageEnd + 1 - parts.begin));
-        }
+        for (; line != chunk.lines.end() && line->subsystem == subsystem; ++line)
+            lines.push_back(chunk.wholeLine(*line));
         const auto file = fileURL(subsystem);
         if (!file)
             continue;
@@ -140,12 +111,17 @@ void LogWriter::writeToFiles(const Backlog& backlog)
     }
 }
 
-void LogWriter::writeToSystemLog(const Backlog& backlog)
+void LogWriter::writeToSystemLog(const LogChunk& chunk)
 {
-    for (const auto& [subsystem, level, parts] : backlog.lines)
-        systemLog_.write(systemLogType(level), std::string(rawValue(subsystem)),
-            backlog.text.substr(parts.categoryBegin, parts.categoryEnd - parts.categoryBegin),
-            backlog.text.substr(parts.messageBegin, parts.messageEnd - parts.messageBegin));
+    std::string subsystem;
+    std::string category;
+    std::string message;
+    for (const auto& line : chunk.lines) {
+        subsystem = rawValue(line.subsystem);
+        category = chunk.category(line);
+        message = chunk.message(line);
+        systemLog_.write(systemLogType(line.level), subsystem, category, message);
+    }
 }
 
 void LogWriter::pruneFolder(Date now)

@@ -1,13 +1,12 @@
 #pragma once
 
 #include "app/Log.h"
-#include "app/LogLine.h"
+#include "app/LogBacklog.h"
 #include "app/LogPruning.h"
 
 #include <memory>
 #include <mutex>
 #include <optional>
-#include <string>
 #include <vector>
 
 namespace brindlex {
@@ -23,14 +22,12 @@ class SystemLog;
 /// queue, where all the rest happens: a call waits neither for a file nor for the system log. Lines
 /// that wait together are written together. The lines of one process keep their order.
 ///
-/// What waits is bounded by `backlogLimit` bytes of lines: while a flood outruns the disk by so
-/// much, lines are dropped, whatever their level, since making the caller wait could halt the main
-/// thread; one WARN line says afterwards how many. Owned by a `shared_ptr`; work that waits in the
-/// queue keeps it alive. All operations are callable from any thread.
+/// What waits is bounded: while a flood outruns the disk by `LogBacklog::usualLimit`, lines are
+/// dropped, whatever their level, since making the caller wait could halt the main thread; one WARN
+/// line says afterwards how many. Owned by a `shared_ptr`; work that waits in the queue keeps it
+/// alive. All operations are callable from any thread.
 class LogWriter : public LogSink, public std::enable_shared_from_this<LogWriter> {
 public:
-    static constexpr std::size_t backlogLimit = 32 * 1024 * 1024;
-
     /// The queue is for this writer alone and ends before the others.
     LogWriter(BackgroundQueue& queue, AppGroupContainer& container, SystemLog& systemLog,
         const Clock& clock);
@@ -46,24 +43,11 @@ public:
     void drain();
 
 private:
-    struct Line {
-        Log::Subsystem subsystem = Log::Subsystem::app;
-        LogLevel level = LogLevel::info;
-        LogLineParts parts{};
-    };
-    struct Backlog {
-        std::string text;
-        std::vector<Line> lines;
-        std::size_t dropped = 0;
-    };
-
-    void append(Backlog& backlog, const LogCall& call);
     void schedule();
     void writeBacklog();
-    Backlog takeBacklog();
-    void giveBack(Backlog backlog);
-    void writeToFiles(const Backlog& backlog);
-    void writeToSystemLog(const Backlog& backlog);
+    std::vector<LogChunk> takeBacklog();
+    void writeToFiles(const LogChunk& chunk);
+    void writeToSystemLog(const LogChunk& chunk);
     void pruneFolder(Date now);
     std::optional<std::filesystem::path> logsFolder();
 
@@ -73,8 +57,7 @@ private:
     const Clock& clock_;
 
     std::mutex mutex_;
-    Backlog backlog_;
-    Backlog spare_;
+    LogBacklog backlog_;
     bool isScheduled_ = false;
 
     /// Touched on the queue only.

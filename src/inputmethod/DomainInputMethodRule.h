@@ -2,6 +2,7 @@
 
 #include "foundation/JsonForm.h"
 #include "foundation/Uuid.h"
+#include "platform/InputSourceIdentifiers.h"
 
 #include <cstddef>
 #include <functional>
@@ -18,6 +19,9 @@ struct DomainInputMethodRule {
     std::string inputSourceID{};
 
     bool operator==(const DomainInputMethodRule&) const = default;
+
+    /// A source may be written in any of the spellings that input methods have for it.
+    void afterDecoding() { inputSourceID = canonicalSourceID(inputSourceID); }
 
     static constexpr auto jsonForm()
     {

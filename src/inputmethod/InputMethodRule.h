@@ -3,6 +3,7 @@
 #include "app/AppIdentifier.h"
 #include "foundation/JsonForm.h"
 #include "foundation/Uuid.h"
+#include "platform/InputSourceIdentifiers.h"
 
 #include <cstddef>
 #include <functional>
@@ -18,6 +19,9 @@ struct InputMethodRule {
     std::string inputSourceID{};
 
     bool operator==(const InputMethodRule&) const = default;
+
+    /// A source may be written in any of the spellings that input methods have for it.
+    void afterDecoding() { inputSourceID = canonicalSourceID(inputSourceID); }
 
     static constexpr auto jsonForm()
     {

@@ -10,8 +10,8 @@ namespace brindlex {
 
 /// The events on which a subscriber acts, where these are fewer than those of its mask.
 ///
-/// It promises to let every other event of the mask pass and to draw nothing from it, so that a
-/// system which has to take whole devices away from the applications can leave alone what nobody
+/// It promises to draw nothing from any other event of its mask and to leave it what it is, so that
+/// a system which has to take whole devices away from the applications can leave alone what nobody
 /// acts on. A subscriber must be ready for the others all the same: only its mask is sure to keep
 /// them away.
 struct EventTriggers {

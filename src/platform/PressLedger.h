@@ -12,7 +12,9 @@ namespace brindlex {
 /// goes where its press went, so that no application is left with a key or button held, nor with a
 /// release of nothing.
 ///
-/// For systems on which the program itself hands on what it has intercepted.
+/// For systems on which the program itself hands on what it has intercepted. What it posts counts
+/// as one more device: of a keystroke whose press a hotkey has swallowed, the release is not to go
+/// on.
 class PressLedger {
 public:
     using DeviceIdentifier = std::uint64_t;

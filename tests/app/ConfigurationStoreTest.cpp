@@ -2,6 +2,7 @@
 
 #include "mouse/MouseConfig.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
+#include "support/RecordedLog.h"
 
 #include <gtest/gtest.h>
 
@@ -154,6 +155,66 @@ TEST(ConfigurationStore, keepsAndStoresWhatASubscriberAssignsMeanwhile)
 
     EXPECT_EQ(store.config().value(), withDuration(1));
     EXPECT_EQ(defaults.value("scroll"), stored(withDuration(1)));
+}
+
+TEST(ConfigurationStore, takesOverWhatAnotherHasStored)
+{
+    SimulatedUserDefaults defaults;
+    Store store(defaults, key);
+    std::vector<MouseScrollConfig> heard;
+    const auto subscription = store.config().stream().withoutFirst().subscribe(
+        [&](const auto& config) { heard.push_back(config); });
+    defaults.set("scroll", stored(withDuration(0.25)));
+
+    store.reload();
+    store.reload();
+
+    EXPECT_EQ(heard, std::vector{withDuration(0.25)});
+    EXPECT_EQ(defaults.writes().size(), 1U);
+}
+
+TEST(ConfigurationStore, hearsNothingNewInItsOwnWrites)
+{
+    SimulatedUserDefaults defaults;
+    Store store(defaults, key);
+    store.setConfig(withDuration(0.25));
+    int heard = 0;
+    const auto subscription
+        = store.config().stream().withoutFirst().subscribe([&](const auto&) { ++heard; });
+
+    store.reload();
+
+    EXPECT_EQ(heard, 0);
+}
+
+TEST(ConfigurationStore, fallsBackToTheDefaultWhenAnotherRemovesTheRecord)
+{
+    SimulatedUserDefaults defaults;
+    defaults.set("scroll", stored(withDuration(0.25)));
+    Store store(defaults, key);
+    defaults.set("scroll", {});
+
+    store.reload();
+
+    EXPECT_EQ(store.config().value(), MouseScrollConfig{});
+}
+
+TEST(ConfigurationStore, keepsThePresentRecordWhileTheStoredOneCannotBeRead)
+{
+    RecordedLog log;
+    SimulatedUserDefaults defaults;
+    defaults.set("scroll", stored(withDuration(0.25)));
+    Store store(defaults, key);
+    defaults.set("scroll", "{\"smoothDuration\":");
+
+    store.reload();
+    store.reload();
+
+    EXPECT_EQ(store.config().value(), withDuration(0.25));
+    EXPECT_EQ(defaults.value("scroll"), PreferenceValue("{\"smoothDuration\":"));
+    EXPECT_EQ(log.lines(),
+        std::vector<std::string>{
+            "WARN [lifecycle] The preference \"scroll\" cannot be read; the present one stays"});
 }
 
 } // namespace

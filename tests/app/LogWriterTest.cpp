@@ -271,9 +271,9 @@ TEST_F(LogWriterTest, dropsAndCountsWhatAFloodHasTooMuch)
     EXPECT_EQ(systemLog.entries().size(), 33u);
     const auto text = content();
     const auto tail = text.substr(text.find("WARN  "));
-    EXPECT_TRUE(tail.starts_with("WARN   [lifecycle] Brindlex/LogWriter:")) << tail;
-    EXPECT_NE(tail.find(" — 9 log lines were dropped: they came faster than they could be "
-                        "written\n"),
+    EXPECT_TRUE(tail.starts_with("WARN   [lifecycle] Brindlex/LogBacklog:")) << tail;
+    EXPECT_NE(tail.find(" — Log lines dropped, as they came faster than they could be written: "
+                        "9\n"),
         std::string::npos)
         << tail;
     EXPECT_TRUE(tail.ends_with(line("afterwards"))) << tail;

@@ -28,7 +28,9 @@ std::vector<Include> includesBelow(const std::filesystem::path& root)
         int number = 0;
         for (std::string line; std::getline(stream, line);) {
             ++number;
-            if (std::regex_search(line, found, form))
+            const bool isInclude = std::regex_search(line, found, form);
+            // What Qt's compiler of meta objects makes is no header of ours.
+            if (isInclude && !found[2].str().ends_with(".moc"))
                 includes.push_back({file, found[2], number, found[1] == "\""});
         }
     }

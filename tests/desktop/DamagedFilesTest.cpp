@@ -19,19 +19,13 @@ protected:
         EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
     }
 
-    void writeRule()
-    {
-        desk.files.writePreferences(
-            SwitchingRules{.applications = {{identifierOf("Alpha"), german}}}.preferences());
-    }
-
     ProgramDesk desk;
     TypingWindow alpha{desk.windows, "Alpha"};
 };
 
 TEST_F(DamagedFiles, includeAFileWhereTheContainerBelongs)
 {
-    writeRule();
+    desk.applyRules({{"Alpha", german}});
     write(desk.files.container(), "not a folder");
 
     expectToWork();
@@ -41,7 +35,7 @@ TEST_F(DamagedFiles, includeAFileWhereTheContainerBelongs)
 
 TEST_F(DamagedFiles, includeAPlaceWhereNoContainerCanBe)
 {
-    writeRule();
+    desk.applyRules({{"Alpha", german}});
     // Not even root can make a folder there.
     desk.desktop.setVariable("XDG_DATA_HOME", "/proc/nowhere");
 
@@ -55,7 +49,7 @@ TEST_F(DamagedFiles, includeAPlaceWhereNoContainerCanBe)
 
 TEST_F(DamagedFiles, includeAContainerOfAnotherUser)
 {
-    writeRule();
+    desk.applyRules({{"Alpha", german}});
     // The root folder is another's to everyone but root, who can give a folder away.
     if (geteuid() == 0) {
         std::filesystem::create_directory(desk.files.container());
@@ -71,7 +65,7 @@ TEST_F(DamagedFiles, includeAContainerOfAnotherUser)
 
 TEST_F(DamagedFiles, includeAContainerThatOthersMayWriteTo)
 {
-    writeRule();
+    desk.applyRules({{"Alpha", german}});
     std::filesystem::create_directory(desk.files.container());
     std::filesystem::permissions(desk.files.container(), std::filesystem::perms::all);
 
@@ -82,7 +76,7 @@ TEST_F(DamagedFiles, includeAContainerThatOthersMayWriteTo)
 
 TEST_F(DamagedFiles, includeAContainerThatGoesWhileTheProgramRuns)
 {
-    writeRule();
+    desk.applyRules({{"Alpha", german}});
     const TypingWindow gamma(desk.windows, "Gamma");
     RunningProgram program(desk.desktop);
     ASSERT_TRUE(program.launches()) << program.report();

@@ -29,9 +29,7 @@ class InputMethodSwitching : public testing::Test {
 protected:
     InputMethodSwitching()
     {
-        desk_.files.writePreferences(SwitchingRules{.applications
-            = {{identifierOf("Alpha"), T::chineseSource}, {identifierOf("Beta"), T::latinSource}}}
-                                        .preferences());
+        desk_.applyRules({{"Alpha", T::chineseSource}, {"Beta", T::latinSource}});
     }
 
     bool selects(const std::string& engine)

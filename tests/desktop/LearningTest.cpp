@@ -49,8 +49,9 @@ TEST(Learning, actsAfterTenEqualChoices)
         ASSERT_TRUE(desk.keepsGroup(germanGroup));
         ASSERT_TRUE(teaches(desk, "Gamma", usGroup, round)) << program.report();
         ASSERT_TRUE(desk.windows.activate(alpha.window()));
-        if (round < 10)
+        if (round < 10) {
             ASSERT_TRUE(desk.keepsGroup(usGroup)) << "after " << round;
+        }
     }
 
     EXPECT_TRUE(desk.usesGroup(germanGroup)) << program.report();
@@ -62,9 +63,7 @@ TEST(Learning, actsAfterTenEqualChoices)
 TEST(Learning, doesNotTakeItsOwnChangesForTheUsers)
 {
     ProgramDesk desk;
-    desk.files.writePreferences(SwitchingRules{
-        .applications = {{identifierOf("Alpha"), german}, {identifierOf("Beta"), russian}}}
-                                    .preferences());
+    desk.applyRules({{"Alpha", german}, {"Beta", russian}});
     const TypingWindow alpha(desk.windows, "Alpha");
     const TypingWindow beta(desk.windows, "Beta");
     const RunningProgram program(desk.desktop);
@@ -86,7 +85,7 @@ TEST(Learning, doesNotTakeItsOwnChangesForTheUsers)
 TEST(Learning, outlivesBeingKilled)
 {
     ProgramDesk desk;
-    desk.files.writePreferences(SwitchingRules{}.preferences());
+    desk.applyRules({});
     const TypingWindow alpha(desk.windows, "Alpha");
     ASSERT_TRUE(desk.windows.activate(alpha.window()));
     std::size_t learned = 0;
@@ -110,7 +109,7 @@ TEST(Learning, outlivesBeingKilled)
 TEST(Learning, isOnDiskWithinATenthOfASecond)
 {
     ProgramDesk desk;
-    desk.files.writePreferences(SwitchingRules{}.preferences());
+    desk.applyRules({});
     const TypingWindow alpha(desk.windows, "Alpha");
     ASSERT_TRUE(desk.windows.activate(alpha.window()));
     RunningProgram program(desk.desktop);

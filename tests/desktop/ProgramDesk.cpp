@@ -7,16 +7,6 @@ using namespace std::chrono_literals;
 
 constexpr auto longEnough = 400ms;
 
-void installApplication(const VirtualDesktop& desktop, const std::string& className)
-{
-    const auto folder = desktop.dataFolder() / "applications";
-    std::error_code ignored;
-    std::filesystem::create_directories(folder, ignored);
-    write(folder / (identifierOf(className) + ".desktop"),
-        "[Desktop Entry]\nType=Application\nName=" + className
-            + "\nExec=xterm\nStartupWMClass=" + className + "\n");
-}
-
 } // namespace
 
 const VirtualDesktop::Options ProgramDesk::usual{.keyboardLayouts = "us,de,ru"};
@@ -27,7 +17,15 @@ ProgramDesk::ProgramDesk(const VirtualDesktop::Options& options)
     : desktop(options), windows(server), input(server), files(desktop)
 {
     for (const auto className : {"Alpha", "Beta", "Gamma"})
-        installApplication(desktop, className);
+        installApplication(desktop, identifierOf(className), className);
+}
+
+void ProgramDesk::applyRules(const std::vector<SwitchingRules::Rule>& applications) const
+{
+    SwitchingRules rules{.applications = applications};
+    for (auto& rule : rules.applications)
+        rule.place = identifierOf(rule.place);
+    files.writePreferences(rules.preferences());
 }
 
 bool ProgramDesk::usesGroup(int group) const

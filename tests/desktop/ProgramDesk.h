@@ -2,6 +2,7 @@
 
 #include "support/DesktopWindows.h"
 #include "support/Eventually.h"
+#include "support/InstalledApplication.h"
 #include "support/KeyboardGroup.h"
 #include "support/PlayedInput.h"
 #include "support/ProgramFiles.h"
@@ -11,7 +12,7 @@
 #include "support/VirtualDesktop.h"
 #include "support/XConnection.h"
 
-#include <string>
+#include <vector>
 
 namespace brindlex {
 
@@ -23,8 +24,11 @@ std::string identifierOf(const std::string& className);
 struct ProgramDesk {
     explicit ProgramDesk(const VirtualDesktop::Options& options = usual);
 
-    /// Selects nothing and is what most tests want.
+    /// What most tests want.
     static const VirtualDesktop::Options usual;
+
+    /// Gives the user these rules and no other settings; an application goes by its class.
+    void applyRules(const std::vector<SwitchingRules::Rule>& applications) const;
 
     /// Waits until the layout is in force.
     bool usesGroup(int group) const;
@@ -39,7 +43,7 @@ struct ProgramDesk {
 };
 
 inline constexpr auto us = "xkb:us::eng";
-inline constexpr auto german = "xkb:de::ger";
+inline constexpr auto german = "xkb:de::deu";
 inline constexpr auto russian = "xkb:ru::rus";
 
 inline constexpr int usGroup = 0;

@@ -15,9 +15,7 @@ class StrangeWindows : public testing::Test {
 protected:
     StrangeWindows()
     {
-        desk.files.writePreferences(SwitchingRules{
-            .applications = {{identifierOf("Alpha"), german}, {identifierOf("Beta"), russian}}}
-                                        .preferences());
+        desk.applyRules({{"Alpha", german}, {"Beta", russian}});
         program.emplace(desk.desktop);
     }
 

@@ -6,15 +6,12 @@ namespace brindlex {
 namespace {
 
 /// Alpha writes German, Beta Russian; Gamma has no rule.
-SwitchingRules twoRules()
-{
-    return {.applications = {{identifierOf("Alpha"), german}, {identifierOf("Beta"), russian}}};
-}
+const std::vector<SwitchingRules::Rule> twoRules{{"Alpha", german}, {"Beta", russian}};
 
 TEST(Switching, followsTheApplicationInFront)
 {
     ProgramDesk desk;
-    desk.files.writePreferences(twoRules().preferences());
+    desk.applyRules(twoRules);
     TypingWindow alpha(desk.windows, "Alpha");
     TypingWindow beta(desk.windows, "Beta");
     TypingWindow gamma(desk.windows, "Gamma");
@@ -40,7 +37,7 @@ TEST(Switching, followsTheApplicationInFront)
 TEST(Switching, appliesToTheApplicationThatIsInFrontAtTheStart)
 {
     ProgramDesk desk;
-    desk.files.writePreferences(twoRules().preferences());
+    desk.applyRules(twoRules);
     const TypingWindow alpha(desk.windows, "Alpha");
     ASSERT_TRUE(desk.windows.activate(alpha.window()));
 
@@ -52,7 +49,7 @@ TEST(Switching, appliesToTheApplicationThatIsInFrontAtTheStart)
 TEST(Switching, letsTheUsersChoiceStandUntilTheContextChanges)
 {
     ProgramDesk desk;
-    desk.files.writePreferences(twoRules().preferences());
+    desk.applyRules(twoRules);
     TypingWindow alpha(desk.windows, "Alpha");
     TypingWindow beta(desk.windows, "Beta");
     TypingWindow gamma(desk.windows, "Gamma");
@@ -80,8 +77,8 @@ TEST(Switching, letsTheUsersChoiceStandUntilTheContextChanges)
 TEST(Switching, doesNothingWhenItIsTurnedOff)
 {
     ProgramDesk desk;
-    auto rules = twoRules();
-    rules.enabled = false;
+    SwitchingRules rules{.enabled = false};
+    rules.applications = {{identifierOf("Alpha"), german}};
     desk.files.writePreferences(rules.preferences());
     const TypingWindow alpha(desk.windows, "Alpha");
     const TypingWindow gamma(desk.windows, "Gamma");
@@ -106,7 +103,8 @@ TEST(Switching, followsRulesThatAreChangedWhileItRuns)
         << program.report();
 
     auto preferences = desk.files.readPreferences();
-    preferences.update(twoRules().preferences());
+    const SwitchingRules rules{.applications = {{identifierOf("Beta"), russian}}};
+    preferences.update(rules.preferences());
     desk.files.writePreferences(preferences);
     const TypingWindow beta(desk.windows, "Beta");
     ASSERT_TRUE(desk.windows.activate(beta.window()));
@@ -117,8 +115,7 @@ TEST(Switching, followsRulesThatAreChangedWhileItRuns)
 TEST(Switching, saysInTheLogThatASourceIsNotThere)
 {
     ProgramDesk desk;
-    desk.files.writePreferences(
-        SwitchingRules{.applications = {{identifierOf("Alpha"), "xkb:fr::fra"}}}.preferences());
+    desk.applyRules({{"Alpha", "xkb:fr::fra"}});
     const RunningProgram program(desk.desktop);
     ASSERT_TRUE(program.launches()) << program.report();
 

@@ -171,5 +171,18 @@ TEST(DomainInputMethodRule, hasItsPlaceInASet)
     EXPECT_TRUE(rules.contains(moved));
 }
 
+TEST(InputMethodConfig, readsAnySpellingOfASource)
+{
+    const auto config = fromJson<InputMethodConfig>(*parseJson(R"({
+        "rules": [{"id": "6B29FC40-CA47-1067-B31D-00DD010662DA",
+            "app": {"bundleID": "mail", "displayName": "Mail"}, "inputSourceID": "xkb:de::ger"}],
+        "domainRules": [{"id": "7C9E6679-7425-40DE-944B-E07FC1F90AE7",
+            "domainSuffix": "example.fr", "inputSourceID": "xkb:fr:oss:fre"}]})"));
+
+    ASSERT_TRUE(config);
+    EXPECT_EQ(config->rules[0].inputSourceID, "xkb:de::deu");
+    EXPECT_EQ(config->domainRules[0].inputSourceID, "xkb:fr:oss:fra");
+}
+
 } // namespace
 } // namespace brindlex

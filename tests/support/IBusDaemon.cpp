@@ -23,11 +23,13 @@ IBusDaemon::IBusDaemon(VirtualDesktop& desktop, const std::vector<std::string>& 
     std::string list;
     for (const auto& engine : engines)
         list += (list.empty() ? "'" : ", '") + engine + "'";
-    const auto folder = desktop.configFolder() / "glib-2.0/settings";
-    std::error_code ignored;
-    std::filesystem::create_directories(folder, ignored);
-    write(folder / "keyfile",
-        "[desktop/ibus/general]\npreload-engines=[" + list + "]\nengines-order=[" + list + "]\n");
+    // The daemon reads its settings itself, whatever place programs are told to keep theirs.
+    const ChildProcess::Start enable{
+        .command = {"dconf", "write", "/desktop/ibus/general/preload-engines", "[" + list + "]"},
+        .output = desktop.outputFolder() / "dconf",
+    };
+    if (run(enable, 20s) != ProcessEnd{0, {}})
+        fatalError("The engines could not be enabled.\n" + contentOf(enable.output));
     for (const auto variable : {"GTK_IM_MODULE", "QT_IM_MODULE"})
         desktop.setVariable(variable, "ibus");
     desktop.setVariable("XMODIFIERS", "@im=ibus");

@@ -24,7 +24,7 @@ private:
     std::thread thread_;
 };
 
-/// The page that a request is answered with, a field to type into included.
+/// The page that a request is answered with; what is typed into its field stands in its title too.
 std::string pageFor(const std::string& request);
 
 } // namespace brindlex

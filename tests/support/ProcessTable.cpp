@@ -4,6 +4,7 @@
 
 #include <charconv>
 #include <filesystem>
+#include <fstream>
 #include <unistd.h>
 
 namespace brindlex {
@@ -23,6 +24,23 @@ std::vector<pid_t> processesWithVariable(const std::string& name, const std::str
             processes.push_back(id);
     }
     return processes;
+}
+
+std::optional<long> timesAsleep(pid_t process)
+{
+    long times = 0;
+    std::error_code ignored;
+    for (const auto& thread : std::filesystem::directory_iterator(
+             "/proc/" + std::to_string(process) + "/task", ignored)) {
+        std::ifstream status(thread.path() / "status");
+        for (std::string key, value; status >> key && std::getline(status, value);) {
+            if (key == "State:" && value.find("S (") == std::string::npos)
+                return std::nullopt;
+            if (key.ends_with("voluntary_ctxt_switches:"))
+                times += std::stol(value);
+        }
+    }
+    return times;
 }
 
 } // namespace brindlex

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <sys/types.h>
 #include <vector>
@@ -8,5 +9,8 @@ namespace brindlex {
 
 /// The processes that were started with exactly this variable in their environment.
 std::vector<pid_t> processesWithVariable(const std::string& name, const std::string& value);
+
+/// How often the threads of the process have gone to sleep; nothing while one of them is awake.
+std::optional<long> timesAsleep(pid_t process);
 
 } // namespace brindlex

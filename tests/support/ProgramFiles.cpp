@@ -27,7 +27,15 @@ json ProgramFiles::readPreferences() const
     return value.is_discarded() ? json{} : value;
 }
 
-void ProgramFiles::writePreferences(const json& value) const { write(preferences(), value.dump()); }
+void ProgramFiles::writePreferences(const json& value) const
+{
+    // As a whole, like every other writer of this file.
+    auto whole = preferences();
+    whole += ".new";
+    write(whole, value.dump());
+    std::error_code ignored;
+    std::filesystem::rename(whole, preferences(), ignored);
+}
 
 json ProgramFiles::readRecord(const std::string& key) const
 {

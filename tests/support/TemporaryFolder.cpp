@@ -2,7 +2,8 @@
 
 #include <cstdlib>
 #include <fstream>
-#include <iterator>
+#include <sstream>
+#include <utility>
 
 namespace brindlex {
 
@@ -21,7 +22,9 @@ TemporaryFolder::~TemporaryFolder()
 std::string contentOf(const std::filesystem::path& file)
 {
     std::ifstream stream(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(stream), {}};
+    std::ostringstream content;
+    content << stream.rdbuf();
+    return std::move(content).str();
 }
 
 void write(const std::filesystem::path& file, const std::string& content)

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 namespace brindlex {
@@ -15,13 +16,25 @@ const auto interface = QStringLiteral("com.brindlex.Brindlex.Notifications");
 const auto member = QStringLiteral("Posted");
 const auto signature = QStringLiteral("ss");
 
+/// The text as a match rule can hold it; null, which matches anything, where the library would
+/// write it into the rule in a way that the bus refuses.
+QString asMatch(const QString& text)
+{
+    const auto isPlain = [](QChar character) {
+        return character >= QLatin1Char(' ') && character <= QLatin1Char('~')
+            && character != QLatin1Char('\'') && character != QLatin1Char('\\');
+    };
+    return std::all_of(text.begin(), text.end(), isPlain) ? text : QString();
+}
+
 /// One observer. May be ended from inside its handler.
 class Observer : public QObject {
     Q_OBJECT
 
 public:
-    Observer(QObject* parent, std::function<void()> handler)
-        : QObject(parent), handler_(std::move(handler))
+    Observer(QObject* parent, QString name, QString object, std::function<void()> handler)
+        : QObject(parent), name_(std::move(name)), object_(std::move(object)),
+          handler_(std::move(handler))
     {
     }
 
@@ -33,13 +46,15 @@ public:
     }
 
 public Q_SLOTS:
-    void hear()
+    void hear(const QString& name, const QString& object)
     {
-        if (isActive_)
+        if (isActive_ && name == name_ && object == object_)
             handler_();
     }
 
 private:
+    const QString name_;
+    const QString object_;
     std::function<void()> handler_;
     bool isActive_ = true;
 };
@@ -67,10 +82,13 @@ void DBusNotifications::post(const std::string& name, const std::string& object)
 Subscription DBusNotifications::observe(
     const std::string& name, const std::string& object, std::function<void()> handler)
 {
-    const QStringList wanted{QString::fromStdString(name), QString::fromStdString(object)};
-    const QPointer<Observer> observer = new Observer(observers_.get(), std::move(handler));
-    bus_.connection().connect(
-        QString(), path, interface, member, wanted, signature, observer.data(), SLOT(hear()));
+    const auto wantedName = QString::fromStdString(name);
+    const auto wantedObject = QString::fromStdString(object);
+    const QPointer<Observer> observer
+        = new Observer(observers_.get(), wantedName, wantedObject, std::move(handler));
+    bus_.connection().connect(QString(), path, interface, member,
+        {asMatch(wantedName), asMatch(wantedObject)}, signature, observer.data(),
+        SLOT(hear(QString, QString)));
     bus_.flush();
     return Subscription([observer] {
         if (observer)

@@ -1,7 +1,7 @@
 #include "platform/linux/DesktopEntry.h"
 
+#include "foundation/FileReplacement.h"
 #include "foundation/Text.h"
-#include "platform/linux/BoundedFile.h"
 
 #include <algorithm>
 #include <map>
@@ -131,10 +131,10 @@ std::optional<DesktopEntry> parseDesktopEntry(
 std::optional<DesktopEntry> readDesktopEntry(
     const std::filesystem::path& file, const std::vector<std::string>& languages)
 {
-    const auto text = readBoundedFile(file, sizeLimit);
-    if (!text)
+    const auto text = readFile(file, sizeLimit);
+    if (!text || !*text)
         return {};
-    auto entry = parseDesktopEntry(*text, languages);
+    auto entry = parseDesktopEntry(**text, languages);
     if (entry)
         entry->path = file;
     return entry;

@@ -30,6 +30,11 @@ QDBusConnection connect(const QString& address)
 
 SessionBus::SessionBus() : connection_(connect(address())) { }
 
+SessionBus::SessionBus(const std::string& address)
+    : connection_(connect(QString::fromStdString(address)))
+{
+}
+
 SessionBus::~SessionBus()
 {
     const auto name = connection_.name();

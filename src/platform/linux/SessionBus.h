@@ -4,6 +4,7 @@
 #include <QDBusMessage>
 
 #include <optional>
+#include <string>
 
 namespace brindlex {
 
@@ -16,6 +17,8 @@ public:
     /// A connection of its own to the bus that the environment names, or else to the one at the
     /// usual place below XDG_RUNTIME_DIR.
     SessionBus();
+    /// A connection of its own to the bus at the address.
+    explicit SessionBus(const std::string& address);
     ~SessionBus();
     SessionBus(const SessionBus&) = delete;
     SessionBus& operator=(const SessionBus&) = delete;

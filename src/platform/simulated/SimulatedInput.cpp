@@ -50,6 +50,9 @@ private:
 
 namespace {
 
+/// All that is posted comes as if from one more device.
+constexpr PressLedger::DeviceIdentifier postingDevice = 0;
+
 struct Press {
     PressLedger::Kind kind{};
     std::int64_t code = 0;
@@ -112,18 +115,27 @@ EventVerdict SimulatedInput::sendThroughSession(const Event& event)
 EventVerdict SimulatedInput::sendFromDevice(
     PressLedger::DeviceIdentifier device, const Event& event)
 {
-    const auto press = pressIn(event);
     auto& takenPresses = takenPresses_[device];
     const bool isTaken = !takenPresses.empty() || isWanted(event);
-    auto verdict = isTaken ? offer(event) : EventVerdict::pass;
-    if (press && press->isRelease) {
-        takenPresses.erase({press->kind, press->code});
-        const bool goesOn = ledger_.released(device, press->kind, press->code);
-        verdict = goesOn ? EventVerdict::pass : EventVerdict::swallow;
-    } else if (press) {
-        if (isTaken)
+    const auto verdict = isTaken ? offer(event) : EventVerdict::pass;
+    if (const auto press = pressIn(event)) {
+        if (press->isRelease)
+            takenPresses.erase({press->kind, press->code});
+        else if (isTaken)
             takenPresses.insert({press->kind, press->code});
-        ledger_.pressed(device, press->kind, press->code, verdict == EventVerdict::pass);
+    }
+    return handOn(device, event, verdict);
+}
+
+EventVerdict SimulatedInput::handOn(
+    PressLedger::DeviceIdentifier device, const Event& event, EventVerdict verdict)
+{
+    if (const auto press = pressIn(event)) {
+        if (press->isRelease)
+            verdict = ledger_.released(device, press->kind, press->code) ? EventVerdict::pass
+                                                                         : EventVerdict::swallow;
+        else
+            ledger_.pressed(device, press->kind, press->code, verdict == EventVerdict::pass);
     }
     if (verdict == EventVerdict::pass)
         delivered_.push_back(event);
@@ -156,7 +168,10 @@ void SimulatedInput::runPosted()
     while (!isBusy_ && !posted_.empty()) {
         const auto event = posted_.front();
         posted_.pop_front();
-        sendThroughSession(event);
+        if (place_ == TapPlace::session)
+            sendThroughSession(event);
+        else
+            handOn(postingDevice, event, offer(event));
     }
 }
 

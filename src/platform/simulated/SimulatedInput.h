@@ -68,6 +68,8 @@ private:
     EventVerdict offer(const Event& event);
     EventVerdict sendThroughSession(const Event& event);
     EventVerdict sendFromDevice(PressLedger::DeviceIdentifier device, const Event& event);
+    EventVerdict handOn(
+        PressLedger::DeviceIdentifier device, const Event& event, EventVerdict verdict);
     bool isWanted(const Event& event) const;
     void runPosted();
 

@@ -1,0 +1,127 @@
+// What one event costs between the system and the applications.
+
+#include "mouse/GlobalEventTap.h"
+#include "mouse/MouseGesture.h"
+#include "mouse/ScrollMotion.h"
+#include "platform/simulated/SimulatedEventPermissions.h"
+#include "platform/simulated/SimulatedProgramActivation.h"
+
+#include <benchmark/benchmark.h>
+
+#include <atomic>
+#include <cstdlib>
+#include <new>
+
+namespace {
+
+std::atomic<long> allocations{0};
+
+} // namespace
+
+void* operator new(std::size_t size)
+{
+    ++allocations;
+    if (void* memory = std::malloc(size))
+        return memory;
+    throw std::bad_alloc();
+}
+void operator delete(void* memory) noexcept { std::free(memory); }
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
+
+namespace brindlex {
+namespace {
+
+/// A system that hands its events straight to the tap.
+class DirectTapping : public EventTapping {
+public:
+    std::unique_ptr<EventTap> createTap(
+        EventMask, std::vector<EventInterest>, Handler given) override
+    {
+        handler = std::move(given);
+        return std::make_unique<Tap>();
+    }
+
+    Handler handler;
+
+private:
+    class Tap : public EventTap {
+        void setEnabled(bool) override { }
+        void setInterests(std::vector<EventInterest>) override { }
+    };
+};
+
+class Allocations {
+public:
+    explicit Allocations(benchmark::State& state) : state_(state), before_(allocations) { }
+    ~Allocations()
+    {
+        state_.counters["allocations"] = benchmark::Counter(
+            static_cast<double>(allocations - before_), benchmark::Counter::kAvgIterations);
+    }
+
+private:
+    benchmark::State& state_;
+    long before_;
+};
+
+/// Aim: below 200 ns, no allocation.
+void dispatchThroughTenSubscriptions(benchmark::State& state)
+{
+    DirectTapping tapping;
+    SimulatedEventPermissions permissions;
+    SimulatedProgramActivation activation;
+    GlobalEventTap tap(tapping, permissions, activation);
+    long calls = 0;
+    for (int subscriber = 0; subscriber < 10; ++subscriber)
+        tap.subscribe(0x6000000, [&calls](const Event&) {
+            ++calls;
+            return EventVerdict::pass;
+        });
+    const Event event{EventType::otherMouseDown, {}, 0, {{EventField::mouseEventButtonNumber, 3}}};
+    const Allocations count(state);
+    for (auto _ : state)
+        benchmark::DoNotOptimize(tapping.handler(event));
+    benchmark::DoNotOptimize(calls);
+}
+BENCHMARK(dispatchThroughTenSubscriptions);
+
+/// Aim: below 100 ns, no allocation.
+void gestureStepOfADrag(benchmark::State& state)
+{
+    MouseGestureConfig config;
+    config.distanceThreshold = 1e9;
+    for (const auto direction : allCases<MouseDirection>())
+        config.bindings.push_back(
+            {{}, MouseButton::button4, {}, direction, MouseAction::Forward{}});
+    const std::function<MouseResizeDragDecision(Point)> decide
+        = [](Point) { return MouseResizeDragDecision{}; };
+    MouseGestureState pending;
+    Event event{EventType::otherMouseDown, {}, 0, {{EventField::mouseEventButtonNumber, 3}}};
+    reduceMouseGesture(event, pending, config, Date{0}, decide);
+    event.type = EventType::otherMouseDragged;
+    const Allocations count(state);
+    for (auto _ : state) {
+        event.location.x += 0.5;
+        benchmark::DoNotOptimize(reduceMouseGesture(event, pending, config, Date{1}, decide));
+    }
+}
+BENCHMARK(gestureStepOfADrag);
+
+/// Aim: below 100 ns, no allocation.
+void frameOfTheSmoother(benchmark::State& state)
+{
+    ScrollMotion motion;
+    Seconds now = 1;
+    const Allocations count(state);
+    for (auto _ : state) {
+        motion.remainingY = 1000;
+        now += 1.0 / 60;
+        benchmark::DoNotOptimize(motion.advance(now, 0.18));
+    }
+}
+BENCHMARK(frameOfTheSmoother);
+
+} // namespace
+} // namespace brindlex
+
+BENCHMARK_MAIN();

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "app/Platform.h"
+#include "app/SharedInstances.h"
+#include "foundation/Subscription.h"
+
+namespace brindlex {
+
+/// Starts and stops everything that lives as long as the program, in one fixed order each.
+///
+/// Nothing else may start or stop a manager at the level of the application. A manager that cannot
+/// start stays idle and says so in the log; the sequence goes on. Each sequence runs once in a
+/// process. Main thread only.
+class AppLifecycleCoordinator {
+public:
+    AppLifecycleCoordinator(Platform& platform, SharedInstances& shared);
+
+    /// Runs the start sequence. When another instance runs already, wakes that one, asks this
+    /// process to end and starts nothing.
+    void start();
+
+    /// Whether `start` went through to its end.
+    bool isStarted() const { return isStarted_; }
+
+    /// Runs the stop sequence.
+    void stop();
+
+    /// Brings the program before the user's eyes: asked for by a second launch.
+    void showMainWindowRequested();
+
+private:
+    bool wakeExistingInstance();
+    void observeShowRequests();
+    void startInputSwitching();
+
+    Platform& platform_;
+    SharedInstances& shared_;
+    Subscription showRequests_;
+    bool isStarted_ = false;
+};
+
+} // namespace brindlex

@@ -1,0 +1,128 @@
+#include "app/linux/LinuxEntry.h"
+
+#include "app/AppLifecycleCoordinator.h"
+#include "app/Log.h"
+#include "app/SharedInstances.h"
+#include "app/linux/LinuxPlatform.h"
+#include "inputmethod/TextInputSourceService.h"
+#include "platform/linux/UnixSignals.h"
+
+#include <QGuiApplication>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <malloc.h>
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+/// How long after the launch the overlay gets ready for its first use.
+constexpr Seconds warmUpDelay = 1.0;
+
+/// What has to happen once before the process ends, by whatever road.
+class Ending {
+public:
+    Ending(AppLifecycleCoordinator& lifecycle, UserDefaults& defaults, LogWriter& log)
+        : lifecycle_(lifecycle), defaults_(defaults), log_(log)
+    {
+        current = this;
+        std::atexit([] { endWithTheDisplay(); });
+    }
+    ~Ending() { current = nullptr; }
+    Ending(const Ending&) = delete;
+    Ending& operator=(const Ending&) = delete;
+
+    /// The stop sequence, if the start went through, and everything brought to disk.
+    void end()
+    {
+        if (std::exchange(hasEnded_, true))
+            return;
+        if (lifecycle_.isStarted())
+            lifecycle_.stop();
+        defaults_.synchronize();
+        log_.drain();
+    }
+
+    /// The end that cannot go back to the loop: the window library leaves by `exit` when its
+    /// connection breaks, and so nothing may be left that needs the X server.
+    static void endWithTheDisplay()
+    {
+        if (!current || current->hasEnded_)
+            return;
+        auto& ending = *current;
+        ending.end();
+        Log::error("The X server has gone away; Brindlex has ended", logCategory::lifecycle);
+        ending.log_.drain();
+        std::_Exit(EXIT_SUCCESS);
+    }
+
+private:
+    static inline Ending* current = nullptr;
+
+    AppLifecycleCoordinator& lifecycle_;
+    UserDefaults& defaults_;
+    LogWriter& log_;
+    bool hasEnded_ = false;
+};
+
+/// The window library ends the process when it finds no server, so this asks before it does.
+bool canReachDisplay()
+{
+    auto* connection = xcb_connect(nullptr, nullptr);
+    const bool isReached = xcb_connection_has_error(connection) == 0;
+    xcb_disconnect(connection);
+    return isReached;
+}
+
+/// Prepares the overlay for the names that it will show, and gives back what the start took and
+/// nothing needs any more.
+void getReadyForLater(LinuxPlatform& platform)
+{
+    std::string names;
+    for (const auto& source :
+        TextInputSourceService(platform.abilities().inputSources).availableSources())
+        names += source.localizedName;
+    platform.overlayPanel().warmUp(names);
+    ::malloc_trim(0);
+}
+
+} // namespace
+
+int runOnDesktop(char* programName, Clock& clock, XdgUserFolders& userFolders,
+    AppGroupContainer& container, LogWriter& log)
+{
+    if (!canReachDisplay()) {
+        constexpr auto problem = "No X server can be reached; DISPLAY has to name one";
+        Log::error(problem, logCategory::lifecycle);
+        std::fprintf(stderr, "brindlex: %s\n", problem);
+        return EXIT_FAILURE;
+    }
+
+    // The program's own words to the window library, whatever the user's environment says of it.
+    std::array<char*, 5> arguments{programName, const_cast<char*>("-platform"),
+        const_cast<char*>("xcb"), const_cast<char*>("-platformtheme"),
+        const_cast<char*>("generic")};
+    int argumentCount = static_cast<int>(arguments.size());
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QGuiApplication application(argumentCount, arguments.data());
+
+    LinuxPlatform linuxPlatform(clock, userFolders, container);
+    auto& platform = linuxPlatform.abilities();
+    SharedInstances shared(platform);
+    AppLifecycleCoordinator lifecycle(platform, shared);
+    Ending ending(lifecycle, platform.defaults, log);
+
+    const UnixSignals unixSignals([&](int) { platform.instances.terminate(); });
+    const auto displayEnd = linuxPlatform.display().observeEnd([] { Ending::endWithTheDisplay(); });
+    lifecycle.start();
+    Subscription warmUp;
+    if (lifecycle.isStarted())
+        warmUp = platform.mainThread.after(warmUpDelay, [&] { getReadyForLater(linuxPlatform); });
+    const int status = QGuiApplication::exec();
+    ending.end();
+    return status;
+}
+
+} // namespace brindlex

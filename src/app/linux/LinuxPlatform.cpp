@@ -1,0 +1,27 @@
+#include "app/linux/LinuxPlatform.h"
+
+#include "app/ProgramIdentity.h"
+#include "platform/linux/X11WindowActivation.h"
+
+namespace brindlex {
+
+LinuxPlatform::LinuxPlatform(
+    Clock& clock, XdgUserFolders& userFolders, AppGroupContainer& container)
+    : activeWindow_(display_), preferencesQueue_("Brindlex.Prefs"),
+      defaults_(
+          userFolders.configHome() / (std::string(programIdentity::bundleIdentifier) + ".json"),
+          mainThread_, preferencesQueue_),
+      notifications_(sessionBus_),
+      instances_(sessionBus_, programIdentity::bundleIdentifier,
+          [this](auto process) { activateWindowsOf(display_, process); }),
+      desktopEntries_(DesktopEntries::ofUser()),
+      applications_(display_, activeWindow_, desktopEntries_), bundles_(desktopEntries_),
+      inputSources_(display_, sessionBus_.connection()), browserQueue_("Brindlex.AX"),
+      browserPages_(mainThread_, clock, browserQueue_, [this] { return activeWindow_.current(); }),
+      overlayPanel_(display_), abilities_{mainThread_, clock, defaults_, userFolders, container,
+                                   notifications_, instances_, applications_, bundles_,
+                                   inputSources_, browserPages_, overlayPanel_}
+{
+}
+
+} // namespace brindlex

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "app/AppIdentifier.h"
+#include "foundation/Subscription.h"
+#include "inputmethod/InputMethodConfigStore.h"
+#include "inputmethod/SmartInputMethodConfigStore.h"
+#include "inputmethod/SwitchEffect.h"
+#include "inputmethod/SwitchEnvironment.h"
+#include "inputmethod/SwitchEvent.h"
+#include "inputmethod/SwitchState.h"
+#include "platform/ApplicationBundles.h"
+#include "platform/BrowserPageReading.h"
+#include "platform/Clock.h"
+#include "platform/KeyboardInputSources.h"
+#include "platform/MainThread.h"
+#include "platform/RunningApplications.h"
+
+#include <deque>
+#include <functional>
+#include <optional>
+#include <string>
+
+namespace brindlex {
+
+/// What input switching asks of the computer.
+struct SwitchAbilities {
+    MainThread& mainThread;
+    Clock& clock;
+    RunningApplications& applications;
+    ApplicationBundles& bundles;
+    KeyboardInputSources& inputSources;
+    BrowserPageReading& browserPages;
+};
+
+/// The shell around the switching state machine.
+///
+/// Turns what the computer and the stores tell into events, feeds them one at a time to `reduce`,
+/// writes what was learned back to its store and carries out the effects in their order. Decides
+/// nothing itself. With switching enabled it observes from its construction on. It expects `Stop`
+/// to have been dispatched before its end. Main thread only.
+class InputMethodSwitchCoordinator {
+public:
+    InputMethodSwitchCoordinator(InputMethodConfigStore& store,
+        SmartInputMethodConfigStore& smartStore, SwitchAbilities abilities);
+
+    /// Called with the label to show when a switch has happened.
+    std::function<void(const std::string& label)> onSwitch;
+
+    /// Handles the event, or queues it while another one is being handled; events raised by effects
+    /// or by subscribers of the stores so stay in order.
+    void dispatch(const SwitchEvent::Any& event);
+
+    const SwitchState& state() const { return state_; }
+
+private:
+    void handle(const SwitchEvent::Any& event);
+    void carryOut(const SwitchEffect::Any& effect);
+    void installObservers();
+    void removeObservers();
+    void startBrowserPolling();
+    void stopBrowserPolling();
+    void tick();
+    SwitchEnvironment environment();
+    std::optional<AppIdentifier> appIdentifier(const std::optional<std::string>& bundleID) const;
+    std::optional<std::string> browserHost(const std::optional<std::string>& bundleID) const;
+
+    InputMethodConfigStore& store_;
+    SmartInputMethodConfigStore& smartStore_;
+    SwitchAbilities abilities_;
+    SwitchState state_;
+    std::deque<SwitchEvent::Any> pendingEvents_;
+    bool isDispatching_ = false;
+    Subscription appActivationToken_;
+    Subscription inputSourceChangeToken_;
+    Subscription browserPollTimer_;
+    Subscription browserPageToken_;
+    Subscription enabledCancellable_;
+    Subscription domainRulesEnabledCancellable_;
+};
+
+} // namespace brindlex

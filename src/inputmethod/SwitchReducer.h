@@ -1,0 +1,35 @@
+#pragma once
+
+#include "inputmethod/InputMethodConfig.h"
+#include "inputmethod/SmartInputMethodConfig.h"
+#include "inputmethod/SwitchEffect.h"
+#include "inputmethod/SwitchEnvironment.h"
+#include "inputmethod/SwitchEvent.h"
+#include "inputmethod/SwitchState.h"
+
+#include <vector>
+
+namespace brindlex {
+
+/// Advances the switching of input sources by one event.
+///
+///                start, switched on             browser in front
+///     ▶ stopped ────────────────────▶ observing ──────────────────▶ observingWithBrowserPolling
+///        ▲  ▲                          │     ▲                       │        │
+///        │  └─── stop, switched off ───┘     └── other application, ─┘        │
+///        │                                       website rules off            │
+///        └──────────────────────── stop, switched off ────────────────────────┘
+///
+/// An activation and a look at the browser's page attempt a switch: they ask the rules and select
+/// what these answer, once per place, so that a user who changes the source afterwards is left
+/// alone until another place had an automatic switch. A change of the source that is not the echo
+/// of an own selection, one second long, is the user's, and is learned from.
+///
+/// Changes `state` and, for a manual change, `smartConfig`; selects at most one source, through the
+/// environment. The effects are to be carried out in the order of the list: first those on
+/// observers and polling, last the overlay or the warning. Events come one at a time.
+std::vector<SwitchEffect::Any> reduce(const SwitchEvent::Any& event, SwitchState& state,
+    SmartInputMethodConfig& smartConfig, const InputMethodConfig& config,
+    const SwitchEnvironment& environment);
+
+} // namespace brindlex

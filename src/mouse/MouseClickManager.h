@@ -1,0 +1,38 @@
+#pragma once
+
+#include "foundation/Lifetime.h"
+#include "foundation/Observable.h"
+#include "mouse/MouseActionDispatcher.h"
+#include "mouse/MouseClick.h"
+#include "mouse/MouseConfig.h"
+#include "mouse/TapClient.h"
+
+namespace brindlex {
+
+/// Turns presses of the middle and the side buttons into actions, in all applications.
+///
+/// A start takes the buttons whatever the setting says; only a change of the setting ends it. The
+/// bindings are read at each event. Main thread only.
+class MouseClickManager {
+public:
+    MouseClickManager(const Observable<MouseConfig>& config, const TapEnvironment& environment,
+        MouseActionDispatcher& dispatcher);
+
+    /// Without permission it tries again every 2 seconds.
+    void start();
+
+    void tearDown();
+
+private:
+    EventVerdict receive(const Event& event);
+
+    const Observable<MouseConfig>& config_;
+    MouseActionDispatcher& dispatcher_;
+    Lifetime lifetime_;
+    TapClient client_;
+    MouseClickState state_;
+    Subscription enabledObserver_;
+    Subscription triggersObserver_;
+};
+
+} // namespace brindlex

@@ -1,0 +1,92 @@
+#include "mouse/MouseScrollManager.h"
+
+#include <array>
+
+namespace brindlex {
+
+MouseScrollManager::MouseScrollManager(const Observable<MouseConfig>& config,
+    const TapEnvironment& environment, const Abilities& abilities)
+    : config_(config), abilities_(abilities),
+      driver_(abilities.displayLink, environment.mainThread, abilities.clock),
+      smoother_(
+          driver_, [this] { return config_.value().scroll.smoothDuration; },
+          [this](std::uint64_t flags, ScrollDistance distance) { post(flags, distance); }),
+      client_(environment, "MouseScroll")
+{
+    enabledObserver_ = config.stream()
+                           .map([](const MouseConfig& value) {
+                               const auto& scroll = value.scroll;
+                               return std::array{scroll.smoothEnabled, scroll.invertVertical,
+                                   scroll.invertHorizontal};
+                           })
+                           .withoutRepeats()
+                           .withoutFirst()
+                           .subscribe([this](const std::array<bool, 3>& flags) {
+                               if (flags == std::array{false, false, false})
+                                   tearDown();
+                               else
+                                   start();
+                           });
+    triggersObserver_
+        = config.stream()
+              .map([](const MouseConfig& value) { return eventTriggers(value.scroll); })
+              .withoutRepeats()
+              .withoutFirst()
+              .subscribe([this](const EventTriggers& triggers) { client_.setTriggers(triggers); });
+}
+
+void MouseScrollManager::start()
+{
+    if (client_.isSubscribed())
+        return;
+    if (!client_.hasPermission()) {
+        tearDown();
+        client_.retryLater([this] { start(); });
+        return;
+    }
+    client_.subscribe(
+        mouseScrollEventMask,
+        [this, alive = lifetime_.watch()](
+            const Event& event) { return alive.expired() ? EventVerdict::pass : receive(event); },
+        eventTriggers(config_.value().scroll));
+}
+
+void MouseScrollManager::tearDown()
+{
+    client_.unsubscribe();
+    smoother_.reset();
+    accelerationCalculator_ = {};
+}
+
+EventVerdict MouseScrollManager::receive(const Event& event)
+{
+    if (!isWheelNotch(event))
+        return EventVerdict::pass;
+    const auto& scroll = config_.value().scroll;
+    const auto distance = reduceMouseScroll(event, accelerationCalculator_, scroll,
+        frontmostBundleID(), abilities_.clock.continuousTime());
+    if (!distance)
+        return EventVerdict::pass;
+    if (scroll.smoothEnabled)
+        smoother_.add(event.flags, distance->horizontal, distance->vertical);
+    else
+        post(event.flags, *distance);
+    return EventVerdict::swallow;
+}
+
+std::optional<std::string> MouseScrollManager::frontmostBundleID() const
+{
+    if (config_.value().scroll.disabledApps.empty())
+        return {};
+    const auto application = abilities_.applications.frontmost();
+    if (!application)
+        return {};
+    return application->bundleIdentifier;
+}
+
+void MouseScrollManager::post(std::uint64_t flags, ScrollDistance distance)
+{
+    abilities_.posting.post(scrollEvent(flags, distance));
+}
+
+} // namespace brindlex

@@ -1,0 +1,244 @@
+#include "platform/linux/Fcitx5InputSources.h"
+
+#include "app/Log.h"
+#include "foundation/Text.h"
+#include "platform/InputSourceIdentifiers.h"
+
+#include <QDBusArgument>
+
+#include <algorithm>
+#include <map>
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto daemonName = "org.fcitx.Fcitx5";
+constexpr auto controllerPath = "/controller";
+constexpr auto controllerInterface = "org.fcitx.Fcitx.Controller1";
+
+constexpr int callLimitMilliseconds = 5000;
+constexpr auto pollInterval = 222ms;
+constexpr auto recheckDelay = 100ms;
+/// An answer takes 0.2 ms, a selection 1 to 3 ms; a daemon that hangs must not hold us up.
+constexpr auto answerWait = 20ms;
+constexpr auto selectionWait = 30ms;
+constexpr auto freshFor = 50ms;
+
+/// The parts of (ssssssb), an input method, and of (ss), a member of a group, that are of use here.
+struct NamedMethod {
+    QString method;
+    QString name;
+};
+
+std::vector<NamedMethod> methodsOf(const QVariant& value, const char* signature)
+{
+    std::vector<NamedMethod> methods;
+    if (value.metaType() != QMetaType::fromType<QDBusArgument>())
+        return methods;
+    const auto argument = value.value<QDBusArgument>();
+    if (argument.currentSignature() != QLatin1String(signature))
+        return methods;
+    argument.beginArray();
+    while (!argument.atEnd()) {
+        NamedMethod method;
+        argument.beginStructure();
+        argument >> method.method >> method.name;
+        while (!argument.atEnd())
+            argument.asVariant();
+        argument.endStructure();
+        methods.push_back(std::move(method));
+    }
+    argument.endArray();
+    return methods;
+}
+
+bool isError(const QDBusMessage& reply) { return reply.type() == QDBusMessage::ErrorMessage; }
+
+} // namespace
+
+Fcitx5InputSources::Fcitx5InputSources(
+    QDBusConnection bus, XkbRegistry& registry, DBusDeadline deadline)
+    : bus_(std::move(bus)), registry_(registry)
+{
+    signals_.push_back(std::make_unique<DBusSignal>(bus_, QLatin1String(controllerPath),
+        QLatin1String(controllerInterface), QStringLiteral("InputMethodGroupsChanged"),
+        QStringList(), [this](const QDBusMessage&) { readGroup(doNotWait); }));
+    signals_.push_back(std::make_unique<DBusSignal>(bus_, QStringLiteral("/StatusNotifierItem"),
+        QStringLiteral("org.kde.StatusNotifierItem"), QStringLiteral("NewIcon"), QStringList(),
+        [this](const QDBusMessage&) { readCurrent(doNotWait); }));
+
+    poll_.setInterval(pollInterval);
+    QObject::connect(&poll_, &QTimer::timeout, &context_, [this] { readCurrent(doNotWait); });
+    recheck_.setSingleShot(true);
+    recheck_.setInterval(recheckDelay);
+    QObject::connect(&recheck_, &QTimer::timeout, &context_, [this] { checkAgain(); });
+
+    readGroup(deadline);
+    readCurrent(deadline);
+    poll_.start();
+}
+
+std::optional<std::string> Fcitx5InputSources::current()
+{
+    if (target_)
+        return sourceOf(*target_);
+    if (Clock::now() - readAt_ > freshFor)
+        readCurrent(Clock::now() + answerWait);
+    if (!method_)
+        return {};
+    return sourceOf(*method_);
+}
+
+SelectionStatus Fcitx5InputSources::select(const std::string& id)
+{
+    if (!isUsable())
+        return SelectionStatus::notConnected;
+    const auto found = std::find_if(sources_.begin(), sources_.end(),
+        [&](const InputSource& source) { return source.id == id; });
+    if (found == sources_.end())
+        return SelectionStatus::unknownSource;
+    const auto method = methods_[static_cast<std::size_t>(found - sources_.begin())];
+
+    call("SetCurrentIM", {QString::fromStdString(method)});
+    const int question = ++question_;
+    const auto pending = call("CurrentInputMethod");
+    target_ = method;
+    recheck_.start();
+    if (!waitForAnswer(pending, Clock::now() + selectionWait))
+        return SelectionStatus::done;
+    const auto reply = pending.reply();
+    if (question == question_)
+        takeCurrent(reply);
+    if (!isError(reply) && method_ == method)
+        return SelectionStatus::done;
+    target_.reset();
+    recheck_.stop();
+    return isError(reply) ? SelectionStatus::notConnected : SelectionStatus::refused;
+}
+
+QDBusPendingCall Fcitx5InputSources::call(const char* member, const QVariantList& arguments) const
+{
+    auto message = QDBusMessage::createMethodCall(QLatin1String(daemonName),
+        QLatin1String(controllerPath), QLatin1String(controllerInterface), QLatin1String(member));
+    message.setAutoStartService(false);
+    message.setArguments(arguments);
+    return bus_.asyncCall(message, callLimitMilliseconds);
+}
+
+void Fcitx5InputSources::readGroup(DBusDeadline deadline)
+{
+    whenAnswered(call("CurrentInputMethodGroup"), deadline, &context_,
+        [this, deadline](const QDBusMessage& reply) {
+            if (isError(reply) || reply.arguments().isEmpty())
+                fail(reply);
+            else
+                readMethods(reply.arguments().first().toString(), deadline);
+        });
+}
+
+void Fcitx5InputSources::readMethods(const QString& group, DBusDeadline deadline)
+{
+    const auto available = call("AvailableInputMethods");
+    whenAnswered(call("InputMethodGroupInfo", {group}), deadline, &context_,
+        [this, deadline, available](const QDBusMessage& reply) {
+            if (isError(reply) || reply.arguments().size() < 2) {
+                fail(reply);
+                return;
+            }
+            QStringList enabled;
+            for (const auto& member : methodsOf(reply.arguments()[1], "a(ss)"))
+                enabled.append(member.method);
+            whenAnswered(available, deadline, &context_,
+                [this, enabled](const QDBusMessage& answer) { setMethods(enabled, answer); });
+        });
+}
+
+void Fcitx5InputSources::setMethods(const QStringList& enabled, const QDBusMessage& available)
+{
+    std::map<QString, QString> names;
+    if (!isError(available) && !available.arguments().isEmpty())
+        for (const auto& method : methodsOf(available.arguments().first(), "a(ssssssb)"))
+            names.emplace(method.method, method.name);
+
+    methods_.clear();
+    std::vector<XkbLayout> layouts;
+    for (const auto& method : enabled) {
+        methods_.push_back(method.toStdString());
+        layouts.push_back(layoutOfFcitxKeyboard(methods_.back()).value_or(XkbLayout{}));
+    }
+    const auto layoutNames = registry_.names(layouts);
+    sources_.clear();
+    for (std::size_t index = 0; index < methods_.size(); ++index) {
+        const auto name = names[QString::fromStdString(methods_[index])].toStdString();
+        const bool isKeyboard = !layouts[index].layout.empty();
+        sources_.push_back({sourceIDOfFcitx(methods_[index], layoutNames[index].language),
+            isKeyboard         ? layoutNames[index].name
+                : name.empty() ? methods_[index]
+                               : name});
+    }
+    hasMethods_ = true;
+    notify();
+}
+
+void Fcitx5InputSources::readCurrent(DBusDeadline deadline)
+{
+    // A daemon that hangs is asked once, and waited for once.
+    if (std::exchange(isAsking_, true))
+        return;
+    whenAnswered(call("CurrentInputMethod"), deadline, &context_,
+        [this, question = ++question_](const QDBusMessage& reply) {
+            isAsking_ = false;
+            if (question == question_)
+                takeCurrent(reply);
+        });
+}
+
+void Fcitx5InputSources::takeCurrent(const QDBusMessage& reply)
+{
+    if (isError(reply) || reply.arguments().isEmpty()) {
+        fail(reply);
+        return;
+    }
+    const auto method = reply.arguments().first().toString().toStdString();
+    readAt_ = Clock::now();
+    const bool isNew = !hasCurrent_ || method_ != method;
+    hasCurrent_ = true;
+    // Without an input method nothing is said about what the user types with.
+    method_ = method.empty() ? std::nullopt : std::optional(method);
+    if (isNew)
+        notify();
+}
+
+void Fcitx5InputSources::checkAgain()
+{
+    whenAnswered(call("CurrentInputMethod"), doNotWait, &context_,
+        [this, question = ++question_](const QDBusMessage& reply) {
+            const bool hasMissed = target_ && !isError(reply) && !reply.arguments().isEmpty()
+                && reply.arguments().first().toString().toStdString() != *target_;
+            if (hasMissed && question == question_)
+                call("SetCurrentIM", {QString::fromStdString(*target_)});
+            if (recheck_.isActive())
+                return;
+            target_.reset();
+            readCurrent(doNotWait);
+        });
+}
+
+void Fcitx5InputSources::fail(const QDBusMessage& reply)
+{
+    problem_ = reply.errorMessage().toStdString();
+    notify();
+}
+
+std::optional<std::string> Fcitx5InputSources::sourceOf(const std::string& method) const
+{
+    const auto found = std::find(methods_.begin(), methods_.end(), method);
+    if (found == methods_.end())
+        return sourceIDOfFcitx(method, "");
+    return sources_[static_cast<std::size_t>(found - methods_.begin())].id;
+}
+
+} // namespace brindlex

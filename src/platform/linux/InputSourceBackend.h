@@ -1,0 +1,69 @@
+#pragma once
+
+#include "foundation/Subscribers.h"
+#include "foundation/Subscription.h"
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace brindlex {
+
+/// A source that an input method of the desktop has enabled.
+struct InputSource {
+    std::string id{};
+    std::string name{};
+
+    bool operator==(const InputSource&) const = default;
+};
+
+/// What became of a selection; the numbers are the status that `KeyboardInputSources` answers.
+enum class SelectionStatus : int {
+    /// Selected, or on the way: a daemon that takes its time was asked, and what comes of it is
+    /// told
+    /// as a change.
+    done = 0,
+    /// There is no such source.
+    unknownSource = 1,
+    /// The server or the daemon has gone.
+    notConnected = 2,
+    /// The daemon said no, or said yes and did nothing.
+    refused = 3,
+};
+
+/// One of the programs by which a desktop switches input sources. Main thread only.
+class InputSourceBackend {
+public:
+    virtual ~InputSourceBackend() = default;
+
+    /// For people: "IBus".
+    virtual std::string_view name() const = 0;
+
+    /// Whether it can be used now: it has answered and has sources to choose from.
+    virtual bool isUsable() const = 0;
+
+    /// The identifier of the selected source; while a selection is on its way, that of its target.
+    virtual std::optional<std::string> current() = 0;
+
+    /// The enabled sources, in the daemon's order.
+    virtual const std::vector<InputSource>& sources() = 0;
+
+    /// Selects one of `sources`.
+    virtual SelectionStatus select(const std::string& id) = 0;
+
+    /// Told that any of the answers above may be another now, also from inside calls.
+    Subscription observe(std::function<void()> handler)
+    {
+        return observers_.add(std::move(handler));
+    }
+
+protected:
+    void notify() const { observers_.notify(); }
+
+private:
+    Subscribers<std::function<void()>> observers_;
+};
+
+} // namespace brindlex

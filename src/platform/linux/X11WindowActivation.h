@@ -1,0 +1,14 @@
+#pragma once
+
+#include "platform/linux/X11Connection.h"
+
+#include <cstdint>
+
+namespace brindlex {
+
+/// Asks the window manager to bring the windows of a process to the front, as a pager does: first
+/// the virtual desktop of a window, then the window. Nothing happens for a process without windows.
+/// Returns when the X server has the requests.
+void activateWindowsOf(X11Connection& connection, std::int64_t processIdentifier);
+
+} // namespace brindlex

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "desktop/ProgramDesk.h"
+#include "support/PlainWindow.h"
+#include "support/SwitchScenario.h"
+
+#include <chrono>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace brindlex {
+
+/// Plays scenarios against the running program, on a desktop with one window for each application.
+///
+/// A step is done at its time and answered once the program has come to rest. The sources of the
+/// scenario are layouts of the keyboard, one group each.
+class DesktopSwitchExecutor : public SwitchScenarioExecutor {
+public:
+    void begin(const SwitchScenario& scenario) override;
+    std::vector<SwitchScenarioOutcome> perform(const SwitchScenario::Step& step) override;
+
+    /// What the program printed and logged, for the words of a failure.
+    std::string report() const;
+
+private:
+    struct Learned {
+        std::string application{};
+        std::string inputSourceID{};
+        std::string id{};
+
+        bool operator==(const Learned&) const = default;
+    };
+
+    void waitFor(Seconds time);
+    void carryOut(const SwitchScenarioEvent::Any& event);
+    void activate(const std::string& application);
+    void change(const SwitchScenarioEvent::Set& setting);
+    void writePreferences() const;
+    bool comesToRest() const;
+    int groupOf(const std::string& inputSourceID) const;
+    std::vector<Learned> learned() const;
+    std::string overlay() const;
+
+    SwitchScenario scenario_;
+    std::unique_ptr<ProgramDesk> desk_;
+    std::map<std::string, std::unique_ptr<PlainWindow>> windows_;
+    std::optional<RunningProgram> program_;
+    std::chrono::steady_clock::time_point start_{};
+    int group_ = 0;
+    std::vector<Learned> learned_;
+};
+
+} // namespace brindlex

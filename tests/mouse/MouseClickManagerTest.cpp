@@ -1,0 +1,104 @@
+#include "mouse/MouseClickManager.h"
+
+#include "mouse/MouseSession.h"
+
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+using Lines = std::vector<std::string>;
+using Masks = std::vector<EventMask>;
+
+class MouseClickManagerTest : public testing::Test, protected MouseSession { };
+
+TEST_F(MouseClickManagerTest, takesTheOtherButtonsWhateverTheSettingSays)
+{
+    edit([](MouseConfig& value) { value.click.enabled = false; });
+    bindClick(MouseButton::button4, {}, MouseAction::Back{});
+
+    clicks.start();
+    clicks.start();
+
+    EXPECT_EQ(input.tapMasks(), Masks{0x6000000});
+    EXPECT_EQ(input.tapsMade(), 1u);
+    EXPECT_EQ(mouse.press(3), EventVerdict::swallow);
+    EXPECT_EQ(mouse.release(3), EventVerdict::swallow);
+    EXPECT_EQ(log.lines(), (Lines{"INFO [mouse] dispatch action: Back"}));
+}
+
+TEST_F(MouseClickManagerTest, followsAChangeOfTheSetting)
+{
+    clicks.start();
+    edit([](MouseConfig& value) { value.click.enabled = false; });
+    EXPECT_EQ(input.tapMasks(), Masks{});
+    edit([](MouseConfig& value) { value.click.enabled = false; });
+    edit([](MouseConfig& value) { value.click.enabled = true; });
+    EXPECT_EQ(input.tapMasks(), Masks{0x6000000});
+    edit([](MouseConfig& value) { value.gesture.distanceThreshold = 40; });
+    EXPECT_EQ(input.tapsMade(), 2u);
+}
+
+TEST_F(MouseClickManagerTest, readsTheBindingsAtEachPress)
+{
+    clicks.start();
+    EXPECT_EQ(mouse.press(3), EventVerdict::pass);
+    EXPECT_EQ(mouse.release(3), EventVerdict::pass);
+
+    bindClick(MouseButton::button4, {}, MouseAction::Back{});
+
+    EXPECT_EQ(mouse.press(3), EventVerdict::swallow);
+}
+
+TEST_F(MouseClickManagerTest, forgetsAHiddenPressWhenItIsTornDown)
+{
+    bindClick(MouseButton::button4, {}, MouseAction::Back{});
+    clicks.start();
+    mouse.press(3);
+    clicks.tearDown();
+    EXPECT_EQ(mouse.release(3), EventVerdict::pass);
+    mouse.press(3);
+
+    clicks.start();
+
+    EXPECT_EQ(mouse.release(3), EventVerdict::pass);
+}
+
+TEST_F(MouseClickManagerTest, waitsForPermission)
+{
+    permissions.isTrusted = false;
+    clicks.start();
+    EXPECT_EQ(log.takeLines(),
+        (Lines{"WARN [mouse] MouseClick: missing Accessibility or Input Monitoring permission; "
+               "not starting"}));
+
+    permissions.isTrusted = true;
+    activation.becomeActive();
+
+    EXPECT_EQ(input.tapMasks(), Masks{0x6000000});
+    EXPECT_EQ(mainThread.timers(), 0u);
+}
+
+TEST_F(MouseClickManagerTest, performsOnceMoreForAClickThatAGestureGaveBack)
+{
+    clicks.start();
+    bindClick(MouseButton::button4, {}, MouseAction::Back{});
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+
+    mouse.press(3);
+    mouse.release(3);
+
+    EXPECT_EQ(log.lines(),
+        (Lines{"INFO [mouse] dispatch action: Back",
+            "INFO [mouse] MouseGesture: pending Side Back (4)",
+            "INFO [mouse] dispatch action: Back"}));
+    std::vector<EventType> types;
+    for (const auto& event : input.delivered())
+        types.push_back(event.type);
+    EXPECT_EQ(types,
+        (std::vector{EventType::keyDown, EventType::keyUp, EventType::otherMouseDown,
+            EventType::otherMouseUp, EventType::keyDown, EventType::keyUp}));
+}
+
+} // namespace
+} // namespace brindlex

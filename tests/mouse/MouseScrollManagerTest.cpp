@@ -1,0 +1,186 @@
+#include "mouse/MouseScrollManager.h"
+
+#include "mouse/MouseSession.h"
+
+#include <gtest/gtest.h>
+
+#include <utility>
+#include <vector>
+
+namespace brindlex {
+namespace {
+
+using Lines = std::vector<std::string>;
+using Masks = std::vector<EventMask>;
+
+class MouseScrollManagerTest : public testing::Test, protected MouseSession {
+protected:
+    /// The pixels that have reached the applications, vertical first.
+    std::vector<std::pair<std::int64_t, std::int64_t>> pixels()
+    {
+        std::vector<std::pair<std::int64_t, std::int64_t>> result;
+        for (const auto& event : input.takeDelivered())
+            result.emplace_back(event.value(EventField::scrollWheelEventPointDeltaAxis1),
+                event.value(EventField::scrollWheelEventPointDeltaAxis2));
+        return result;
+    }
+    using Pixels = std::vector<std::pair<std::int64_t, std::int64_t>>;
+};
+
+TEST_F(MouseScrollManagerTest, takesTheWheelWhateverIsSet)
+{
+    scrolling.start();
+    scrolling.start();
+
+    EXPECT_EQ(input.tapMasks(), Masks{0x400000});
+    EXPECT_EQ(input.tapsMade(), 1u);
+    EXPECT_EQ(mouse.scroll(1), EventVerdict::swallow);
+    EXPECT_EQ(mouse.scroll(-2, 1), EventVerdict::swallow);
+    EXPECT_EQ(pixels(), (Pixels{{10, 0}, {-20, 10}}));
+}
+
+TEST_F(MouseScrollManagerTest, keepsTheFlagsOfTheNotch)
+{
+    scrolling.start();
+    input.heldFlags = eventFlag::shift | eventFlag::capsLock;
+    mouse.scroll(3);
+
+    const Event expected{EventType::scrollWheel, {}, eventFlag::shift | eventFlag::capsLock,
+        {{EventField{88}, 1}, {EventField{96}, 0}, {EventField{97}, 30},
+            {EventField{42}, 0x4D4F53455343524C}}};
+    EXPECT_EQ(input.delivered(), std::vector{expected});
+}
+
+TEST_F(MouseScrollManagerTest, leavesATrackpadAlone)
+{
+    scrolling.start();
+    edit([](MouseConfig& value) { value.scroll.smoothEnabled = true; });
+
+    EXPECT_EQ(mouse.scrollContinuously(17), EventVerdict::pass);
+
+    EXPECT_FALSE(displayLink.isRunning());
+    EXPECT_EQ(pixels(), (Pixels{{17, 0}}));
+}
+
+TEST_F(MouseScrollManagerTest, spreadsANotchOverFramesWhenItIsSmooth)
+{
+    scrolling.start();
+    edit([](MouseConfig& value) { value.scroll.smoothEnabled = true; });
+
+    EXPECT_EQ(mouse.scroll(10), EventVerdict::swallow);
+    EXPECT_EQ(pixels(), Pixels{});
+    displayLink.frame(500);
+    EXPECT_EQ(pixels(), (Pixels{{9, 0}}));
+
+    edit([](MouseConfig& value) { value.scroll.smoothEnabled = false; });
+    EXPECT_FALSE(displayLink.isRunning());
+}
+
+TEST_F(MouseScrollManagerTest, letsAMotionDrainWhenOnlySmoothingIsSwitchedOff)
+{
+    scrolling.start();
+    edit([](MouseConfig& value) {
+        value.scroll.smoothEnabled = value.scroll.invertVertical = true;
+    });
+    mouse.scroll(10);
+
+    edit([](MouseConfig& value) { value.scroll.smoothEnabled = false; });
+    EXPECT_TRUE(displayLink.isRunning());
+    mouse.scroll(1);
+    displayLink.frame(500);
+
+    EXPECT_EQ(pixels(), (Pixels{{-10, 0}, {-9, 0}}));
+}
+
+TEST_F(MouseScrollManagerTest, isEndedOnlyByAChangeToAllOff)
+{
+    scrolling.start();
+    edit([](MouseConfig& value) { value.scroll.speedMultiplier = 2; });
+    EXPECT_EQ(input.tapMasks(), Masks{0x400000});
+    edit([](MouseConfig& value) { value.scroll.invertHorizontal = true; });
+    edit([](MouseConfig& value) { value.scroll.invertHorizontal = false; });
+    EXPECT_EQ(input.tapMasks(), Masks{});
+    EXPECT_EQ(mouse.scroll(1), EventVerdict::pass);
+    edit([](MouseConfig& value) { value.scroll.invertVertical = true; });
+    EXPECT_EQ(input.tapMasks(), Masks{0x400000});
+}
+
+TEST_F(MouseScrollManagerTest, forgetsItsMotionWhenItIsTornDown)
+{
+    scrolling.start();
+    edit([](MouseConfig& value) {
+        value.scroll.smoothEnabled = true;
+        value.scroll.acceleration = 1;
+    });
+    mouse.scroll(10);
+    displayLink.frame(500);
+    input.takeDelivered();
+
+    scrolling.tearDown();
+    EXPECT_FALSE(displayLink.isRunning());
+    scrolling.start();
+    mouse.scroll(-1);
+    displayLink.frame(501);
+
+    // A first notch of one line again: 10 (1 - exp(-1 / 60 / 0.18)), rounded.
+    EXPECT_EQ(pixels(), (Pixels{{-1, 0}}));
+}
+
+TEST_F(MouseScrollManagerTest, acceleratesNotchesByTheContinuousClock)
+{
+    edit([](MouseConfig& value) { value.scroll.acceleration = 1; });
+    scrolling.start();
+    mouse.scroll(-1);
+    clock.setNow(Date{0});
+    clock.advance(0.02);
+    mouse.scroll(-1);
+
+    EXPECT_EQ(pixels(), (Pixels{{-10, 0}, {-16, 0}}));
+}
+
+TEST_F(MouseScrollManagerTest, leavesTheWheelToADisabledApplication)
+{
+    edit([](MouseConfig& value) {
+        value.scroll.disabledApps = {{"com.example.Game", "Game", {}}};
+    });
+    scrolling.start();
+    RunningApplication game;
+    game.processIdentifier = 7;
+    applications.bringToFront(game);
+    EXPECT_EQ(mouse.scroll(1), EventVerdict::swallow);
+
+    applications.quit(7);
+    EXPECT_EQ(mouse.scroll(1), EventVerdict::swallow);
+
+    game.bundleIdentifier = "com.example.Game";
+    applications.bringToFront(game);
+    EXPECT_EQ(mouse.scroll(1), EventVerdict::pass);
+}
+
+TEST_F(MouseScrollManagerTest, dropsANotchWhoseEventCannotBeMade)
+{
+    scrolling.start();
+    input.setCannotMake([](const SyntheticEvent&) { return true; });
+
+    EXPECT_EQ(mouse.scroll(1), EventVerdict::swallow);
+
+    EXPECT_EQ(pixels(), Pixels{});
+    EXPECT_EQ(log.lines(), Lines{});
+}
+
+TEST_F(MouseScrollManagerTest, waitsForPermission)
+{
+    permissions.canListen = false;
+    scrolling.start();
+    EXPECT_EQ(log.takeLines(),
+        (Lines{"WARN [mouse] MouseScroll: missing Accessibility or Input Monitoring permission; "
+               "not starting"}));
+
+    permissions.canListen = true;
+    mainThread.advance(2);
+
+    EXPECT_EQ(input.tapMasks(), Masks{0x400000});
+}
+
+} // namespace
+} // namespace brindlex

@@ -1,0 +1,269 @@
+#include "platform/KeyboardInputSources.h"
+
+#include "platform/linux/DesktopInputSources.h"
+#include "platform/simulated/SimulatedClock.h"
+#include "platform/simulated/SimulatedInputSources.h"
+#include "platform/simulated/SimulatedMainThread.h"
+#include "support/DesktopWindows.h"
+#include "support/FcitxDaemon.h"
+#include "support/IBusDaemon.h"
+#include "support/KeyboardGroup.h"
+#include "support/LoopUntil.h"
+#include "support/SessionBus.h"
+#include "support/TypingWindow.h"
+#include "support/VirtualDesktop.h"
+
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// A simulated computer with three sources.
+class SimulatedDesk {
+public:
+    static constexpr auto name = "Simulated";
+    const std::vector<std::string> ids{"xkb:us::eng", "xkb:de::deu", "pinyin"};
+
+    SimulatedDesk()
+    {
+        for (const auto& id : ids)
+            sources_.install(SimulatedInputSources::keyboard(id, "Name of " + id));
+    }
+
+    KeyboardInputSources& sources() { return sources_; }
+    void userSelects(const std::string& id) { sources_.userSelects(id); }
+    void run() { mainThread_.runUntilIdle(); }
+
+private:
+    SimulatedClock clock_;
+    SimulatedMainThread mainThread_{clock_};
+    SimulatedInputSources sources_{mainThread_};
+};
+
+/// A desktop without an input-method daemon.
+class XkbDesk {
+public:
+    static constexpr auto name = "Xkb";
+    const std::vector<std::string> ids{"xkb:us::eng", "xkb:de::deu", "xkb:ru::rus"};
+
+    KeyboardInputSources& sources() { return sources_; }
+    void userSelects(const std::string& id)
+    {
+        selectKeyboardGroup(
+            server_, static_cast<int>(std::find(ids.begin(), ids.end(), id) - ids.begin()));
+    }
+    void run() { }
+
+private:
+    VirtualDesktop desktop_{{.keyboardLayouts = "us,de,ru"}};
+    XConnection server_;
+    SessionBus bus_;
+    X11Connection connection_;
+    DesktopInputSources sources_{connection_, bus_.get()};
+};
+
+/// A desktop with IBus.
+class IBusDesk {
+public:
+    static constexpr auto name = "IBus";
+    const std::vector<std::string> ids{"xkb:us::eng", "xkb:de::deu", "ibus:libpinyin"};
+
+    IBusDesk() { EXPECT_TRUE(daemon_.select("xkb:us::eng")); }
+
+    KeyboardInputSources& sources() { return sources_; }
+    void userSelects(const std::string& id)
+    {
+        const auto engine = id == "ibus:libpinyin" ? "libpinyin"
+            : id == ids[1]                         ? "xkb:de::deu"
+                                                   : id;
+        EXPECT_TRUE(daemon_.select(engine));
+    }
+    void run() { }
+
+private:
+    VirtualDesktop desktop_;
+    IBusDaemon daemon_{desktop_, {"xkb:us::eng", "xkb:de::deu", "libpinyin"}};
+    SessionBus bus_;
+    X11Connection connection_;
+    DesktopInputSources sources_{connection_, bus_.get()};
+};
+
+/// A desktop with Fcitx 5 and a window that types through it.
+class FcitxDesk {
+public:
+    static constexpr auto name = "Fcitx5";
+    const std::vector<std::string> ids{"xkb:us::eng", "xkb:de::deu", "fcitx5:pinyin"};
+
+    KeyboardInputSources& sources() { return sources_; }
+    void userSelects(const std::string& id)
+    {
+        EXPECT_TRUE(daemon_.select(id == "fcitx5:pinyin" ? "pinyin"
+                : id == ids[1]                           ? "keyboard-de"
+                                                         : "keyboard-us"));
+    }
+    void run() { }
+
+private:
+    VirtualDesktop desktop_;
+    FcitxDaemon daemon_{desktop_, {"keyboard-us", "keyboard-de", "pinyin"}};
+    XConnection server_;
+    DesktopWindows windows_{server_};
+    TypingWindow window_{windows_, "Typing"};
+    SessionBus bus_;
+    X11Connection connection_;
+    DesktopInputSources sources_{connection_, bus_.get()};
+};
+
+template <typename Desk>
+class KeyboardInputSourcesPromise : public testing::Test {
+protected:
+    KeyboardInputSourcesPromise()
+    {
+        // Everybody begins with the first source.
+        EXPECT_TRUE(until([this] { return currentID().has_value(); }));
+        desk.userSelects(ids()[0]);
+        EXPECT_TRUE(until([this] { return currentID() == ids()[0]; }));
+        EXPECT_TRUE(throughout(50ms, [] { return true; }));
+    }
+
+    KeyboardInputSources& sources() { return desk.sources(); }
+    const std::vector<std::string>& ids() { return desk.ids; }
+
+    std::optional<std::string> currentID()
+    {
+        const auto source = sources().current();
+        return source ? source->id : std::nullopt;
+    }
+    InputSourceProperties source(const std::string& id)
+    {
+        return sources().list({.id = id}).value().at(0);
+    }
+    bool until(const std::function<bool()>& condition)
+    {
+        return loopUntil([&] {
+            desk.run();
+            return condition();
+        });
+    }
+    bool throughout(std::chrono::milliseconds period, const std::function<bool()>& condition)
+    {
+        return loopThroughout(period, [&] {
+            desk.run();
+            return condition();
+        });
+    }
+
+    Desk desk;
+};
+
+using Desks = testing::Types<SimulatedDesk, XkbDesk, IBusDesk, FcitxDesk>;
+struct DeskNames {
+    template <typename Desk>
+    static std::string GetName(int)
+    {
+        return Desk::name;
+    }
+};
+TYPED_TEST_SUITE(KeyboardInputSourcesPromise, Desks, DeskNames);
+
+TYPED_TEST(KeyboardInputSourcesPromise, listsTheSourcesInTheOrderOfTheSystem)
+{
+    const auto all = this->sources().list({});
+    ASSERT_TRUE(all);
+    std::vector<std::string> listed;
+    for (const auto& source : *all) {
+        listed.push_back(source.id.value_or(""));
+        EXPECT_EQ(source.category, keyboardInputSourceCategory);
+        EXPECT_EQ(source.isSelectCapable, true);
+        EXPECT_EQ(source.isEnabled, true);
+        EXPECT_FALSE(source.localizedName.value_or("").empty());
+        EXPECT_NE(source.localizedName, source.id);
+    }
+    EXPECT_EQ(listed, this->ids());
+}
+
+TYPED_TEST(KeyboardInputSourcesPromise, listsOnlyWhatHasTheGivenProperties)
+{
+    const auto one = this->sources().list({.id = this->ids()[1],
+        .category = std::string(keyboardInputSourceCategory),
+        .isSelectCapable = true,
+        .isEnabled = true});
+    ASSERT_TRUE(one);
+    ASSERT_EQ(one->size(), 1u);
+    EXPECT_EQ(one->front().id, this->ids()[1]);
+    EXPECT_EQ(this->sources().list({.id = "no such source"}), std::vector<InputSourceProperties>());
+    EXPECT_EQ(this->sources().list({.category = "TISCategoryPaletteInputSource"}),
+        std::vector<InputSourceProperties>());
+    EXPECT_EQ(this->sources().list({.isEnabled = false}), std::vector<InputSourceProperties>());
+}
+
+TYPED_TEST(KeyboardInputSourcesPromise, answersTheSelectedSourceAtOnce)
+{
+    for (const auto& id : {this->ids()[2], this->ids()[1], this->ids()[0]}) {
+        ASSERT_EQ(this->sources().select(this->source(id)), 0) << id;
+        EXPECT_EQ(this->sources().current(), this->source(id));
+    }
+}
+
+TYPED_TEST(KeyboardInputSourcesPromise, tellsOfASelectionOnceAndNotFromInsideIt)
+{
+    int told = 0;
+    std::optional<std::string> seen;
+    const auto subscription = this->sources().observeSelectionChanges([&] {
+        ++told;
+        seen = this->currentID();
+    });
+    for (int round = 1; round <= 4; ++round) {
+        const auto id = this->ids()[round % 2 == 0 ? 0 : 2];
+        ASSERT_EQ(this->sources().select(this->source(id)), 0);
+        EXPECT_EQ(told, round - 1);
+        EXPECT_TRUE(this->until([&] { return told == round; }));
+        EXPECT_EQ(seen, id);
+    }
+    EXPECT_TRUE(this->throughout(400ms, [&] { return told == 4; })) << told;
+}
+
+TYPED_TEST(KeyboardInputSourcesPromise, tellsOnceOfWhatTheUserSelects)
+{
+    int told = 0;
+    const auto subscription = this->sources().observeSelectionChanges([&] { ++told; });
+    this->desk.userSelects(this->ids()[2]);
+    EXPECT_TRUE(this->until([&] { return told == 1; }));
+    EXPECT_EQ(this->currentID(), this->ids()[2]);
+    this->desk.userSelects(this->ids()[1]);
+    EXPECT_TRUE(this->until([&] { return told == 2; }));
+    EXPECT_EQ(this->currentID(), this->ids()[1]);
+    EXPECT_TRUE(this->throughout(400ms, [&] { return told == 2; })) << told;
+}
+
+TYPED_TEST(KeyboardInputSourcesPromise, tellsNothingWhenTheSelectedSourceIsSelected)
+{
+    int told = 0;
+    const auto subscription = this->sources().observeSelectionChanges([&] { ++told; });
+    EXPECT_EQ(this->sources().select(this->source(this->ids()[0])), 0);
+    EXPECT_TRUE(this->throughout(300ms, [&] { return told == 0; }));
+    EXPECT_EQ(this->currentID(), this->ids()[0]);
+}
+
+TYPED_TEST(KeyboardInputSourcesPromise, refusesASourceThatItDoesNotHave)
+{
+    auto unknown = this->source(this->ids()[0]);
+    unknown.id = "no such source";
+    EXPECT_NE(this->sources().select(unknown), 0);
+    EXPECT_EQ(this->currentID(), this->ids()[0]);
+}
+
+TYPED_TEST(KeyboardInputSourcesPromise, tellsNobodyWhoHasGone)
+{
+    int told = 0;
+    auto subscription = this->sources().observeSelectionChanges([&] { ++told; });
+    subscription.reset();
+    this->desk.userSelects(this->ids()[1]);
+    EXPECT_TRUE(this->until([&] { return this->currentID() == this->ids()[1]; }));
+    EXPECT_TRUE(this->throughout(100ms, [&] { return told == 0; }));
+}
+
+} // namespace
+} // namespace brindlex

@@ -1,0 +1,34 @@
+#include "support/FakeBrowser.h"
+
+#include "foundation/FatalError.h"
+#include "support/Eventually.h"
+
+#include <filesystem>
+#include <nlohmann/json.hpp>
+
+namespace brindlex {
+
+FakeBrowser::FakeBrowser()
+    : program_({.command = {FAKE_BROWSER, folder_.path()}, .output = folder_.path() / "output"})
+{
+    if (!eventually([&] { return std::filesystem::exists(folder_.path() / "ready"); }))
+        fatalError("The fake browser did not start.\n" + program_.output());
+}
+
+void FakeBrowser::offer(const std::vector<Window>& windows, Behaviour behaviour) const
+{
+    auto list = nlohmann::json::array();
+    for (const auto& window : windows)
+        list.push_back({{"name", window.name}, {"url", window.url}, {"isActive", window.isActive},
+            {"attribute", window.attribute}});
+    const nlohmann::json offer{{"windows", list}, {"behaviour", static_cast<int>(behaviour)}};
+    write(folder_.path() / "next", offer.dump());
+    std::filesystem::rename(folder_.path() / "next", folder_.path() / "offer");
+}
+
+int FakeBrowser::questions() const
+{
+    return static_cast<int>(contentOf(folder_.path() / "questions").size());
+}
+
+} // namespace brindlex

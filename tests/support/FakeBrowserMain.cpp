@@ -1,0 +1,189 @@
+#include "support/FakeBrowser.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <systemd/sd-bus.h>
+#include <thread>
+
+namespace brindlex {
+namespace {
+
+using Behaviour = FakeBrowser::Behaviour;
+using namespace std::chrono_literals;
+
+constexpr auto objects = "/org/a11y/atspi/accessible/";
+constexpr auto root = "/org/a11y/atspi/accessible/root";
+
+/// The program behind `FakeBrowser`: reads its offer anew at each question.
+struct Program {
+    std::string folder;
+    std::string service;
+    std::vector<FakeBrowser::Window> windows;
+    Behaviour behaviour = Behaviour::answers;
+
+    void readOffer()
+    {
+        const auto offer
+            = nlohmann::json::parse(contentOf(folder + "/offer"), nullptr, /*exceptions*/ false);
+        windows.clear();
+        if (!offer.is_object())
+            return;
+        for (const auto& window : offer["windows"])
+            windows.push_back(
+                {window["name"], window["url"], window["isActive"], window["attribute"]});
+        behaviour = static_cast<Behaviour>(offer["behaviour"].get<int>());
+    }
+
+    /// The window of an object named "w<number>" or "d<number>", its document.
+    const FakeBrowser::Window* windowOf(const std::string& object) const
+    {
+        const auto number = static_cast<std::size_t>(std::atoi(object.substr(1).c_str()));
+        return number < windows.size() ? &windows[number] : nullptr;
+    }
+
+    void append(sd_bus_message* reply, const std::string& object) const
+    {
+        sd_bus_message_append(reply, "(so)", service.c_str(), (objects + object).c_str());
+    }
+
+    void appendChildren(sd_bus_message* reply, const std::string& object) const
+    {
+        sd_bus_message_open_container(reply, 'a', "(so)");
+        if (behaviour == Behaviour::huge)
+            for (int index = 0; index < 100'000; ++index)
+                append(reply, "x" + std::to_string(index));
+        else if (behaviour == Behaviour::circular && object != "root")
+            append(reply, object);
+        else if (object == "root")
+            for (std::size_t index = 0; index < windows.size(); ++index)
+                append(reply, "w" + std::to_string(index));
+        sd_bus_message_close_container(reply);
+    }
+
+    void appendRelation(sd_bus_message* reply, unsigned type, const std::string& target) const
+    {
+        sd_bus_message_open_container(reply, 'r', "ua(so)");
+        sd_bus_message_append(reply, "u", type);
+        sd_bus_message_open_container(reply, 'a', "(so)");
+        if (behaviour == Behaviour::dangling)
+            sd_bus_message_append(reply, "(so)", ":1.987654", "/nowhere");
+        else
+            append(reply, target);
+        sd_bus_message_close_container(reply);
+        sd_bus_message_close_container(reply);
+    }
+
+    void appendRelations(sd_bus_message* reply, const std::string& object) const
+    {
+        constexpr unsigned labelledBy = 2;
+        constexpr unsigned embeds = 13;
+        sd_bus_message_open_container(reply, 'a', "(ua(so))");
+        if (behaviour == Behaviour::huge)
+            for (int index = 0; index < 100'000; ++index)
+                appendRelation(reply, labelledBy, object);
+        appendRelation(reply, labelledBy, object);
+        appendRelation(
+            reply, embeds, behaviour == Behaviour::circular ? object : "d" + object.substr(1));
+        sd_bus_message_close_container(reply);
+    }
+
+    int answer(sd_bus_message* question) const
+    {
+        const std::string member = sd_bus_message_get_member(question);
+        const auto object
+            = std::string(sd_bus_message_get_path(question)).substr(std::string(objects).size());
+        if (behaviour == Behaviour::busy)
+            std::this_thread::sleep_for(800ms);
+        if (behaviour == Behaviour::silent)
+            return 1;
+        if (behaviour == Behaviour::garbage)
+            return sd_bus_reply_method_return(question, "i", 42);
+        const auto* window = windowOf(object);
+
+        sd_bus_message* reply = nullptr;
+        sd_bus_message_new_method_return(question, &reply);
+        if (member == "GetChildren") {
+            appendChildren(reply, object);
+        } else if (member == "Get") {
+            sd_bus_message_append(reply, "v", "s", window ? window->name.c_str() : "Fake Browser");
+        } else if (member == "GetState") {
+            sd_bus_message_append(reply, "au", 2, window && window->isActive ? 2U : 0U, 0U);
+        } else if (member == "GetRelationSet") {
+            if (behaviour == Behaviour::dies)
+                std::_Exit(1);
+            appendRelations(reply, object);
+        } else if (member == "GetAttributeValue" && object.starts_with("d") && window) {
+            const char* attribute = "";
+            sd_bus_message_read(question, "s", &attribute);
+            const auto url = behaviour == Behaviour::huge ? std::string(1'000'000, 'x')
+                : attribute == window->attribute          ? window->url
+                                                          : std::string();
+            sd_bus_message_append(reply, "s", url.c_str());
+        } else {
+            sd_bus_message_unref(reply);
+            return sd_bus_reply_method_errorf(question, SD_BUS_ERROR_UNKNOWN_METHOD, "No");
+        }
+        sd_bus_send(nullptr, reply, nullptr);
+        sd_bus_message_unref(reply);
+        return 1;
+    }
+
+    static int take(sd_bus_message* message, void* program, sd_bus_error*)
+    {
+        const auto* path = sd_bus_message_get_path(message);
+        if (!sd_bus_message_is_method_call(message, nullptr, nullptr) || !path
+            || !std::string(path).starts_with(objects))
+            return 0;
+        auto& self = *static_cast<Program*>(program);
+        std::ofstream(self.folder + "/questions", std::ios::app) << '.';
+        self.readOffer();
+        return self.answer(message);
+    }
+};
+
+/// The accessibility bus, as its launcher on the session bus names it.
+sd_bus* accessibilityBus()
+{
+    sd_bus* session = nullptr;
+    sd_bus_message* answer = nullptr;
+    const char* address = nullptr;
+    sd_bus* bus = nullptr;
+    if (sd_bus_open_user(&session) < 0
+        || sd_bus_call_method(session, "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus",
+               "GetAddress", nullptr, &answer, "")
+            < 0
+        || sd_bus_message_read(answer, "s", &address) < 0 || sd_bus_new(&bus) < 0
+        || sd_bus_set_address(bus, address) < 0 || sd_bus_set_bus_client(bus, 1) < 0
+        || sd_bus_start(bus) < 0)
+        return nullptr;
+    return bus;
+}
+
+int runProgram(const std::string& folder)
+{
+    auto* bus = accessibilityBus();
+    const char* service = nullptr;
+    if (!bus || sd_bus_get_unique_name(bus, &service) < 0)
+        return 1;
+    Program program{.folder = folder, .service = service, .windows = {}};
+    sd_bus_add_filter(bus, nullptr, Program::take, &program);
+    if (sd_bus_call_method(bus, "org.a11y.atspi.Registry", root, "org.a11y.atspi.Socket", "Embed",
+            nullptr, nullptr, "(so)", service, root)
+        < 0)
+        return 2;
+    std::ofstream(folder + "/ready") << "ready";
+    while (sd_bus_process(bus, nullptr) >= 0)
+        if (sd_bus_wait(bus, UINT64_MAX) < 0)
+            return 3;
+    return 0;
+}
+
+} // namespace
+} // namespace brindlex
+
+int main(int count, char** arguments)
+{
+    return count == 2 ? brindlex::runProgram(arguments[1]) : 4;
+}

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "support/ChromiumBrowser.h"
+#include "support/DesktopWindows.h"
+#include "support/IBusDaemon.h"
+#include "support/LocalWebServer.h"
+#include "support/PlayedInput.h"
+#include "support/ProgramFiles.h"
+#include "support/RunningProgram.h"
+#include "support/TypingWindow.h"
+#include "support/VirtualDesktop.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+
+namespace brindlex {
+
+/// The desktop that the tour plays on: IBus with English, German and Pinyin, two windows to write
+/// in and a browser, the rules of a user who writes in all three, and the program.
+class TourDesktop {
+public:
+    TourDesktop();
+
+    /// Starts the program; whether it says that it has launched.
+    bool startProgram();
+
+    /// Leaves a picture of the whole screen.
+    bool takePicture(const std::filesystem::path& file) const;
+
+    /// Waits until the overlay stands on the screen, faded in; false when none appears.
+    bool showsOverlay() const;
+    /// Waits until no overlay is left.
+    bool hidesOverlay() const;
+
+    VirtualDesktop desktop{{.keyboardLayouts = "us,de", .accessibility = true}};
+    XConnection server;
+    DesktopWindows windows{server};
+    PlayedInput input{server};
+    ProgramFiles files{desktop};
+    LocalWebServer web;
+    IBusDaemon ibus;
+    std::optional<TypingWindow> letters;
+    std::optional<TypingWindow> notes;
+    std::optional<ChromiumBrowser> browser;
+    std::optional<RunningProgram> program;
+};
+
+} // namespace brindlex

@@ -1,0 +1,10 @@
+#pragma once
+
+#include "support/XConnection.h"
+
+namespace brindlex {
+
+/// Gives the screen a calm background, so that pictures of it look like a desktop.
+void paintWallpaper(const XConnection& server);
+
+} // namespace brindlex
