@@ -176,16 +176,16 @@ int main()
     const Hands hands{PlayedMouse(desktop), PlayedKeyboard(desktop)};
     const Target target;
     std::map<std::string, Latency> without;
-    std::printf("%-10s %-15s %10s %10s %8s %8s %6s\n", "tap", "event", "p50 us", "p99 us",
-        "x p50", "x p99", "lost");
+    std::printf("%-10s %-15s %10s %10s %8s %8s %6s\n", "tap", "event", "p50 us", "p99 us", "x p50",
+        "x p99", "lost");
     for (const std::string tier : {"none", "triggers", "mice", "keyboards"}) {
         std::unique_ptr<ChildProcess> program;
         if (tier != "none") {
-            program = std::make_unique<ChildProcess>(ChildProcess::Start{
-                .command = {std::filesystem::read_symlink("/proc/self/exe")
-                                .replace_filename("brindlex_tap_program"),
-                    tier},
-                .output = desktop.outputFolder() / tier});
+            program = std::make_unique<ChildProcess>(
+                ChildProcess::Start{.command = {std::filesystem::read_symlink("/proc/self/exe")
+                                                    .replace_filename("brindlex_tap_program"),
+                                        tier},
+                    .output = desktop.outputFolder() / tier});
             eventually([&] { return program->output().find("ready") != std::string::npos; });
         }
         for (const auto& deed : deeds()) {

@@ -81,16 +81,16 @@ TEST_F(X11EventPostingPromise, showsTheEventToTheOwnTapsFirstWithAllItsFields)
 TEST_F(X11EventPostingPromise, waitsForTheEventInWhoseHandlerItIsCalled)
 {
     Lines order;
-    const auto tap
-        = desktop_.tapping.createTap(0x200000600006 | 0xE000000, {{0xE000006, {}}}, [&](const Event& e) {
-              order.push_back("begin " + std::to_string(static_cast<std::uint32_t>(e.type)));
-              if (e.type == EventType::otherMouseUp) {
-                  desktop_.posting.post(button(EventType::leftMouseDown, 0));
-                  desktop_.posting.post(button(EventType::leftMouseUp, 0));
-              }
-              order.push_back("end");
-              return EventVerdict::pass;
-          });
+    const auto tap = desktop_.tapping.createTap(
+        0x200000600006 | 0xE000000, {{0xE000006, {}}}, [&](const Event& e) {
+            order.push_back("begin " + std::to_string(static_cast<std::uint32_t>(e.type)));
+            if (e.type == EventType::otherMouseUp) {
+                desktop_.posting.post(button(EventType::leftMouseDown, 0));
+                desktop_.posting.post(button(EventType::leftMouseUp, 0));
+            }
+            order.push_back("end");
+            return EventVerdict::pass;
+        });
     tap->setEnabled(true);
     desktop_.settleTaps();
 
@@ -98,8 +98,8 @@ TEST_F(X11EventPostingPromise, waitsForTheEventInWhoseHandlerItIsCalled)
     desktop_.settle();
 
     EXPECT_TRUE(desktop_.receives({"press 2", "release 2", "press 1", "release 1"}));
-    EXPECT_EQ(order,
-        (Lines{"begin 25", "end", "begin 26", "end", "begin 1", "end", "begin 2", "end"}));
+    EXPECT_EQ(
+        order, (Lines{"begin 25", "end", "begin 26", "end", "begin 1", "end", "begin 2", "end"}));
 }
 
 TEST_F(X11EventPostingPromise, sendsAKeyWithExactlyItsModifiers)
@@ -115,8 +115,8 @@ TEST_F(X11EventPostingPromise, sendsAKeyWithExactlyItsModifiers)
     desktop_.keyboard.stroke(39);
     desktop_.keyboard.release(controlKey);
     desktop_.settle();
-    EXPECT_TRUE(desktop_.receives(
-        {"key 39 down (control)", "key 39 up (control)", "key 37 up (control)"}));
+    EXPECT_TRUE(
+        desktop_.receives({"key 39 down (control)", "key 39 up (control)", "key 37 up (control)"}));
     EXPECT_EQ(desktop_.window.held(), Lines{});
 }
 
@@ -131,8 +131,8 @@ TEST_F(X11EventPostingPromise, holdsNoModifierThatTheHandHasLetGo)
     desktop_.posting.post(key(EventType::keyUp, keyA, 0));
     desktop_.settle();
 
-    EXPECT_TRUE(desktop_.receives(
-        {"key 37 down", "key 37 up (control)", "key 38 down", "key 38 up"}));
+    EXPECT_TRUE(
+        desktop_.receives({"key 37 down", "key 37 up (control)", "key 38 down", "key 38 up"}));
     EXPECT_EQ(desktop_.window.held(), Lines{});
 }
 
@@ -166,9 +166,9 @@ TEST_F(X11EventPostingPromise, goesBackAndForwardAsApplicationsHereDo)
     desktop_.settle();
     stroke(30, eventFlag::command);
 
-    EXPECT_TRUE(desktop_.receives({"key 64 down", "key 113 down (alt)", "key 113 up (alt)",
-        "key 64 up (alt)", "key 64 down", "key 114 down (alt)", "key 114 up (alt)",
-        "key 64 up (alt)"}));
+    EXPECT_TRUE(desktop_.receives(
+        {"key 64 down", "key 113 down (alt)", "key 113 up (alt)", "key 64 up (alt)", "key 64 down",
+            "key 114 down (alt)", "key 114 up (alt)", "key 64 up (alt)"}));
 }
 
 TEST_F(X11EventPostingPromise, turnsPixelsIntoNotches)

@@ -53,11 +53,11 @@ private:
     {
         const auto held = std::string(event.flags & eventFlag::control ? " (control)" : "");
         const auto keycode = [&] {
-            return std::to_string(keycodesOf(event.value(EventField::keyboardEventKeycode)).front());
+            return std::to_string(
+                keycodesOf(event.value(EventField::keyboardEventKeycode)).front());
         };
         const auto button = [&] {
-            return std::to_string(
-                buttonOfNumber(event.value(EventField::mouseEventButtonNumber)));
+            return std::to_string(buttonOfNumber(event.value(EventField::mouseEventButtonNumber)));
         };
         if (isMouseDown(event.type))
             lines.push_back("press " + button() + held);
@@ -87,7 +87,10 @@ public:
     EventTapping& tapping() { return desktop_.tapping; }
     EventPosting& posting() { return desktop_.posting; }
 
-    void press(std::int64_t button) { play([&] { desktop_.mouse.press(buttonOfNumber(button)); }); }
+    void press(std::int64_t button)
+    {
+        play([&] { desktop_.mouse.press(buttonOfNumber(button)); });
+    }
     void release(std::int64_t button)
     {
         play([&] { desktop_.mouse.release(buttonOfNumber(button)); });
@@ -100,7 +103,10 @@ public:
     {
         play([&] { desktop_.secondMouse.release(buttonOfNumber(button)); });
     }
-    void turnWheelUp() { play([&] { desktop_.mouse.turnWheel(-1); }); }
+    void turnWheelUp()
+    {
+        play([&] { desktop_.mouse.turnWheel(-1); });
+    }
     void pressKey(std::int64_t code)
     {
         play([&] { desktop_.keyboard.press(keycodesOf(code).front()); });
@@ -144,8 +150,7 @@ protected:
         for (const auto& interest : interests)
             mask |= interest.mask;
         tap_ = session_.tapping().createTap(mask, interests, [this, verdict](const Event& event) {
-            const bool isKey
-                = event.type == EventType::keyDown || event.type == EventType::keyUp;
+            const bool isKey = event.type == EventType::keyDown || event.type == EventType::keyUp;
             seen_.push_back(std::to_string(static_cast<std::uint32_t>(event.type)) + " "
                 + std::to_string(event.value(isKey ? EventField::keyboardEventKeycode
                                                    : EventField::mouseEventButtonNumber)));
@@ -248,8 +253,8 @@ TYPED_TEST(EventTappingPromise, swallowsAButtonOnlyWithItsModifiers)
     this->session_.release(0);
     this->session_.dropControl();
 
-    EXPECT_TRUE(this->session_.receives(
-        {"press 1", "release 1", "key 37 down", "key 37 up (control)"}));
+    EXPECT_TRUE(
+        this->session_.receives({"press 1", "release 1", "key 37 down", "key 37 up (control)"}));
     EXPECT_EQ(this->seen_, (Lines{"1 0", "2 0"}));
 }
 

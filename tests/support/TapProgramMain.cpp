@@ -20,8 +20,7 @@ constexpr EventMask everything = 0xE400CDE;
 EventInterest interestOf(const std::string& name)
 {
     if (name == "triggers")
-        return {everything,
-            EventTriggers{.buttons = {{2, {}}}, .keys = {{0, eventFlag::control}}}};
+        return {everything, EventTriggers{.buttons = {{2, {}}}, .keys = {{0, eventFlag::control}}}};
     if (name == "mice")
         return {everything & ~EventMask{0xC00}, {}};
     if (name == "keyboards")
@@ -33,8 +32,9 @@ EventInterest interestOf(const std::string& name)
 } // namespace brindlex
 
 /// A program that taps `triggers`, `mice`, `keyboards` or, without an argument, all, and lets
-/// everything pass, for tests that stop, hang and kill it. It says `ready`, `switched off` and `number of an event's type` in lines of its own,
-/// and hangs for as long as any test lasts when it sees the forward button go down.
+/// everything pass, for tests that stop, hang and kill it. It says `ready`, `switched off` and
+/// `number of an event's type` in lines of its own, and hangs for as long as any test lasts when it
+/// sees the forward button go down.
 int main(int count, char** arguments)
 {
     using namespace brindlex;

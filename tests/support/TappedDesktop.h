@@ -31,9 +31,8 @@ struct TappedDesktop {
     {
         bool isDone = false;
         // One turn for the wish, one for what follows from it.
-        const auto first = mainThread.after(0, [&] {
-            second = mainThread.after(0, [&] { isDone = true; });
-        });
+        const auto first
+            = mainThread.after(0, [&] { second = mainThread.after(0, [&] { isDone = true; }); });
         ASSERT_TRUE(loopUntil([&] { return isDone; }));
         const XConnection server;
         server.sync();

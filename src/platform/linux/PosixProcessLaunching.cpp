@@ -18,8 +18,7 @@ namespace {
 bool canBeRun(const std::filesystem::path& program)
 {
     std::error_code ignored;
-    return std::filesystem::is_regular_file(program, ignored)
-        && access(program.c_str(), X_OK) == 0;
+    return std::filesystem::is_regular_file(program, ignored) && access(program.c_str(), X_OK) == 0;
 }
 
 std::filesystem::path shellFor(const std::filesystem::path& executable)

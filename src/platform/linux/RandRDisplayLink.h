@@ -15,7 +15,9 @@ namespace brindlex {
 class RandRDisplayLink : public DisplayLink {
 public:
     RandRDisplayLink(X11Connection& connection, MainThread& mainThread, const Clock& clock)
-        : connection_(connection), mainThread_(mainThread), clock_(clock) { }
+        : connection_(connection), mainThread_(mainThread), clock_(clock)
+    {
+    }
 
     std::optional<double> maximumFramesPerSecond() const override;
     Subscription onEachFrame(std::optional<double> framesPerSecond, FrameHandler handler) override;

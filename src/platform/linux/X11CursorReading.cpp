@@ -62,8 +62,8 @@ std::optional<CursorImage> X11CursorReading::currentSystem()
     if (!isAvailable_)
         return {};
     const X11Message<xcb_xfixes_get_cursor_image_and_name_reply_t> reply(
-        xcb_xfixes_get_cursor_image_and_name_reply(connection_.get(),
-            xcb_xfixes_get_cursor_image_and_name(connection_.get()), nullptr));
+        xcb_xfixes_get_cursor_image_and_name_reply(
+            connection_.get(), xcb_xfixes_get_cursor_image_and_name(connection_.get()), nullptr));
     if (!reply)
         return {};
     const std::string_view name(xcb_xfixes_get_cursor_image_and_name_name(reply.get()),

@@ -12,7 +12,10 @@ struct CloseDisplay {
 };
 
 struct FreeKeyboard {
-    void operator()(XkbDescPtr keyboard) const { XkbFreeKeyboard(keyboard, XkbAllComponentsMask, True); }
+    void operator()(XkbDescPtr keyboard) const
+    {
+        XkbFreeKeyboard(keyboard, XkbAllComponentsMask, True);
+    }
 };
 
 /// All names but that of the geometry, which only pictures need.

@@ -119,7 +119,8 @@ std::vector<WindowInfo> X11WindowList::onScreen()
             continue;
         const bool isRaised = has(states, above)
             || std::ranges::any_of(raisedTypes, [&](xcb_atom_t type) { return has(types, type); });
-        windows.push_back({isRaised ? 1 : 0, opacity ? *opacity / double(0xFFFFFFFF) : 1.0, bounds});
+        windows.push_back(
+            {isRaised ? 1 : 0, opacity ? *opacity / double(0xFFFFFFFF) : 1.0, bounds});
     }
     return windows;
 }

@@ -55,8 +55,7 @@ TEST(TapDemand, waitsForKeysInEveryPlaceThatTheyHave)
     const EventTriggers triggers{.keys = {{0, eventFlag::control}, {105, 0}, {52, 0}}};
 
     EXPECT_EQ(demand({{keyMask, triggers}}),
-        (TapDemand{
-            .keys = {Trigger{38, eventFlag::control}, Trigger{107, 0}, Trigger{191, 0}}}));
+        (TapDemand{.keys = {Trigger{38, eventFlag::control}, Trigger{107, 0}, Trigger{191, 0}}}));
     EXPECT_TRUE(demand({{eventMask(EventType::keyUp), triggers}}).isNothing());
 }
 

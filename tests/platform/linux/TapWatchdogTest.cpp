@@ -21,7 +21,10 @@ constexpr std::uint8_t aKey = 38;
 /// A program that has taken all devices, on a desktop of its own.
 class InputUnderWatch : public testing::Test {
 protected:
-    InputUnderWatch() { EXPECT_TRUE(eventually([this] { return says("ready\n"); })); }
+    InputUnderWatch()
+    {
+        EXPECT_TRUE(eventually([this] { return says("ready\n"); }));
+    }
 
     bool says(const std::string& text) const
     {

@@ -11,15 +11,15 @@ namespace {
 
 TEST(VirtualKeyCodes, knowKeysByTheirPlace)
 {
-    EXPECT_EQ(virtualKeyCode(38), 0);    // A
-    EXPECT_EQ(virtualKeyCode(9), 53);    // Escape
-    EXPECT_EQ(virtualKeyCode(36), 36);   // Return
-    EXPECT_EQ(virtualKeyCode(34), 33);   // left bracket
-    EXPECT_EQ(virtualKeyCode(35), 30);   // right bracket
-    EXPECT_EQ(virtualKeyCode(95), 103);  // F11
+    EXPECT_EQ(virtualKeyCode(38), 0); // A
+    EXPECT_EQ(virtualKeyCode(9), 53); // Escape
+    EXPECT_EQ(virtualKeyCode(36), 36); // Return
+    EXPECT_EQ(virtualKeyCode(34), 33); // left bracket
+    EXPECT_EQ(virtualKeyCode(35), 30); // right bracket
+    EXPECT_EQ(virtualKeyCode(95), 103); // F11
     EXPECT_EQ(virtualKeyCode(113), 123); // left arrow
-    EXPECT_EQ(virtualKeyCode(133), 55);  // left Super
-    EXPECT_EQ(virtualKeyCode(94), 10);   // the key beside the left Shift
+    EXPECT_EQ(virtualKeyCode(133), 55); // left Super
+    EXPECT_EQ(virtualKeyCode(94), 10); // the key beside the left Shift
 }
 
 TEST(VirtualKeyCodes, leadBackToTheKey)

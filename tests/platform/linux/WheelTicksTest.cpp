@@ -24,8 +24,7 @@ TEST(WheelTicks, givesOneNotchForTenPixels)
 
 TEST(WheelTicks, addsUpWhatIsLessThanANotch)
 {
-    EXPECT_EQ(ticksOf({2, 2, 2, 2, 2, 2, 2, 2, 2, 2}),
-        (std::vector{0, 0, 1, 0, 0, 0, 0, 1, 0, 0}));
+    EXPECT_EQ(ticksOf({2, 2, 2, 2, 2, 2, 2, 2, 2, 2}), (std::vector{0, 0, 1, 0, 0, 0, 0, 1, 0, 0}));
 }
 
 TEST(WheelTicks, losesAndInventsNothingOverAScroll)
