@@ -1,5 +1,6 @@
 // What one event costs between the system and the applications.
 
+#include "CountedAllocations.h"
 #include "mouse/GlobalEventTap.h"
 #include "mouse/MouseGesture.h"
 #include "mouse/ScrollMotion.h"
@@ -7,26 +8,6 @@
 #include "platform/simulated/SimulatedProgramActivation.h"
 
 #include <benchmark/benchmark.h>
-
-#include <atomic>
-#include <cstdlib>
-#include <new>
-
-namespace {
-
-std::atomic<long> allocations{0};
-
-} // namespace
-
-void* operator new(std::size_t size)
-{
-    ++allocations;
-    if (void* memory = std::malloc(size))
-        return memory;
-    throw std::bad_alloc();
-}
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 namespace brindlex {
 namespace {
@@ -52,16 +33,17 @@ private:
 
 class Allocations {
 public:
-    explicit Allocations(benchmark::State& state) : state_(state), before_(allocations) { }
+    explicit Allocations(benchmark::State& state) : state_(state), before_(countedAllocations()) { }
     ~Allocations()
     {
-        state_.counters["allocations"] = benchmark::Counter(
-            static_cast<double>(allocations - before_), benchmark::Counter::kAvgIterations);
+        state_.counters["allocations"]
+            = benchmark::Counter(static_cast<double>(countedAllocations() - before_),
+                benchmark::Counter::kAvgIterations);
     }
 
 private:
     benchmark::State& state_;
-    long before_;
+    std::int64_t before_;
 };
 
 /// Aim: below 200 ns, no allocation.

@@ -2,7 +2,9 @@
 
 #include "foundation/JsonCoding.h"
 
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 
 namespace brindlex {
@@ -56,3 +58,11 @@ struct JsonCoding<ModifierSet> {
 };
 
 } // namespace brindlex
+
+template <>
+struct std::hash<brindlex::ModifierSet> {
+    std::size_t operator()(brindlex::ModifierSet modifiers) const noexcept
+    {
+        return std::hash<std::uint64_t>()(modifiers.rawValue);
+    }
+};

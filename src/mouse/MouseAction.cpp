@@ -30,7 +30,6 @@ const auto& plainCases()
 
 constexpr const char* sendKeystroke = "sendKeystroke";
 constexpr const char* runShellCommand = "runShellCommand";
-constexpr const char* firstPayload = "_0";
 
 Json object(const char* key, Json value)
 {
@@ -41,24 +40,20 @@ Json object(const char* key, Json value)
 
 Json plain(const char* key) { return object(key, Json::object()); }
 
-Result<Action, JsonProblem> decodeKeystroke(const Json& payload)
+template <typename Payload>
+Result<Action, JsonProblem> decodePayload(const char* key, const Json& document)
 {
-    const auto keystroke = fromJson<MouseAction::SendKeystroke>(payload);
-    if (!keystroke)
-        return fail(within(sendKeystroke, keystroke.error()));
-    return Action(*keystroke);
+    const auto payload = fromJson<Payload>(document);
+    if (!payload)
+        return fail(within(key, payload.error()));
+    return Action(*payload);
 }
 
-Result<Action, JsonProblem> decodeShellCommand(const Json& payload)
+Result<Action, JsonProblem> decodeShellCommand(const Json& document)
 {
-    const bool isObject = payload.is_object();
-    if (isObject && !payload.contains(firstPayload))
-        return fail(within(runShellCommand, JsonProblem{firstPayload, "is missing"}));
-    const auto command = fromJson<std::string>(isObject ? payload[firstPayload] : payload);
-    if (!command)
-        return fail(within(
-            runShellCommand, isObject ? within(firstPayload, command.error()) : command.error()));
-    return Action(MouseAction::RunShellCommand{*command});
+    if (const auto command = fromJson<std::string>(document))
+        return Action(MouseAction::RunShellCommand{*command});
+    return decodePayload<MouseAction::RunShellCommand>(runShellCommand, document);
 }
 
 } // namespace
@@ -76,7 +71,7 @@ Json JsonCoding<MouseAction::Any>::encode(const MouseAction::Any& action)
             return object(sendKeystroke, toJson(keystroke));
         },
         [](const MouseAction::RunShellCommand& shell) {
-            return object(runShellCommand, object(firstPayload, shell.command));
+            return object(runShellCommand, toJson(shell));
         });
 }
 
@@ -88,7 +83,7 @@ Result<MouseAction::Any, JsonProblem> JsonCoding<MouseAction::Any>::decode(const
         if (document.contains(key))
             return action;
     if (const auto payload = document.find(sendKeystroke); payload != document.end())
-        return decodeKeystroke(*payload);
+        return decodePayload<MouseAction::SendKeystroke>(sendKeystroke, *payload);
     if (const auto payload = document.find(runShellCommand); payload != document.end())
         return decodeShellCommand(*payload);
     return fail(JsonProblem{"", "Unknown mouse action"});

@@ -48,12 +48,18 @@ struct MouseAction {
         std::string command{};
 
         bool operator==(const RunShellCommand&) const = default;
+
+        static constexpr auto jsonForm()
+        {
+            return std::tuple{required("_0", &RunShellCommand::command)};
+        }
     };
 
     using Any = Cases<MissionControl, Back, Forward, ShowDesktop, SwitchSpaceLeft, SwitchSpaceRight,
         SendKeystroke, RunShellCommand>;
 };
 static_assert(jsonFormIsComplete<MouseAction::SendKeystroke>);
+static_assert(jsonFormIsComplete<MouseAction::RunShellCommand>);
 
 /// Stored as an object with one key, the case's name: `{"back":{}}`,
 /// `{"sendKeystroke":{"keyCode":49,"modifiers":1}}`, `{"runShellCommand":{"_0":"echo hi"}}`.

@@ -69,7 +69,7 @@ TEST(UserDefaultsStorageBox, isNothingForAnyOtherText)
 
     EXPECT_EQ(Hotkey::fromRawValue(std::string(1'000'000, '[')), std::nullopt);
     EXPECT_EQ(
-        Hotkey::fromRawValue(std::string("{\"keyCode\":9,\0\"modifiers\":9}", 30)), std::nullopt);
+        Hotkey::fromRawValue(std::string("{\"keyCode\":9,\0\"modifiers\":9}", 28)), std::nullopt);
 }
 
 } // namespace

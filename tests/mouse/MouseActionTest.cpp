@@ -94,8 +94,8 @@ TEST(MouseAction, withABadPayloadTellsWhere)
         (JsonProblem{"runShellCommand._0", "is missing"}));
     EXPECT_EQ(read(R"({"runShellCommand":{"_0":1}})").error(),
         (JsonProblem{"runShellCommand._0", "is not text"}));
-    EXPECT_EQ(
-        read(R"({"runShellCommand":1})").error(), (JsonProblem{"runShellCommand", "is not text"}));
+    EXPECT_EQ(read(R"({"runShellCommand":1})").error(),
+        (JsonProblem{"runShellCommand", "is not an object"}));
 }
 
 TEST(MouseAction, doesNotFallBackFromABadPayloadToALaterKey)

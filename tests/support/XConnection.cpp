@@ -45,7 +45,8 @@ std::vector<std::uint32_t> XConnection::values(
 {
     const auto bytes = this->property(window, property, 32);
     std::vector<std::uint32_t> values(bytes.size() / sizeof(std::uint32_t));
-    std::memcpy(values.data(), bytes.data(), values.size() * sizeof(std::uint32_t));
+    if (!values.empty())
+        std::memcpy(values.data(), bytes.data(), values.size() * sizeof(std::uint32_t));
     return values;
 }
 
