@@ -120,9 +120,10 @@ public:
     void switchTapsOff()
     {
         const XConnection server;
+        const auto before = desktop_.stream.sessionCount();
         xcb_kill_client(server.get(), desktop_.stream.session()->handle());
         server.sync();
-        settle();
+        EXPECT_TRUE(loopUntil([&] { return desktop_.stream.sessionCount() > before; }));
     }
 
     void settle() { desktop_.settle(); }

@@ -91,6 +91,12 @@ const std::vector<std::string>& EventLogWindow::lines()
     return lines_;
 }
 
+int EventLogWindow::keymaps()
+{
+    drain();
+    return keymaps_;
+}
+
 int EventLogWindow::motions()
 {
     drain();
@@ -108,6 +114,7 @@ void EventLogWindow::forget()
     server_.sync();
     drain();
     lines_.clear();
+    keymaps_ = 0;
     motions_ = 0;
     drags_ = 0;
 }
@@ -184,7 +191,7 @@ void EventLogWindow::note(const xcb_generic_event_t& event)
         lines_.push_back("leave");
         break;
     case XCB_MAPPING_NOTIFY:
-        lines_.push_back("keymap");
+        ++keymaps_;
         break;
     case XCB_GE_GENERIC:
         noteInput2(event);

@@ -10,7 +10,7 @@ namespace brindlex {
 /// A window that writes down the input that it gets, as an application would get it.
 ///
 /// Each line is one event: `press 1`, `release 1`, `key 38 down`, `key 38 up`, `focus out`,
-/// `leave`, `keymap`, with the modifiers that were held behind it in brackets, as `key 38 down
+/// `leave`, with the modifiers that were held behind it in brackets, as `key 38 down
 /// (control)`. What the pointer does is kept apart. Covers the whole screen with no frame around
 /// it.
 class EventLogWindow {
@@ -28,6 +28,8 @@ public:
 
     /// All lines since the last `forget`.
     const std::vector<std::string>& lines();
+    /// How often the keymap was said to have changed.
+    int keymaps();
     /// How many motions came, and how many of them with a button held.
     int motions();
     int drags();
@@ -54,6 +56,7 @@ private:
     XConnection server_;
     xcb_window_t window_;
     std::vector<std::string> lines_;
+    int keymaps_ = 0;
     int motions_ = 0;
     int drags_ = 0;
 };

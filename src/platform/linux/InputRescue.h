@@ -28,8 +28,8 @@ public:
     void cut(std::uint32_t window);
 
     /// Waits until the connection to which the window belongs has gone, and releases what was
-    /// played to the applications in place of the devices and would stay down for ever. A key or
-    /// button that a hand holds at that moment stays down.
+    /// played to the applications in place of the devices and would stay down for ever. A button
+    /// that a hand holds at that moment stays down; a key is up until it is pressed again.
     void tidyAfter(std::uint32_t window);
 
 private:

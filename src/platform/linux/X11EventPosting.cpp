@@ -94,9 +94,9 @@ void X11EventPosting::deliver(const SyntheticEvent& event)
 void X11EventPosting::play(X11TapSession& session, const SyntheticEvent& event)
 {
     // What was held for an earlier connection went with it.
-    if (modifiersSession_ != session.handle())
+    if (modifiersSession_ != stream_.sessionCount())
         modifiers_.forget();
-    modifiersSession_ = session.handle();
+    modifiersSession_ = stream_.sessionCount();
 
     if (isButton(event.type)) {
         playButton(session, event);
@@ -189,7 +189,8 @@ void X11EventPosting::holdExactly(X11TapSession& session, const SyntheticEvent& 
 void X11EventPosting::restoreSoon()
 {
     nextRestore_ = mainThread_.after(0, [this] {
-        if (auto* session = stream_.session(); session && session->handle() == modifiersSession_) {
+        if (auto* session = stream_.session();
+            session && stream_.sessionCount() == modifiersSession_) {
             modifiers_.restore(*session);
             xcb_flush(session->connection().get());
         }

@@ -37,7 +37,8 @@ private:
     const Clock& clock_;
     PressLedger ledger_;
     X11ExactModifiers modifiers_;
-    xcb_window_t modifiersSession_ = 0;
+    /// The connection through which they are held.
+    int modifiersSession_ = 0;
     WheelTicks vertical_;
     WheelTicks horizontal_;
     DockSwipeReader dock_;

@@ -1,8 +1,8 @@
 #include "platform/linux/X11ExactModifiers.h"
 
 #include "platform/linux/X11Modifiers.h"
+#include "platform/linux/XkbProtocol.h"
 
-#include <xcb/xkb.h>
 
 namespace brindlex {
 namespace {

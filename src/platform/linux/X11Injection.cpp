@@ -63,8 +63,9 @@ void X11Injection::moveTo(int x, int y) { playMotion(false, x, y); }
 
 void X11Injection::play(Kind kind, std::uint8_t code, bool isPress)
 {
-    const auto type = kind == Kind::key ? (isPress ? XCB_KEY_PRESS : XCB_KEY_RELEASE)
-                                        : (isPress ? XCB_BUTTON_PRESS : XCB_BUTTON_RELEASE);
+    const int press = kind == Kind::key ? XCB_KEY_PRESS : XCB_BUTTON_PRESS;
+    const int release = kind == Kind::key ? XCB_KEY_RELEASE : XCB_BUTTON_RELEASE;
+    const int type = isPress ? press : release;
     xcb_test_fake_input(connection_.get(), static_cast<std::uint8_t>(type), code, XCB_CURRENT_TIME,
         XCB_WINDOW_NONE, 0, 0, 0);
 }
@@ -72,7 +73,8 @@ void X11Injection::play(Kind kind, std::uint8_t code, bool isPress)
 void X11Injection::playMotion(bool isRelative, int x, int y)
 {
     xcb_test_fake_input(connection_.get(), XCB_MOTION_NOTIFY, isRelative ? 1 : 0, XCB_CURRENT_TIME,
-        isRelative ? XCB_WINDOW_NONE : connection_.root(), coordinate(x), coordinate(y), 0);
+        isRelative ? xcb_window_t{XCB_WINDOW_NONE} : connection_.root(), coordinate(x),
+        coordinate(y), 0);
 }
 
 } // namespace brindlex

@@ -33,8 +33,10 @@ X11TapSession* X11InputStream::session()
             .grabsMayChange = [this] { wantsChanged(); },
             .ended
             = [this] { nextReconnection_ = mainThread_.after(0, [this] { sessionEnded(); }); }});
-    if (session->isUsable())
+    if (session->isUsable()) {
         session_ = std::move(session);
+        ++sessionCount_;
+    }
     return session_.get();
 }
 

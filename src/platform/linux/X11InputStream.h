@@ -44,6 +44,9 @@ public:
     /// The connection to the input; null when it cannot be tapped.
     X11TapSession* session();
 
+    /// How many connections there have been.
+    int sessionCount() const { return sessionCount_; }
+
     /// Runs the work now or, when a tap looks at an event, right after that event.
     void inTurn(std::function<void()> work);
 
@@ -56,6 +59,7 @@ private:
     Options options_;
     TapChain taps_;
     std::unique_ptr<X11TapSession> session_;
+    int sessionCount_ = 0;
     TapWatchdog watchdog_;
     std::deque<std::function<void()>> waiting_;
     bool isRunningWaiting_ = false;

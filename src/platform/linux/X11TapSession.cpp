@@ -4,12 +4,12 @@
 #include "platform/linux/X11Buttons.h"
 #include "platform/linux/X11KeyboardMap.h"
 #include "platform/linux/X11Modifiers.h"
+#include "platform/linux/XkbProtocol.h"
 
 #include <algorithm>
 #include <cmath>
 #include <utility>
 #include <xcb/xinput.h>
-#include <xcb/xkb.h>
 #include <xcb/xtest.h>
 
 namespace brindlex {
