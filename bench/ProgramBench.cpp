@@ -173,8 +173,10 @@ void measureActivation(int rounds)
     DesktopWindows windows(server);
     ProgramFiles files(desktop);
     SwitchingRules rules;
-    rules.applications = {{installApplication(desktop, "Alpha"), "xkb:us::eng"},
-        {installApplication(desktop, "Beta"), "xkb:de::deu"}};
+    installApplication(desktop, "org.example.Alpha", "Alpha");
+    installApplication(desktop, "org.example.Beta", "Beta");
+    rules.applications
+        = {{"org.example.Alpha", "xkb:us::eng"}, {"org.example.Beta", "xkb:de::deu"}};
     files.writePreferences(rules.preferences());
     const PlainWindow alpha(server, {wmClass("Alpha"), {}, "Alpha"});
     const PlainWindow beta(server, {wmClass("Beta"), {}, "Beta"});

@@ -120,7 +120,9 @@ TEST_F(DamagedFiles, includeAFolderWhereThePreferencesBelong)
     ASSERT_TRUE(program.launches()) << program.report();
 
     EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
-    EXPECT_TRUE(std::filesystem::is_directory(desk.files.preferences() / "inside"));
+    const auto setAside = desk.files.preferences().string() + ".corrupt";
+    EXPECT_TRUE(std::filesystem::is_directory(std::filesystem::path(setAside) / "inside"));
+    EXPECT_TRUE(std::filesystem::is_regular_file(desk.files.preferences()));
 }
 
 } // namespace

@@ -99,6 +99,7 @@ TYPED_TEST(BrowserPageReadingTest, tellsOfAnotherPage)
     this->ask();
     this->computer.settle();
     this->ask();
+    this->computer.settle();
     this->computer.show("https://example.org/");
 
     EXPECT_EQ(this->askLater(), "https://example.com/");
@@ -127,6 +128,7 @@ TYPED_TEST(BrowserPageReadingTest, forgetsThePageOfABrowserThatHasNone)
     this->ask();
     this->computer.settle();
     this->ask();
+    this->computer.settle();
     this->computer.show(std::nullopt);
     this->askLater();
     this->computer.settle();

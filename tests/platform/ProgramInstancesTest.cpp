@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <map>
 #include <memory>
@@ -97,7 +98,8 @@ private:
 
     static Started answerOf(const ChildProcess& child)
     {
-        eventually([&] { return child.output().ends_with('\n'); });
+        constexpr std::chrono::seconds deadline(60);
+        EXPECT_TRUE(eventually([&] { return child.output().ends_with('\n'); }, deadline));
         Started started{child.id(), {}};
         std::istringstream words(child.output());
         for (Process process = 0; words >> process;)

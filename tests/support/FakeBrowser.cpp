@@ -1,6 +1,7 @@
 #include "support/FakeBrowser.h"
 
 #include "foundation/FatalError.h"
+#include "foundation/Text.h"
 #include "support/Eventually.h"
 
 #include <filesystem>
@@ -26,9 +27,11 @@ void FakeBrowser::offer(const std::vector<Window>& windows, Behaviour behaviour)
     std::filesystem::rename(folder_.path() / "next", folder_.path() / "offer");
 }
 
-int FakeBrowser::questions() const
+std::vector<std::string> FakeBrowser::questions() const
 {
-    return static_cast<int>(contentOf(folder_.path() / "questions").size());
+    auto lines = split(contentOf(folder_.path() / "questions"), '\n');
+    lines.pop_back();
+    return lines;
 }
 
 } // namespace brindlex

@@ -47,8 +47,8 @@ public:
     /// What it offers from the next question on.
     void offer(const std::vector<Window>& windows, Behaviour behaviour = Behaviour::answers) const;
 
-    /// How many questions it was asked so far.
-    int questions() const;
+    /// The operations that others have called of its windows and documents, in order.
+    std::vector<std::string> questions() const;
 
 private:
     TemporaryFolder folder_;

@@ -137,7 +137,8 @@ struct Program {
             || !std::string(path).starts_with(objects))
             return 0;
         auto& self = *static_cast<Program*>(program);
-        std::ofstream(self.folder + "/questions", std::ios::app) << '.';
+        std::ofstream(self.folder + "/questions", std::ios::app)
+            << sd_bus_message_get_member(message) << '\n';
         self.readOffer();
         return self.answer(message);
     }

@@ -15,13 +15,22 @@ namespace brindlex {
 /// A desktop with one fake browser in front, read as the program reads pages: on a thread of its
 /// own, while the main thread and its time are the test's.
 struct FakeBrowserPages {
+    /// Time enough on any machine for a browser that answers at all.
+    static constexpr AccessibilityLimits patience{
+        std::chrono::seconds(20), std::chrono::minutes(1)};
+
+    explicit FakeBrowserPages(const AccessibilityLimits& timeLimits = patience) : limits(timeLimits)
+    {
+    }
+
+    AccessibilityLimits limits;
     VirtualDesktop desktop{{.windowManager = false, .accessibility = true}};
     FakeBrowser browser{};
     std::optional<ActiveWindow> active{ActiveWindow{0x400001, browser.process(), "Page - Browser"}};
     SimulatedClock clock{};
     SimulatedMainThread mainThread{clock};
     SerialQueue queue{"pages"};
-    AccessibleBrowserPages pages{mainThread, clock, queue, [this] { return active; }};
+    AccessibleBrowserPages pages{mainThread, clock, queue, [this] { return active; }, limits};
 
     std::optional<std::string> ask() { return pages.currentURL("org.chromium.Chromium", ""); }
 

@@ -16,9 +16,10 @@ public:
     MainThread& mainThread() { return mainThread_; }
     const Clock& clock() const { return clock_; }
 
+    /// Bounded by a minute of the real time, which only a failing test waits for.
     bool runUntil(const std::function<bool()>& condition)
     {
-        constexpr Seconds longest = 10;
+        constexpr Seconds longest = 60;
         runWhile(longest, [&] { return !condition(); });
         return condition();
     }

@@ -14,7 +14,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto timeToStart = 20s;
+constexpr auto timeToStart = 60s;
 
 /// Nothing of the window manager's that moves, asks or takes a key from a test.
 constexpr auto windowManagerConfiguration = R"(<?xml version="1.0" encoding="UTF-8"?>

@@ -83,6 +83,16 @@ QDBusMessage question(const QString& service, const QString& path, const QString
     return message;
 }
 
+/// Where the session bus is. Left to itself the library would keep the answer for the life of the
+/// process, and start a bus where there is none.
+QString sessionAddress()
+{
+    const auto address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    if (!address.isEmpty())
+        return address;
+    return QStringLiteral("unix:path=%1/bus").arg(qEnvironmentVariable("XDG_RUNTIME_DIR"));
+}
+
 QDBusMessage launcherQuestion(
     const QString& interface, const QString& member, const QVariantList& arguments = {})
 {
@@ -97,8 +107,8 @@ bool AccessibleObject::isNull() const
     return service.isEmpty() || path.isEmpty() || path == nullPath;
 }
 
-AccessibilityBus::AccessibilityBus()
-    : connectionName_(nextConnectionName()),
+AccessibilityBus::AccessibilityBus(const AccessibilityLimits& limits)
+    : limits_(limits), connectionName_(nextConnectionName()),
       sessionConnectionName_(connectionName_ + QStringLiteral("-session")),
       connection_(connectionName_)
 {
@@ -113,7 +123,7 @@ AccessibilityBus::~AccessibilityBus()
 bool AccessibilityBus::begin()
 {
     const bool isThere = connection_.isConnected() || connect();
-    deadline_ = Clock::now() + timePerReading;
+    deadline_ = Clock::now() + limits_.perReading;
     return isThere;
 }
 
@@ -137,8 +147,7 @@ std::optional<QString> AccessibilityBus::address()
     auto session = QDBusConnection(sessionConnectionName_);
     if (!session.isConnected()) {
         QDBusConnection::disconnectFromBus(sessionConnectionName_);
-        session
-            = QDBusConnection::connectToBus(QDBusConnection::SessionBus, sessionConnectionName_);
+        session = QDBusConnection::connectToBus(sessionAddress(), sessionConnectionName_);
     }
     const auto answer = session.call(
         launcherQuestion(QStringLiteral("org.a11y.Bus"), QStringLiteral("GetAddress")),
@@ -258,7 +267,7 @@ AccessibilityAnswer<QVariant> AccessibilityBus::ask(const AccessibleObject& obje
         return fail(AccessibilityProblem::noAnswer);
     const auto answer
         = connection_.call(question(object.service, object.path, interface, member, arguments),
-            QDBus::Block, static_cast<int>(std::min(left, timePerQuestion).count()));
+            QDBus::Block, static_cast<int>(std::min(left, limits_.perQuestion).count()));
     if (answer.type() == QDBusMessage::ReplyMessage)
         return answer.arguments().value(0);
     const auto error = QDBusError(answer).type();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Result.h"
+#include "platform/linux/AccessibilityLimits.h"
 
 #include <QDBusConnection>
 #include <QString>
@@ -36,17 +37,15 @@ using AccessibilityAnswer = Result<Value, AccessibilityProblem>;
 
 /// Questions to the accessible trees of other programs.
 ///
-/// Programs on the bus are not trusted: each question waits at most 30 ms, all questions since
-/// `begin` together 60 ms, and of a list only the first entries are read. Never starts a service:
+/// Programs on the bus are not trusted: questions wait no longer than the limits, and of a list
+/// only the first entries are read. Never starts a service:
 /// a session without the accessibility bus is left as it is, which is logged once. Connects again
 /// after the bus was restarted. To be used from one worker thread only, as every question blocks.
 class AccessibilityBus {
 public:
-    static constexpr std::chrono::milliseconds timePerQuestion{30};
-    static constexpr std::chrono::milliseconds timePerReading{60};
     static constexpr std::size_t mostListEntries = 256;
 
-    AccessibilityBus();
+    explicit AccessibilityBus(const AccessibilityLimits& limits = {});
     ~AccessibilityBus();
     AccessibilityBus(const AccessibilityBus&) = delete;
     AccessibilityBus& operator=(const AccessibilityBus&) = delete;
@@ -81,6 +80,7 @@ private:
         const QString& member, const QVariantList& arguments = {});
     void logOnce(bool& isLogged, const char* message);
 
+    const AccessibilityLimits limits_;
     const QString connectionName_;
     const QString sessionConnectionName_;
     QDBusConnection connection_;

@@ -11,9 +11,10 @@ namespace brindlex {
 class AccessibleBrowserPages::Reading : public std::enable_shared_from_this<Reading> {
 public:
     Reading(MainThread& mainThread, const Clock& clock, BackgroundQueue& queue,
-        ActiveWindowQuery activeWindow)
+        ActiveWindowQuery activeWindow, const AccessibilityLimits& limits)
         : mainThread_(mainThread), clock_(clock), queue_(queue),
-          activeWindow_(std::move(activeWindow))
+          activeWindow_(std::move(activeWindow)),
+          reader_(std::make_shared<AccessiblePageReader>(limits))
     {
     }
 
@@ -98,7 +99,7 @@ private:
     const Clock& clock_;
     BackgroundQueue& queue_;
     ActiveWindowQuery activeWindow_;
-    std::shared_ptr<AccessiblePageReader> reader_ = std::make_shared<AccessiblePageReader>();
+    std::shared_ptr<AccessiblePageReader> reader_;
 
     std::string askedFor_;
     std::optional<std::string> answered_;
@@ -108,8 +109,9 @@ private:
 };
 
 AccessibleBrowserPages::AccessibleBrowserPages(MainThread& mainThread, const Clock& clock,
-    BackgroundQueue& queue, ActiveWindowQuery activeWindow)
-    : reading_(std::make_shared<Reading>(mainThread, clock, queue, std::move(activeWindow))),
+    BackgroundQueue& queue, ActiveWindowQuery activeWindow, const AccessibilityLimits& limits)
+    : reading_(
+        std::make_shared<Reading>(mainThread, clock, queue, std::move(activeWindow), limits)),
       queue_(queue)
 {
 }

@@ -5,6 +5,7 @@
 #include "platform/BrowserPageReading.h"
 #include "platform/Clock.h"
 #include "platform/MainThread.h"
+#include "platform/linux/AccessibilityLimits.h"
 #include "platform/linux/ActiveWindow.h"
 
 #include <memory>
@@ -18,7 +19,7 @@ namespace brindlex {
 /// nobody asks. `currentURL` answers at once with the page last read of the window that is active,
 /// for 2.0 s after its reading began, and starts a reading unless one is under way or ended well
 /// within the last 0.2 s. A browser too busy to answer keeps its page for those 2.0 s. Main thread
-/// only; the queue should be for this alone, as a reading may hold it for some 60 ms.
+/// only; the queue should be for this alone, as a reading may hold it for as long as the limits.
 class AccessibleBrowserPages : public BrowserPageReading {
 public:
     using ActiveWindowQuery = std::function<std::optional<ActiveWindow>()>;
@@ -27,7 +28,7 @@ public:
     static constexpr Seconds pageFreshness = 0.2;
 
     AccessibleBrowserPages(MainThread& mainThread, const Clock& clock, BackgroundQueue& queue,
-        ActiveWindowQuery activeWindow);
+        ActiveWindowQuery activeWindow, const AccessibilityLimits& limits = {});
     ~AccessibleBrowserPages() override;
     AccessibleBrowserPages(const AccessibleBrowserPages&) = delete;
     AccessibleBrowserPages& operator=(const AccessibleBrowserPages&) = delete;

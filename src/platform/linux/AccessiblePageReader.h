@@ -24,12 +24,14 @@ enum class PageProblem {
 /// The window is found among those of its process by its title; of several that fit as well, by
 /// being the active one. Without one that fits there is no page: that of another window would be
 /// worse. A browser that lives in a container has another process on the bus than on the screen:
-/// it is found by exactly its title. One worker thread only; a reading takes 1 to 2 ms and never
-/// more than the time of `AccessibilityBus`.
+/// it is found by exactly its title. One worker thread only; a reading takes 1 to 2 ms where
+/// nothing else is going on, and never longer than the limits.
 class AccessiblePageReader {
 public:
     /// Longer addresses count as unknown: they hold whole documents and name no host.
     static constexpr int longestAddress = 65536;
+
+    explicit AccessiblePageReader(const AccessibilityLimits& limits = {}) : bus_(limits) { }
 
     Result<std::string, PageProblem> read(const ActiveWindow& window);
 

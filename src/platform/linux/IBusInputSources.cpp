@@ -2,8 +2,8 @@
 
 #include "app/Log.h"
 #include "foundation/Text.h"
-#include "platform/linux/IBusAddress.h"
 #include "platform/InputSourceIdentifiers.h"
+#include "platform/linux/IBusAddress.h"
 #include "platform/linux/XkbRegistry.h"
 
 #include <QDBusArgument>

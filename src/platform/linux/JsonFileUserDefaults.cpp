@@ -43,11 +43,12 @@ JsonFileUserDefaults::JsonFileUserDefaults(
 
 JsonFileUserDefaults::~JsonFileUserDefaults()
 {
+    // Nobody is told any more; who listened may have gone halfway itself.
+    subscribers_ = {};
     queue_.drain();
     takeOutcomes();
     write();
     queue_.drain();
-    self_.reset();
 }
 
 std::optional<PreferenceValue> JsonFileUserDefaults::value(const std::string& key) const
@@ -198,6 +199,9 @@ void JsonFileUserDefaults::take(const Outcome& outcome)
         if (std::exchange(needsAnotherLook_, false))
             look(Patience::waits);
     }
+    // The folder was removed, or made by the first write.
+    if (!folderWatcher_->isWatching())
+        watch();
     adopt(outcome.document);
 }
 

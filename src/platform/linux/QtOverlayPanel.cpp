@@ -75,6 +75,8 @@ public:
         view_.emplace(text, static_cast<int>(space.width() * mostShareOfScreen));
         fill_ = hasCompositor() ? PillHUDView::Fill::translucent : PillHUDView::Fill::opaque;
 
+        // Nobody sees the title; it is for programs that ask what a window says.
+        setTitle(text);
         setScreen(screen);
         QRect area({0, 0}, view_->fittingSize());
         area.moveCenter(space.center());

@@ -138,11 +138,8 @@ void XkbInputSources::handle(const xcb_generic_event_t& event)
         readGroup();
         notify();
     } else if (kind == firstEvent_) {
-        const auto& change = reinterpret_cast<const xcb_xkb_state_notify_event_t&>(event);
-        if (change.xkbType == XCB_XKB_STATE_NOTIFY)
-            group_ = change.group;
-        else
-            readGroup();
+        // What the event tells may be older than a selection made since.
+        readGroup();
         notify();
     }
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/linux/InputSourceBackend.h"
 #include "platform/InputSourceIdentifiers.h"
+#include "platform/linux/InputSourceBackend.h"
 #include "platform/linux/X11Connection.h"
 #include "platform/linux/XkbRegistry.h"
 

@@ -61,12 +61,12 @@ pid_t processOf(const VirtualDesktop& desktop, const std::string& program)
     return -1;
 }
 
-double millisecondsOf(const std::function<void()>& work)
+/// Whether the work ends long before a call to a daemon that hangs is given up.
+bool isBounded(const std::function<void()>& work)
 {
     const auto start = std::chrono::steady_clock::now();
     work();
-    return std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - start)
-        .count();
+    return std::chrono::steady_clock::now() - start < 2s;
 }
 
 TEST(DesktopInputSources, followsLayoutsThatAreSetWhileItRuns)
@@ -235,8 +235,8 @@ TEST(DesktopInputSources, doesNotHangWithAnIBusThatHangs)
     DesktopInputSources sources(connection, bus.get());
     ASSERT_TRUE(becomes(sources, "IBus"));
     ::kill(process, SIGSTOP);
-    EXPECT_LT(millisecondsOf([&] { selectID(sources, "ibus:libpinyin"); }), 100);
-    EXPECT_LT(millisecondsOf([&] { currentID(sources); }), 100);
+    EXPECT_TRUE(isBounded([&] { selectID(sources, "ibus:libpinyin"); }));
+    EXPECT_TRUE(isBounded([&] { currentID(sources); }));
     {
         DesktopInputSources late(connection, bus.get());
         EXPECT_EQ(late.backendName(), "XKB");
@@ -278,8 +278,8 @@ TEST(DesktopInputSources, doesNotHangWithAnFcitxThatHangs)
     ASSERT_TRUE(becomes(sources, "Fcitx 5"));
     ASSERT_TRUE(loopUntil([&] { return !currentID(sources).empty(); }));
     ::kill(process, SIGSTOP);
-    EXPECT_LT(millisecondsOf([&] { selectID(sources, "fcitx5:pinyin"); }), 100);
-    EXPECT_LT(millisecondsOf([&] { currentID(sources); }), 100);
+    EXPECT_TRUE(isBounded([&] { selectID(sources, "fcitx5:pinyin"); }));
+    EXPECT_TRUE(isBounded([&] { currentID(sources); }));
     ::kill(process, SIGCONT);
     EXPECT_TRUE(loopUntil([&] { return daemon.current() == "pinyin"; }));
     EXPECT_TRUE(loopUntil([&] { return currentID(sources) == "fcitx5:pinyin"; }));
@@ -295,7 +295,9 @@ TEST(DesktopInputSources, goesOnWithTheServersGroupsWhenTheBusEnds)
     ASSERT_TRUE(becomes(sources, "Fcitx 5"));
     desktop.endSessionBus();
     EXPECT_TRUE(becomes(sources, "XKB"));
-    EXPECT_EQ(selectID(sources, "xkb:de::deu"), 0);
+    // The daemon has given the server a layout of its own.
+    desktop.setKeyboardLayouts("us,de");
+    EXPECT_TRUE(loopUntil([&] { return selectID(sources, "xkb:de::deu") == 0; }));
     EXPECT_EQ(currentID(sources), "xkb:de::deu");
 }
 

@@ -1,6 +1,7 @@
 #include "platform/linux/JsonFileUserDefaults.h"
 
 #include "platform/posix/SerialQueue.h"
+#include "platform/simulated/SimulatedQueue.h"
 #include "support/ChildProcess.h"
 #include "support/Eventually.h"
 #include "support/FileSizeLimit.h"
@@ -13,6 +14,8 @@
 
 #include <chrono>
 #include <csignal>
+#include <set>
+#include <sys/stat.h>
 
 namespace brindlex {
 namespace {
@@ -55,15 +58,19 @@ TEST_F(JsonFileUserDefaultsTest, writesNothingAsLongAsNothingIsSet)
 TEST_F(JsonFileUserDefaultsTest, writesABurstOfChangesOnce)
 {
     start();
-    int writes = 0;
-    const FolderWatcher watcher(folder.path(),
-        [&](const std::string& name) { writes += name == path().filename().string() ? 1 : 0; });
+    // Each write makes a new file.
+    std::set<ino_t> written;
+    const FolderWatcher watcher(folder.path(), [&](const std::string&) {
+        struct stat status = {};
+        if (::stat(path().c_str(), &status) == 0)
+            written.insert(status.st_ino);
+    });
     for (std::int64_t number = 1; number <= 500; ++number)
         defaults->set("key" + std::to_string(number % 7), number);
     ASSERT_TRUE(
         runUntil([&] { return valueInFile("key3") == PreferenceValue(std::int64_t{500}); }));
     loop.runFor(0.15);
-    EXPECT_EQ(writes, 1);
+    EXPECT_EQ(written.size(), 1U);
 }
 
 TEST_F(JsonFileUserDefaultsTest, readsAFileThatAPersonHasWritten)
@@ -240,12 +247,25 @@ TEST_F(JsonFileUserDefaultsTest, takesTextThatIsNotText)
         valueInFile("texts"), PreferenceValue(std::vector<std::string>{"\xEF\xBF\xBD", "ok"}));
 }
 
-TEST_F(JsonFileUserDefaultsTest, keepsAFileOfTenMegabytesOffTheMainThread)
+TEST_F(JsonFileUserDefaultsTest, writesOnItsQueueAlone)
+{
+    SimulatedQueue stopped;
+    JsonFileUserDefaults waiting(path(), loop.mainThread(), stopped);
+    waiting.set("a", true);
+    ASSERT_TRUE(runUntil([&] { return stopped.waiting() > 0; }));
+    EXPECT_FALSE(files::exists(path()));
+    EXPECT_EQ(waiting.value("a"), PreferenceValue(true));
+    stopped.drain();
+    EXPECT_EQ(valueInFile("a"), PreferenceValue(true));
+}
+
+TEST_F(JsonFileUserDefaultsTest, takesAFileOfTenMegabytes)
 {
     write(path(), "{\"large\":\"" + std::string(10'000'000, 'x') + "\"}");
     start();
     defaults->set("a", true);
-    ASSERT_TRUE(runUntil([&] { return valueInFile("a") == PreferenceValue(true); }));
+    defaults->synchronize();
+    EXPECT_EQ(valueInFile("a"), PreferenceValue(true));
     EXPECT_EQ(std::get<std::string>(*defaults->value("large")).size(), 10'000'000U);
 }
 
@@ -255,6 +275,34 @@ TEST_F(JsonFileUserDefaultsTest, ownsTheFolderItNeeds)
     deep.set("a", true);
     deep.synchronize();
     EXPECT_EQ(contentOf(folder.path() / "new/config/p.json"), "{\n  \"a\": true\n}\n");
+}
+
+TEST_F(JsonFileUserDefaultsTest, noticesChangesInAFolderThatWasRemovedAndMadeAnew)
+{
+    const auto file = folder.path() / "config/p.json";
+    JsonFileUserDefaults removed(file, loop.mainThread(), queue);
+    removed.set("a", true);
+    removed.synchronize();
+    files::remove_all(folder.path() / "config");
+    ASSERT_TRUE(runUntil([&] { return !removed.value("a"); }));
+    removed.set("b", true);
+    ASSERT_TRUE(runUntil([&] { return files::exists(file); }));
+    removed.synchronize();
+    write(file, R"({"c":true})");
+    EXPECT_TRUE(runUntil([&] { return removed.value("c") == PreferenceValue(true); }));
+}
+
+TEST_F(JsonFileUserDefaultsTest, tellsNobodyAtItsEnd)
+{
+    start();
+    int told = 0;
+    const auto subscription = defaults->observeChanges([&] { ++told; });
+    defaults->set("a", true);
+    write(path(), R"({"b":true})");
+    defaults.reset();
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(valueInFile("a"), PreferenceValue(true));
+    EXPECT_EQ(valueInFile("b"), PreferenceValue(true));
 }
 
 TEST_F(JsonFileUserDefaultsTest, goesOnWhereTheFolderCannotBeMade)

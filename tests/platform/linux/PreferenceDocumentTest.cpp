@@ -59,7 +59,7 @@ TEST(PreferenceDocument, isWrittenForAPersonToReadWithItsKeysInOrder)
 TEST(PreferenceDocument, isReadBackAsItWasWritten)
 {
     PreferenceDocument content;
-    content["text"] = storedPreference(std::string("a\0b\x01\n\"\\ 键盘 \xF0\x9F\x8E\xB9", 21));
+    content["text"] = storedPreference(std::string("a\0b\x01\n\"\\ 键盘 \xF0\x9F\x8E\xB9", 19));
     content["smallest"] = storedPreference(std::numeric_limits<std::int64_t>::min());
     content["largest"] = storedPreference(std::numeric_limits<std::int64_t>::max());
     content["exact"] = storedPreference(0.1);
