@@ -88,10 +88,13 @@ std::optional<X11MasterDevices> tappableMasters(X11Connection& connection)
     if (!pointer)
         return {};
 
-    X11MasterDevices masters{pointer->deviceid, 0};
+    // A client that has not moved the cursor yet has no pointer of its own: it gets the first.
+    X11MasterDevices masters{pointer->set ? pointer->deviceid : std::uint16_t{0}, 0};
     bool isGuest = false;
     forEachDevice(queryDevices(connection), [&](const xcb_input_xi_device_info_t& device) {
         isGuest |= nameOf(device).starts_with("xwayland-");
+        if (masters.pointer == 0 && device.type == XCB_INPUT_DEVICE_TYPE_MASTER_POINTER)
+            masters.pointer = device.deviceid;
         if (device.deviceid == masters.pointer)
             masters.keyboard = device.attachment;
     });

@@ -57,7 +57,7 @@ TEST(WheelTicks, leavesNothingOverForALaterScroll)
     WheelTicks wheel;
     EXPECT_EQ(wheel.add(4, 1.0), 0);
     EXPECT_EQ(wheel.add(4, 1.31), 0);
-    EXPECT_EQ(wheel.add(4, 1.61), 1);
+    EXPECT_EQ(wheel.add(4, 1.6), 1);
 }
 
 TEST(WheelTicks, isNotMovedByNothingOrNonsense)
