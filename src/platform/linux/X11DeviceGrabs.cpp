@@ -65,10 +65,15 @@ bool X11DeviceGrabs::isTaken(std::uint16_t device) const
     return grab != grabs_.end() && grab->second.isTaken;
 }
 
+bool X11DeviceGrabs::mayHold(std::uint16_t device) const
+{
+    const auto grab = grabs_.find(device);
+    return grab != grabs_.end() && !grab->second.isNothing();
+}
+
 bool X11DeviceGrabs::isNothing() const
 {
-    return std::ranges::all_of(grabs_,
-        [](const auto& grab) { return !grab.second.isTaken && grab.second.triggers.empty(); });
+    return std::ranges::all_of(grabs_, [](const auto& grab) { return grab.second.isNothing(); });
 }
 
 bool X11DeviceGrabs::take(const X11InputDevice& device)

@@ -26,7 +26,10 @@ public:
     /// Whether the device is taken all the time.
     bool isTaken(std::uint16_t device) const;
 
-    /// Whether any device is taken, or can be by a trigger.
+    /// Whether the device is taken, or can be by a trigger.
+    bool mayHold(std::uint16_t device) const;
+
+    /// Whether no device is taken, nor can be by a trigger.
     bool isNothing() const;
 
     /// The device has gone, and what was taken of it.
@@ -36,6 +39,8 @@ private:
     struct Grab {
         bool isTaken = false;
         std::set<TapDemand::Trigger> triggers{};
+
+        bool isNothing() const { return !isTaken && triggers.empty(); }
     };
 
     bool take(const X11InputDevice& device);

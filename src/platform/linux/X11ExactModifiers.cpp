@@ -3,7 +3,6 @@
 #include "platform/linux/X11Modifiers.h"
 #include "platform/linux/XkbProtocol.h"
 
-
 namespace brindlex {
 namespace {
 
