@@ -13,8 +13,10 @@ X11CursorState cursorState(X11Connection& connection, std::uint16_t pointer)
         xcb_input_xi_query_pointer_reply(server, request, nullptr));
     if (!reply)
         return {};
-    return {
-        {number(reply->root_x), number(reply->root_y)}, flagsOfModifiers(reply->mods.effective)};
+    // The server leaves the effective modifiers of this reply empty.
+    const auto& mods = reply->mods;
+    return {{number(reply->root_x), number(reply->root_y)},
+        flagsOfModifiers(mods.base | mods.latched | mods.locked)};
 }
 
 } // namespace brindlex
