@@ -122,7 +122,7 @@ TEST_F(Mouse, sendsAKeystrokeWithItsOwnModifiersAlone)
     };
     const Lines expected{"key 38 down (control)", "key 38 up (control)"};
     EXPECT_TRUE(eventually([&] { return strokes() == expected; }))
-        << testing::PrintToString(window.lines());
+        << testing::PrintToString(window.lines()) << desk.program->report();
     EXPECT_TRUE(eventually([&] { return window.held() == Lines{}; }));
 }
 
