@@ -97,11 +97,13 @@ private:
     std::shared_ptr<Questions> questions_;
     Reader::Element element_;
     Deadline last_;
-    Seconds timeout_ = timePerPoint;
+    Seconds timeout_ = usualTimePerPoint;
 };
 
-AccessibleElementTree::AccessibleElementTree(X11Connection& connection, BackgroundQueue& queue)
-    : connection_(connection), queue_(queue), questions_(std::make_shared<Questions>(queue))
+AccessibleElementTree::AccessibleElementTree(
+    X11Connection& connection, BackgroundQueue& queue, Seconds timePerPoint)
+    : connection_(connection), queue_(queue), timePerPoint_(timePerPoint),
+      questions_(std::make_shared<Questions>(queue))
 {
 }
 
@@ -109,7 +111,7 @@ AccessibleElementTree::~AccessibleElementTree() { queue_.drain(); }
 
 std::shared_ptr<AccessibilityElement> AccessibleElementTree::elementAt(Point point, Seconds timeout)
 {
-    const auto last = after(timePerPoint);
+    const auto last = after(timePerPoint_);
     const auto window = windowAt(connection_, point);
     if (!window)
         return nullptr;

@@ -12,13 +12,14 @@ namespace brindlex {
 ///
 /// Questions are asked on the queue, which should be for them alone; the main thread waits for each
 /// answer no longer than its time-out, and for all that follow from one `elementAt` no longer than
-/// 60 ms together, since an event of the user's waits with it. The first question connects to the
-/// accessibility bus, which may take longer: it is then without an answer. Main thread only.
+/// `timePerPoint` together, since an event of the user's waits with it. The first question connects
+/// to the accessibility bus, which may take longer: it is then without an answer. Main thread only.
 class AccessibleElementTree : public AccessibilityTree {
 public:
-    static constexpr Seconds timePerPoint = 0.06;
+    static constexpr Seconds usualTimePerPoint = 0.06;
 
-    AccessibleElementTree(X11Connection& connection, BackgroundQueue& queue);
+    AccessibleElementTree(X11Connection& connection, BackgroundQueue& queue,
+        Seconds timePerPoint = usualTimePerPoint);
     ~AccessibleElementTree() override;
     AccessibleElementTree(const AccessibleElementTree&) = delete;
     AccessibleElementTree& operator=(const AccessibleElementTree&) = delete;
@@ -31,6 +32,7 @@ private:
 
     X11Connection& connection_;
     BackgroundQueue& queue_;
+    Seconds timePerPoint_;
     std::shared_ptr<Questions> questions_;
 };
 
