@@ -58,6 +58,31 @@ EventLogWindow::EventLogWindow(Protocol protocol) : window_(xcb_generate_id(serv
     forget();
 }
 
+EventLogWindow::EventLogWindow(const std::string& title, const ScreenArea& area)
+    : window_(xcb_generate_id(server_.get()))
+{
+    const auto& screen = server_.screen();
+    xcb_create_window(server_.get(), XCB_COPY_FROM_PARENT, window_, screen.root, 0, 0,
+        static_cast<std::uint16_t>(area.width), static_cast<std::uint16_t>(area.height), 0,
+        XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL,
+        &screen.white_pixel);
+    listen(Protocol::core);
+    xcb_change_property(server_.get(), XCB_PROP_MODE_REPLACE, window_, server_.atom("_NET_WM_NAME"),
+        server_.atom("UTF8_STRING"), 8, static_cast<std::uint32_t>(title.size()), title.data());
+    xcb_map_window(server_.get(), window_);
+    const DesktopWindows windows(server_);
+    const auto stands = [&] {
+        if (windows.active() != window_)
+            return false;
+        windows.place(window_, area);
+        const auto now = windows.areaOf(window_);
+        return now.width == area.width && now.height == area.height;
+    };
+    if (!eventually(stands))
+        fatalError("The window manager does not show the window " + title);
+    forget();
+}
+
 EventLogWindow::~EventLogWindow()
 {
     xcb_destroy_window(server_.get(), window_);

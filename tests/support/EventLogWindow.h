@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/DesktopWindows.h"
 #include "support/XConnection.h"
 
 #include <string>
@@ -20,6 +21,9 @@ public:
 
     /// Shows the window, with the pointer in the middle of it and the keys going to it.
     explicit EventLogWindow(Protocol protocol = Protocol::core);
+    /// An ordinary window with a title here, and whatever the window manager draws around it; waits
+    /// until it stands there.
+    EventLogWindow(const std::string& title, const ScreenArea& area);
     ~EventLogWindow();
     EventLogWindow(const EventLogWindow&) = delete;
     EventLogWindow& operator=(const EventLogWindow&) = delete;
