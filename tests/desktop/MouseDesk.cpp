@@ -27,6 +27,10 @@ MouseDesk::MouseDesk(const std::string& keyboardLayouts)
         server.get(), xcb_input_xi_query_version(server.get(), 2, 2), nullptr));
     if (!version)
         fatalError("The X server has no second version of its input");
+    // Without acceleration what is played says where the pointer ends, however fast it is played.
+    constexpr int asItIs = 1;
+    xcb_change_pointer_control(server.get(), asItIs, asItIs, 0, true, true);
+    server.sync();
     // The driver answers for what was played once anything was.
     mouse.move(1, 0);
     mouse.settle();

@@ -154,6 +154,36 @@ TEST_F(Mouse, turnsTheWheelAround)
         receives(window, {"press 4", "release 4", "press 4", "release 4", "press 5", "release 5"}));
 }
 
+TEST_F(Mouse, movesThePointerAsFarAsTheHandWhateverIsHeld)
+{
+    constexpr std::uint8_t altKey = 64;
+    EventLogWindow window;
+    const auto dragged = [&] {
+        const auto before = window.pointer();
+        desk.keyboard.press(altKey);
+        desk.keyboard.settle();
+        drag(leftButton, 60, 40);
+        desk.mouse.release(leftButton);
+        desk.settle();
+        desk.keyboard.release(altKey);
+        const auto after = window.pointer();
+        window.movePointer(before);
+        return std::pair{after.x - before.x, after.y - before.y};
+    };
+    constexpr std::pair asFar{60, 40};
+
+    EXPECT_EQ(dragged(), asFar) << "without the program";
+    auto config = everything();
+    config.scroll.smoothEnabled = false;
+    desk.start(config);
+    EXPECT_EQ(dragged(), asFar) << "with bindings";
+    EXPECT_EQ(dragged(), asFar) << "with bindings, again";
+    config.scroll.smoothEnabled = true;
+    desk.set(config);
+    ASSERT_TRUE(eventually([&] { return desk.isAnyDeviceTaken(); }));
+    EXPECT_EQ(dragged(), asFar) << "with the wheel";
+}
+
 TEST_F(Mouse, leavesAllDevicesAloneWithoutBindings)
 {
     desk.start({});

@@ -103,14 +103,13 @@ void RecordedDesk::note(const std::string& heading)
         return throughout(restful, [&] { return state() == now; });
     };
     if (!eventually(isSteady))
-        record_.push_back("never still");
-    record_.push_back("# " + heading);
-    record_.insert(record_.end(), now.begin(), now.end());
+        record_ += "never still\n";
+    record_ += "# " + heading + "\n" + now;
     one.forget();
     two.forget();
 }
 
-std::vector<std::string> RecordedDesk::state()
+std::string RecordedDesk::state()
 {
     std::vector<std::string> lines{
         "front: " + titleOfActive(),
@@ -120,6 +119,8 @@ std::vector<std::string> RecordedDesk::state()
         "Terminal: " + text(desk.windows.areaOf(terminal.window())) + " " + terminal.text(),
         "selected: " + selectedText(),
     };
+    for (const auto& menu : menus())
+        lines.push_back("menu: " + text(menu));
     for (const auto& line : one.lines())
         lines.push_back("One: " + line);
     for (const auto& line : two.lines())
@@ -129,7 +130,30 @@ std::vector<std::string> RecordedDesk::state()
     lines.push_back("pointer: " + std::to_string(pointer.x) + "," + std::to_string(pointer.y));
     for (const auto& held : one.held())
         lines.push_back("held: " + held);
-    return lines;
+    std::string all;
+    for (const auto& line : lines)
+        all += line + "\n";
+    return all;
+}
+
+std::vector<ScreenArea> RecordedDesk::menus() const
+{
+    const auto& server = desk.server;
+    const XReply<xcb_query_tree_reply_t> tree(
+        xcb_query_tree_reply(server.get(), xcb_query_tree(server.get(), server.root()), nullptr));
+    std::vector<ScreenArea> areas;
+    if (!tree)
+        return areas;
+    const auto* children = xcb_query_tree_children(tree.get());
+    for (int index = 0; index < xcb_query_tree_children_length(tree.get()); ++index) {
+        const XReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
+            server.get(), xcb_get_window_attributes(server.get(), children[index]), nullptr));
+        const auto area = desk.windows.areaOf(children[index]);
+        if (attributes && attributes->override_redirect
+            && attributes->map_state == XCB_MAP_STATE_VIEWABLE && area.x >= 0 && area.width > 1)
+            areas.push_back(area);
+    }
+    return areas;
 }
 
 std::string RecordedDesk::titleOfActive() const
@@ -162,6 +186,25 @@ std::string RecordedDesk::selectedText() const
     return selected;
 }
 
+void RecordedDesk::waitUntilStill()
+{
+    // A hand is no faster than that what it drags follows.
+    constexpr auto moment = 15ms;
+    desk.mouse.settle();
+    const auto isStill = [&] {
+        const auto now = places();
+        return throughout(moment, [&] { return places() == now; });
+    };
+    eventually(isStill);
+}
+
+std::vector<ScreenArea> RecordedDesk::places() const
+{
+    const auto pointer = one.pointer();
+    return {
+        desk.windows.areaOf(one.id()), desk.windows.areaOf(two.id()), {pointer.x, pointer.y, 0, 0}};
+}
+
 void RecordedDesk::movePointer(int x, int y)
 {
     desk.settle();
@@ -176,8 +219,11 @@ void RecordedDesk::drag(int button, int x, int y)
 {
     constexpr int steps = 10;
     desk.mouse.press(button);
-    for (int step = 0; step < steps; ++step)
+    waitUntilStill();
+    for (int step = 0; step < steps; ++step) {
         desk.mouse.move(double(x) / steps, double(y) / steps);
+        waitUntilStill();
+    }
     desk.mouse.release(button);
 }
 

@@ -19,10 +19,11 @@ public:
     /// Writes down what there is, under a heading, once it no longer changes: the window in front,
     /// where the windows are, what they got, what is held, and the text that is selected.
     void note(const std::string& heading);
-    const std::vector<std::string>& record() const { return record_; }
+    /// All that was noted, one line for each thing.
+    const std::string& record() const { return record_; }
 
     void movePointer(int x, int y);
-    /// Presses a button, moves by ten equal steps, and lets go.
+    /// Presses a button, moves by ten equal steps, as fast as what is dragged follows, and lets go.
     void drag(int button, int x, int y);
     void click(int button, int times = 1);
     void stroke(std::uint8_t key);
@@ -33,11 +34,15 @@ public:
     TypingWindow terminal{desk.windows, "Terminal", {"-geometry", "40x10+750+100"}};
 
 private:
-    std::vector<std::string> state();
+    std::string state();
+    void waitUntilStill();
+    std::vector<ScreenArea> places() const;
+    /// What is on the screen without a frame of the window manager.
+    std::vector<ScreenArea> menus() const;
     std::string titleOfActive() const;
     std::string selectedText() const;
 
-    std::vector<std::string> record_;
+    std::string record_;
 };
 
 } // namespace brindlex

@@ -2,12 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-
 namespace brindlex {
 namespace {
-
-using Record = std::vector<std::string>;
 
 // Keys as X counts them.
 constexpr std::uint8_t tabKey = 23;
@@ -27,6 +23,8 @@ struct Habit {
     const char* proof;
 };
 
+void PrintTo(const Habit& habit, std::ostream* stream) { *stream << habit.name; }
+
 const std::vector<Habit> habits{
     {"clickToFocus",
         [](RecordedDesk& on) {
@@ -40,11 +38,11 @@ const std::vector<Habit> habits{
         "Two: press 1"},
     {"dragOfATitleBar",
         [](RecordedDesk& on) {
-            on.movePointer(200, 92);
+            on.movePointer(200, 110);
             on.drag(leftButton, 50, 70);
             on.note("dragged");
         },
-        "One: 150,170 300x200"},
+        "One: 151,190 300x200"},
     {"dragWithAlt",
         [](RecordedDesk& on) {
             on.movePointer(200, 150);
@@ -55,10 +53,10 @@ const std::vector<Habit> habits{
             on.desk.keyboard.release(altKey);
             on.note("let go");
         },
-        "One: 160,140 300x200"},
+        "One: 161,160 300x200"},
     {"resizeWithAlt",
         [](RecordedDesk& on) {
-            on.movePointer(380, 280);
+            on.movePointer(280, 250);
             on.desk.keyboard.press(altKey);
             on.desk.keyboard.settle();
             on.drag(rightButton, 40, 30);
@@ -66,7 +64,7 @@ const std::vector<Habit> habits{
             on.desk.keyboard.release(altKey);
             on.note("let go");
         },
-        "One: 100,100 340x230"},
+        "One: 101,120 340x230"},
     {"shortcutsOfTheWindowManager",
         [](RecordedDesk& on) {
             on.desk.keyboard.press(altKey);
@@ -97,9 +95,10 @@ const std::vector<Habit> habits{
     {"menuOfTheDesktop",
         [](RecordedDesk& on) {
             on.movePointer(900, 600);
-            on.click(rightButton);
+            on.desk.mouse.press(rightButton);
             on.note("open");
-            on.desk.mouse.move(30, 12);
+            on.desk.mouse.release(rightButton);
+            on.desk.mouse.move(30, 32);
             on.note("over the item");
             on.click(leftButton);
             on.note("chosen");
@@ -107,11 +106,11 @@ const std::vector<Habit> habits{
         "desktop: 1"},
     {"doubleClick",
         [](RecordedDesk& on) {
-            on.movePointer(200, 92);
+            on.movePointer(200, 110);
             on.click(leftButton, 2);
             on.note("twice");
         },
-        "One: 1,22 1278x777"},
+        "One: 0,21"},
     {"dragSelection",
         [](RecordedDesk& on) {
             on.desk.windows.activate(on.terminal.window());
@@ -169,13 +168,13 @@ const std::vector<Habit> habits{
             on.stroke(keyY);
             on.note("typed");
         },
-        "Terminal: 751,122 yz"},
+        "244x134 yz"},
 };
 
 /// The programs that the same is recorded beside.
 enum class Beside { nothing, triggers, everything };
 
-Record record(const Habit& habit, Beside beside)
+std::string record(const Habit& habit, Beside beside)
 {
     RecordedDesk on;
     if (beside != Beside::nothing) {
@@ -195,9 +194,7 @@ TEST_P(UnchangedDesktop, isTheSameWithTheProgram)
 {
     const auto without = record(GetParam(), Beside::nothing);
 
-    EXPECT_TRUE(std::ranges::any_of(without, [](const std::string& line) {
-        return line.starts_with(GetParam().proof);
-    })) << testing::PrintToString(without);
+    EXPECT_NE(without.find(GetParam().proof), std::string::npos) << without;
     EXPECT_EQ(record(GetParam(), Beside::triggers), without);
     EXPECT_EQ(record(GetParam(), Beside::everything), without);
 }
