@@ -11,7 +11,7 @@ X11TapSession::X11TapSession(const std::string& display, TapChain& taps, Hooks h
       masters_(connection_.isAlive() ? tappableMasters(connection_) : std::nullopt),
       grabs_(connection_), injection_(connection_),
       input_(taps, grabs_, injection_,
-          {.cursor = [this] { return cursor(); },
+          {.cursor = [this] { return cursorState(connection_); },
               .eventDone = [this] { hooks_.eventDone(); },
               .allReleased =
                   [this] {
@@ -53,11 +53,6 @@ bool X11TapSession::apply(const TapDemand& demand)
     xcb_flush(connection_.get());
     waitsForRelease_ = !isDone || (listensToReleases_ && grabs_.isNothing());
     return isDone;
-}
-
-X11CursorState X11TapSession::cursor()
-{
-    return cursorState(connection_, masters_ ? masters_->pointer : std::uint16_t{0});
 }
 
 void X11TapSession::pressForHand(const std::vector<std::uint8_t>& keys)

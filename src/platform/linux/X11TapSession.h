@@ -43,7 +43,7 @@ public:
     bool apply(const TapDemand& demand);
     bool takesNothing() const { return grabs_.isNothing(); }
 
-    X11CursorState cursor();
+    X11CursorState cursor() { return cursorState(connection_); }
 
     /// Presses those of the keys again that a hand holds, after they were released in its place.
     void pressForHand(const std::vector<std::uint8_t>& keys);
