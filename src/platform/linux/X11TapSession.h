@@ -56,8 +56,11 @@ public:
 
 private:
     void makeHandle();
+    bool mayMissReleases() const;
     void listenToReleasesAsNeeded();
     void selectEvents(bool toReleases);
+    void askForEcho();
+    void receiveEcho(const xcb_generic_event_t& event);
     std::vector<X11InputDevice> takenKeyboards() const;
     void findDevices();
     void receive(const xcb_generic_event_t& event);
@@ -70,7 +73,8 @@ private:
     std::uint8_t inputOpcode_ = 0;
     xcb_window_t handle_ = 0;
     bool listensToReleases_ = false;
-    bool waitsForRelease_ = false;
+    bool isDone_ = true;
+    std::uint32_t lastEcho_ = 0;
     std::vector<X11InputDevice> devices_;
     X11DeviceGrabs grabs_;
     X11Injection injection_;
