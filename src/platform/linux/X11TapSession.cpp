@@ -156,11 +156,18 @@ void X11TapSession::receive(const xcb_generic_event_t& event)
         return;
     match(
         *read, [this](const X11InputEvent::Button& button) { input_.receive(button); },
-        [this](const X11InputEvent::Key& key) { input_.receive(key); },
+        [this](const X11InputEvent::Key& key) { receiveKey(key); },
         [this](const X11InputEvent::Motion& motion) { input_.receive(motion); },
         [this](const X11InputEvent::Place& place) { input_.receive(place); },
         [this](const X11InputEvent::FreeRelease& release) { receiveFreeRelease(release); },
         [this](const X11InputEvent::DevicesChanged& change) { receiveChange(change); });
+}
+
+void X11TapSession::receiveKey(const X11InputEvent::Key& event)
+{
+    input_.receive(event);
+    if (!event.isPress)
+        keysForHand_.released(event.keycode);
 }
 
 void X11TapSession::receiveFreeRelease(const X11InputEvent::FreeRelease& event)

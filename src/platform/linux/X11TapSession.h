@@ -64,6 +64,7 @@ private:
     std::vector<X11InputDevice> takenKeyboards() const;
     void findDevices();
     void receive(const xcb_generic_event_t& event);
+    void receiveKey(const X11InputEvent::Key& event);
     void receiveFreeRelease(const X11InputEvent::FreeRelease& event);
     void receiveChange(const X11InputEvent::DevicesChanged& change);
 
