@@ -1,22 +1,21 @@
 #include "platform/linux/X11CursorState.h"
 
-#include "platform/linux/X11FixedPoint.h"
 #include "platform/linux/X11Modifiers.h"
 
 namespace brindlex {
 
-X11CursorState cursorState(X11Connection& connection, std::uint16_t pointer)
+X11CursorState cursorState(X11Connection& connection)
 {
+    // Not by the input extension: to that question the server answers with the modifiers of before
+    // the last key.
     auto* const server = connection.get();
-    const auto request = xcb_input_xi_query_pointer(server, connection.root(), pointer);
-    const X11Message<xcb_input_xi_query_pointer_reply_t> reply(
-        xcb_input_xi_query_pointer_reply(server, request, nullptr));
+    const auto request = xcb_query_pointer(server, connection.root());
+    const X11Message<xcb_query_pointer_reply_t> reply(
+        xcb_query_pointer_reply(server, request, nullptr));
     if (!reply)
         return {};
-    // The server leaves the effective modifiers of this reply empty.
-    const auto& mods = reply->mods;
-    return {{number(reply->root_x), number(reply->root_y)},
-        flagsOfModifiers(mods.base | mods.latched | mods.locked)};
+    return {{static_cast<double>(reply->root_x), static_cast<double>(reply->root_y)},
+        flagsOfModifiers(reply->mask)};
 }
 
 } // namespace brindlex

@@ -7,15 +7,13 @@
 
 #include <cmath>
 #include <cstdlib>
+#include <utility>
 
 namespace brindlex {
 namespace {
 
 using Kind = X11Injection::Kind;
 using Meaning = SystemKeystroke::Meaning;
-
-/// Several posts may hold the same button or key: they count as one device.
-constexpr PressLedger::DeviceIdentifier poster = 0;
 
 bool isKey(EventType type)
 {
@@ -69,6 +67,7 @@ void X11EventPosting::deliver(const SyntheticEvent& event)
     auto* session = stream_.session();
     if (!session)
         return;
+    forgetEarlierSession();
     auto verdict = EventVerdict::pass;
     if (stream_.taps().sees(eventMask(event.type))) {
         const auto cursor = event.location && event.flags ? X11CursorState{} : session->cursor();
@@ -77,27 +76,33 @@ void X11EventPosting::deliver(const SyntheticEvent& event)
     }
     if (!session)
         return;
-    // A release goes where its press went, so that nothing stays down.
-    const bool isRelease = isMouseUp(event.type) || event.type == EventType::keyUp;
-    const auto kind = isKey(event.type) ? Kind::key : Kind::button;
-    const auto code = isKey(event.type) ? keyCodeOf(event) : buttonOf(event);
-    bool goesOn = verdict == EventVerdict::pass;
-    if (isRelease)
-        goesOn = ledger_.isOpen(poster, kind, code) ? ledger_.released(poster, kind, code) : goesOn;
-    else if (isMouseDown(event.type) || event.type == EventType::keyDown)
-        ledger_.pressed(poster, kind, code, goesOn);
-    if (goesOn)
+    if (goesOn(event, verdict == EventVerdict::pass))
         play(*session, event);
     xcb_flush(session->connection().get());
 }
 
+void X11EventPosting::forgetEarlierSession()
+{
+    // What was held through an earlier connection went with it.
+    if (std::exchange(sessionNumber_, stream_.sessionCount()) == stream_.sessionCount())
+        return;
+    modifiers_.forget();
+    presses_ = {};
+}
+
+bool X11EventPosting::goesOn(const SyntheticEvent& event, bool passes)
+{
+    const auto press = isKey(event.type) ? PressLedger::Press{Kind::key, keyCodeOf(event)}
+                                         : PressLedger::Press{Kind::button, buttonOf(event)};
+    if (isMouseDown(event.type) || event.type == EventType::keyDown)
+        return presses_.pressed(press, passes);
+    if (isMouseUp(event.type) || event.type == EventType::keyUp)
+        return presses_.released(press, passes);
+    return passes;
+}
+
 void X11EventPosting::play(X11TapSession& session, const SyntheticEvent& event)
 {
-    // What was held for an earlier connection went with it.
-    if (modifiersSession_ != stream_.sessionCount())
-        modifiers_.forget();
-    modifiersSession_ = stream_.sessionCount();
-
     if (isButton(event.type)) {
         playButton(session, event);
     } else if (isKey(event.type)) {
@@ -190,7 +195,7 @@ void X11EventPosting::restoreSoon()
 {
     nextRestore_ = mainThread_.after(0, [this] {
         if (auto* session = stream_.session();
-            session && stream_.sessionCount() == modifiersSession_) {
+            session && stream_.sessionCount() == sessionNumber_) {
             modifiers_.restore(*session);
             xcb_flush(session->connection().get());
         }

@@ -2,7 +2,7 @@
 
 #include "platform/DockSwipe.h"
 #include "platform/EventPosting.h"
-#include "platform/PressLedger.h"
+#include "platform/linux/PostedPresses.h"
 #include "platform/linux/WheelTicks.h"
 #include "platform/linux/X11ExactModifiers.h"
 #include "platform/linux/X11InputStream.h"
@@ -24,6 +24,8 @@ public:
 
 private:
     void deliver(const SyntheticEvent& event);
+    void forgetEarlierSession();
+    bool goesOn(const SyntheticEvent& event, bool passes);
     void play(X11TapSession& session, const SyntheticEvent& event);
     void playButton(X11TapSession& session, const SyntheticEvent& event);
     void playKey(X11TapSession& session, const SyntheticEvent& event);
@@ -35,10 +37,10 @@ private:
     X11InputStream& stream_;
     MainThread& mainThread_;
     const Clock& clock_;
-    PressLedger ledger_;
+    PostedPresses presses_;
     X11ExactModifiers modifiers_;
-    /// The connection through which they are held.
-    int modifiersSession_ = 0;
+    /// The connection through which presses and modifiers are held.
+    int sessionNumber_ = 0;
     WheelTicks vertical_;
     WheelTicks horizontal_;
     DockSwipeReader dock_;

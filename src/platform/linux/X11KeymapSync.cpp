@@ -7,27 +7,28 @@
 
 namespace brindlex {
 
+X11KeymapSync::X11KeymapSync(X11Connection& connection, std::string display)
+    : connection_(connection), display_(std::move(display)),
+      firstEvent_(connection.isAlive() ? useXkb(connection.get()) : std::nullopt)
+{
+}
+
 void X11KeymapSync::listen(bool isListening)
 {
-    auto* const server = connection_.get();
-    const auto* extension = xcb_get_extension_data(server, &xcb_xkb_id);
-    if (isListening == isListening_ || !extension || !extension->present)
+    if (isListening == isListening_ || !firstEvent_)
         return;
     isListening_ = isListening;
     hasChanged_ = false;
-    firstEvent_ = extension->first_event;
-    xcb_discard_reply(server,
-        xcb_xkb_use_extension(server, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION).sequence);
     constexpr std::uint16_t changes
         = XCB_XKB_EVENT_TYPE_NEW_KEYBOARD_NOTIFY | XCB_XKB_EVENT_TYPE_MAP_NOTIFY;
     constexpr std::uint16_t mapParts = 0xFF;
-    xcb_xkb_select_events(server, XCB_XKB_ID_USE_CORE_KBD, changes, isListening ? 0 : changes,
-        isListening ? changes : 0, mapParts, mapParts, nullptr);
+    xcb_xkb_select_events(connection_.get(), XCB_XKB_ID_USE_CORE_KBD, changes,
+        isListening ? 0 : changes, isListening ? changes : 0, mapParts, mapParts, nullptr);
 }
 
 void X11KeymapSync::receive(const xcb_generic_event_t& event)
 {
-    if (isListening_ && (event.response_type & 0x7F) == firstEvent_)
+    if (isListening_ && (event.response_type & 0x7F) == *firstEvent_)
         hasChanged_ = true;
 }
 

@@ -4,6 +4,7 @@
 #include "platform/linux/X11InputDevices.h"
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -14,10 +15,7 @@ namespace brindlex {
 class X11KeymapSync {
 public:
     /// `display` is the name of the connection's server; see `copyKeyboardMap`.
-    X11KeymapSync(X11Connection& connection, std::string display)
-        : connection_(connection), display_(std::move(display))
-    {
-    }
+    X11KeymapSync(X11Connection& connection, std::string display);
 
     /// Whether changes are looked out for, from now on.
     void listen(bool isListening);
@@ -33,7 +31,8 @@ public:
 private:
     X11Connection& connection_;
     std::string display_;
-    std::uint8_t firstEvent_ = 0;
+    /// Absent without the extension for keyboards.
+    std::optional<std::uint8_t> firstEvent_;
     bool isListening_ = false;
     bool hasChanged_ = false;
 };

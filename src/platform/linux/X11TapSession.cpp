@@ -11,12 +11,13 @@ X11TapSession::X11TapSession(const std::string& display, TapChain& taps, Hooks h
       masters_(connection_.isAlive() ? tappableMasters(connection_) : std::nullopt),
       grabs_(connection_), injection_(connection_),
       input_(taps, grabs_, injection_,
-          {.cursor = [this] { return cursor(); },
+          {.cursor = [this] { return cursorState(connection_); },
               .eventDone = [this] { hooks_.eventDone(); },
               .allReleased =
                   [this] {
-                      if (waitsForRelease_)
+                      if (!isDone_)
                           hooks_.grabsMayChange();
+                      listenToReleasesAsNeeded();
                   }}),
       keysForHand_(connection_, injection_), keymap_(connection_, display)
 {
@@ -42,22 +43,19 @@ X11TapSession::~X11TapSession()
 
 bool X11TapSession::apply(const TapDemand& demand)
 {
+    // Before anything is taken, so that no release slips through.
+    if (!demand.isNothing() && !listensToReleases_)
+        selectEvents(true);
     const bool mayLetGo = input_.holdsNothing();
     if (!demand.takesKeyboards && mayLetGo)
         keymap_.bringUpToDate(*masters_, takenKeyboards());
-    const bool isDone = grabs_.apply(demand, devices_, mayLetGo);
-    keymap_.listen(demand.takesKeyboards || (!isDone && keymap_.isListening()));
+    isDone_ = grabs_.apply(demand, devices_, mayLetGo);
+    keymap_.listen(demand.takesKeyboards || (!isDone_ && keymap_.isListening()));
     if (demand.takesMice)
         injection_.takeCursor();
     listenToReleasesAsNeeded();
     xcb_flush(connection_.get());
-    waitsForRelease_ = !isDone || (listensToReleases_ && grabs_.isNothing());
-    return isDone;
-}
-
-X11CursorState X11TapSession::cursor()
-{
-    return cursorState(connection_, masters_ ? masters_->pointer : std::uint16_t{0});
+    return isDone_;
 }
 
 void X11TapSession::pressForHand(const std::vector<std::uint8_t>& keys)
@@ -75,12 +73,20 @@ void X11TapSession::makeHandle()
         1, 1, 0, XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
 }
 
+bool X11TapSession::mayMissReleases() const
+{
+    return !grabs_.isNothing() || !input_.holdsNothing() || !injection_.holdsNothing()
+        || !keysForHand_.isEmpty();
+}
+
 void X11TapSession::listenToReleasesAsNeeded()
 {
-    const bool mayMissReleases
-        = !grabs_.isNothing() || !injection_.holdsNothing() || !keysForHand_.isEmpty();
-    if (listensToReleases_ != mayMissReleases)
-        selectEvents(mayMissReleases);
+    if (listensToReleases_ == mayMissReleases())
+        return;
+    if (listensToReleases_)
+        askForEcho();
+    else
+        selectEvents(true);
 }
 
 void X11TapSession::selectEvents(bool toReleases)
@@ -96,6 +102,26 @@ void X11TapSession::selectEvents(bool toReleases)
         selection.releases
             = XCB_INPUT_XI_EVENT_MASK_RAW_KEY_RELEASE | XCB_INPUT_XI_EVENT_MASK_RAW_BUTTON_RELEASE;
     xcb_input_xi_select_events(connection_.get(), connection_.root(), 2, &selection.hierarchyOf);
+}
+
+void X11TapSession::askForEcho()
+{
+    // A press that the server has handed out before it gave the devices back may still be on its
+    // way to us, and the release that belongs to it. What comes back here comes behind both.
+    xcb_client_message_event_t echo{};
+    echo.response_type = XCB_CLIENT_MESSAGE;
+    echo.format = 32;
+    echo.window = handle_;
+    echo.data.data32[0] = ++lastEcho_;
+    xcb_send_event(connection_.get(), false, handle_, 0, reinterpret_cast<const char*>(&echo));
+}
+
+void X11TapSession::receiveEcho(const xcb_generic_event_t& event)
+{
+    const auto& echo = reinterpret_cast<const xcb_client_message_event_t&>(event);
+    if ((event.response_type & 0x7F) == XCB_CLIENT_MESSAGE && echo.window == handle_
+        && echo.data.data32[0] == lastEcho_ && listensToReleases_ && !mayMissReleases())
+        selectEvents(false);
 }
 
 std::vector<X11InputDevice> X11TapSession::takenKeyboards() const
@@ -124,16 +150,24 @@ void X11TapSession::findDevices()
 void X11TapSession::receive(const xcb_generic_event_t& event)
 {
     keymap_.receive(event);
+    receiveEcho(event);
     const auto read = readInputEvent(event, inputOpcode_);
     if (!read)
         return;
     match(
         *read, [this](const X11InputEvent::Button& button) { input_.receive(button); },
-        [this](const X11InputEvent::Key& key) { input_.receive(key); },
+        [this](const X11InputEvent::Key& key) { receiveKey(key); },
         [this](const X11InputEvent::Motion& motion) { input_.receive(motion); },
         [this](const X11InputEvent::Place& place) { input_.receive(place); },
         [this](const X11InputEvent::FreeRelease& release) { receiveFreeRelease(release); },
         [this](const X11InputEvent::DevicesChanged& change) { receiveChange(change); });
+}
+
+void X11TapSession::receiveKey(const X11InputEvent::Key& event)
+{
+    input_.receive(event);
+    if (!event.isPress)
+        keysForHand_.released(event.keycode);
 }
 
 void X11TapSession::receiveFreeRelease(const X11InputEvent::FreeRelease& event)

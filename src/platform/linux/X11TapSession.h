@@ -43,7 +43,7 @@ public:
     bool apply(const TapDemand& demand);
     bool takesNothing() const { return grabs_.isNothing(); }
 
-    X11CursorState cursor();
+    X11CursorState cursor() { return cursorState(connection_); }
 
     /// Presses those of the keys again that a hand holds, after they were released in its place.
     void pressForHand(const std::vector<std::uint8_t>& keys);
@@ -56,11 +56,15 @@ public:
 
 private:
     void makeHandle();
+    bool mayMissReleases() const;
     void listenToReleasesAsNeeded();
     void selectEvents(bool toReleases);
+    void askForEcho();
+    void receiveEcho(const xcb_generic_event_t& event);
     std::vector<X11InputDevice> takenKeyboards() const;
     void findDevices();
     void receive(const xcb_generic_event_t& event);
+    void receiveKey(const X11InputEvent::Key& event);
     void receiveFreeRelease(const X11InputEvent::FreeRelease& event);
     void receiveChange(const X11InputEvent::DevicesChanged& change);
 
@@ -70,7 +74,8 @@ private:
     std::uint8_t inputOpcode_ = 0;
     xcb_window_t handle_ = 0;
     bool listensToReleases_ = false;
-    bool waitsForRelease_ = false;
+    bool isDone_ = true;
+    std::uint32_t lastEcho_ = 0;
     std::vector<X11InputDevice> devices_;
     X11DeviceGrabs grabs_;
     X11Injection injection_;

@@ -119,6 +119,8 @@ void X11TappedInput::receive(const X11InputEvent::Place& event)
 
 void X11TappedInput::receive(const X11InputEvent::FreeRelease& event)
 {
+    if (event.kind == Kind::button)
+        heldButtons_[event.device].erase(buttonNumber(event.code));
     if (ledger_.isOpen(event.device, event.kind, event.code))
         released(event.device, event.kind, event.code);
 }
