@@ -21,6 +21,8 @@ protected:
     void drag(int button, double x, double y) const
     {
         desk.mouse.press(button);
+        // A motion in the same instant would be the server's before the press is anybody's.
+        desk.mouse.settle();
         for (int step = 0; step < 10; ++step)
             desk.mouse.move(x / 10, y / 10);
         desk.settle();

@@ -36,6 +36,7 @@ constexpr auto configuration = R"(<?xml version="1.0" encoding="UTF-8"?>
       <mousebind button="Left" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
       <mousebind button="Left" action="Drag"><action name="Move"/></mousebind>
       <mousebind button="Left" action="DoubleClick"><action name="ToggleMaximize"/></mousebind>
+      <mousebind button="Right" action="Press"><action name="ShowMenu"><menu>client-menu</menu></action></mousebind>
       <mousebind button="Up" action="Click"><action name="Shade"/></mousebind>
       <mousebind button="Down" action="Click"><action name="Unshade"/></mousebind>
     </context>
@@ -44,32 +45,18 @@ constexpr auto configuration = R"(<?xml version="1.0" encoding="UTF-8"?>
       <mousebind button="Middle" action="Press"><action name="Focus"/></mousebind>
       <mousebind button="Right" action="Press"><action name="Focus"/></mousebind>
     </context>
-    <context name="Root">
-      <mousebind button="Right" action="Press"><action name="ShowMenu"><menu>root-menu</menu></action></mousebind>
-    </context>
     <context name="Desktop">
       <mousebind button="Up" action="Click"><action name="GoToDesktop"><to>previous</to></action></mousebind>
       <mousebind button="Down" action="Click"><action name="GoToDesktop"><to>next</to></action></mousebind>
     </context>
   </mouse>
-  <menu><file>menu.xml</file></menu>
 </openbox_config>
-)";
-
-constexpr auto menu = R"(<?xml version="1.0" encoding="UTF-8"?>
-<openbox_menu xmlns="http://openbox.org/3.4/menu">
-  <menu id="root-menu" label="Desktop">
-    <item label="To the second desktop"><action name="GoToDesktop"><to>2</to></action></item>
-    <item label="To the third desktop"><action name="GoToDesktop"><to>3</to></action></item>
-  </menu>
-</openbox_menu>
 )";
 
 void configureWindowManager(const MouseDesk& desk)
 {
     const auto folder = desk.desktop.configFolder() / "openbox";
     write(folder / "rc.xml", configuration);
-    write(folder / "menu.xml", menu);
     run({.command = {"openbox", "--reconfigure"}}, timeToStart);
     const auto isRead = [&] {
         const auto area = desk.server.values(desk.server.root(), "_NET_WORKAREA");
@@ -119,8 +106,8 @@ std::string RecordedDesk::state()
         "Terminal: " + text(desk.windows.areaOf(terminal.window())) + " " + terminal.text(),
         "selected: " + selectedText(),
     };
-    for (const auto& menu : menus())
-        lines.push_back("menu: " + text(menu));
+    for (const auto& window : windowsOnScreen())
+        lines.push_back("on screen: " + text(window));
     for (const auto& line : one.lines())
         lines.push_back("One: " + line);
     for (const auto& line : two.lines())
@@ -136,7 +123,7 @@ std::string RecordedDesk::state()
     return all;
 }
 
-std::vector<ScreenArea> RecordedDesk::menus() const
+std::vector<ScreenArea> RecordedDesk::windowsOnScreen() const
 {
     const auto& server = desk.server;
     const XReply<xcb_query_tree_reply_t> tree(
@@ -149,8 +136,7 @@ std::vector<ScreenArea> RecordedDesk::menus() const
         const XReply<xcb_get_window_attributes_reply_t> attributes(xcb_get_window_attributes_reply(
             server.get(), xcb_get_window_attributes(server.get(), children[index]), nullptr));
         const auto area = desk.windows.areaOf(children[index]);
-        if (attributes && attributes->override_redirect
-            && attributes->map_state == XCB_MAP_STATE_VIEWABLE && area.x >= 0 && area.width > 1)
+        if (attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE)
             areas.push_back(area);
     }
     return areas;

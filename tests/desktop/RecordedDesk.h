@@ -37,8 +37,8 @@ private:
     std::string state();
     void waitUntilStill();
     std::vector<ScreenArea> places() const;
-    /// What is on the screen without a frame of the window manager.
-    std::vector<ScreenArea> menus() const;
+    /// Frames, menus and all else, from the lowest to the topmost.
+    std::vector<ScreenArea> windowsOnScreen() const;
     std::string titleOfActive() const;
     std::string selectedText() const;
 

@@ -75,35 +75,34 @@ const std::vector<Habit> habits{
             on.desk.keyboard.press(controlKey);
             on.desk.keyboard.press(altKey);
             on.stroke(rightKey);
+            on.note("next desktop, the keys still held");
             on.desk.keyboard.release(altKey);
             on.desk.keyboard.release(controlKey);
-            on.note("next desktop");
+            on.note("all let go");
         },
         "desktop: 1"},
     {"showDesktop",
         [](RecordedDesk& on) {
-            on.desk.keyboard.press(superKey);
-            on.stroke(keyD);
-            on.desk.keyboard.release(superKey);
-            on.note("shown");
-            on.desk.keyboard.press(superKey);
-            on.stroke(keyD);
-            on.desk.keyboard.release(superKey);
-            on.note("hidden");
+            for (const auto* heading : {"shown", "hidden"}) {
+                on.desk.keyboard.press(superKey);
+                on.stroke(keyD);
+                on.note(heading);
+                on.desk.keyboard.release(superKey);
+                on.note("let go");
+            }
         },
         "front: none"},
-    {"menuOfTheDesktop",
+    {"menuOfAWindow",
         [](RecordedDesk& on) {
-            on.movePointer(900, 600);
-            on.desk.mouse.press(rightButton);
+            on.movePointer(200, 110);
+            on.click(rightButton);
             on.note("open");
-            on.desk.mouse.release(rightButton);
-            on.desk.mouse.move(30, 32);
-            on.note("over the item");
+            on.desk.mouse.move(30, 70);
+            on.note("over an item");
             on.click(leftButton);
             on.note("chosen");
         },
-        "desktop: 1"},
+        "on screen: 201,111"},
     {"doubleClick",
         [](RecordedDesk& on) {
             on.movePointer(200, 110);
