@@ -127,6 +127,7 @@ const std::vector<Habit> habits{
             on.desk.windows.activate(on.terminal.window());
             for (int letter = 0; letter < 8; ++letter)
                 on.stroke(keyA);
+            on.note("typed");
             const auto area = on.desk.windows.areaOf(on.terminal.window());
             on.movePointer(area.x + 14, area.y + 8);
             on.click(leftButton, 2);
@@ -138,6 +139,7 @@ const std::vector<Habit> habits{
             on.desk.windows.activate(on.terminal.window());
             for (int letter = 0; letter < 3; ++letter)
                 on.stroke(keyA);
+            on.note("typed");
             const auto area = on.desk.windows.areaOf(on.terminal.window());
             on.movePointer(area.x + 10, area.y + 8);
             on.click(leftButton, 2);
