@@ -28,6 +28,9 @@ void AppLifecycleCoordinator::start()
     seedDefaults(platform_.defaults, shared_.preferences().keys());
     observeShowRequests();
     startInputSwitching();
+    shared_.mouseClickManager().start();
+    shared_.mouseGestureManager().start();
+    shared_.mouseScrollManager().start();
     isStarted_ = true;
     Log::notice("Brindlex launched", logCategory::lifecycle);
 }
@@ -36,6 +39,9 @@ void AppLifecycleCoordinator::stop()
 {
     Log::notice("Brindlex will terminate", logCategory::lifecycle);
     shared_.inputMethodSwitchCoordinator().dispatch(SwitchEvent::Stop{});
+    shared_.mouseClickManager().tearDown();
+    shared_.mouseGestureManager().tearDown();
+    shared_.mouseScrollManager().tearDown();
     showRequests_.reset();
 }
 

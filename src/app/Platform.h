@@ -1,17 +1,27 @@
 #pragma once
 
+#include "platform/AccessibilityTree.h"
 #include "platform/AppGroupContainer.h"
 #include "platform/ApplicationBundles.h"
+#include "platform/ApplicationOpening.h"
 #include "platform/BrowserPageReading.h"
 #include "platform/Clock.h"
+#include "platform/CursorReading.h"
+#include "platform/DisplayLink.h"
 #include "platform/DistributedNotifications.h"
+#include "platform/EventPermissions.h"
+#include "platform/EventPosting.h"
+#include "platform/EventTap.h"
 #include "platform/KeyboardInputSources.h"
 #include "platform/MainThread.h"
 #include "platform/OverlayPanel.h"
+#include "platform/ProcessLaunching.h"
+#include "platform/ProgramActivation.h"
 #include "platform/ProgramInstances.h"
 #include "platform/RunningApplications.h"
 #include "platform/UserDefaults.h"
 #include "platform/UserFolders.h"
+#include "platform/WindowList.h"
 
 namespace brindlex {
 
@@ -29,6 +39,16 @@ struct Platform {
     KeyboardInputSources& inputSources;
     BrowserPageReading& browserPages;
     OverlayPanel& overlayPanel;
+    ProgramActivation& activation;
+    EventPermissions& eventPermissions;
+    EventTapping& eventTapping;
+    EventPosting& eventPosting;
+    DisplayLink& displayLink;
+    CursorReading& cursor;
+    AccessibilityTree& accessibility;
+    WindowList& windows;
+    ProcessLaunching& processes;
+    ApplicationOpening& opening;
 };
 
 } // namespace brindlex

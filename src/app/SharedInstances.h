@@ -6,6 +6,14 @@
 #include "inputmethod/InputMethodConfigStore.h"
 #include "inputmethod/InputMethodSwitchCoordinator.h"
 #include "inputmethod/SmartInputMethodConfigStore.h"
+#include "mouse/GlobalEventTap.h"
+#include "mouse/MouseActionDispatcher.h"
+#include "mouse/MouseClickManager.h"
+#include "mouse/MouseConfigStore.h"
+#include "mouse/MouseGestureManager.h"
+#include "mouse/MouseResizeCursorDetector.h"
+#include "mouse/MouseScrollManager.h"
+#include "mouse/SpaceSwitcher.h"
 
 #include <memory>
 
@@ -22,9 +30,18 @@ public:
     SmartInputMethodConfigStore& smartInputMethodConfigStore();
     OverlayHUDController& overlayHUDController();
     InputMethodSwitchCoordinator& inputMethodSwitchCoordinator();
+    MouseConfigStore& mouseConfigStore();
+    GlobalEventTap& globalEventTap();
+    SpaceSwitcher& spaceSwitcher();
+    MouseActionDispatcher& mouseActionDispatcher();
+    MouseResizeCursorDetector& mouseResizeCursorDetector();
+    MouseClickManager& mouseClickManager();
+    MouseGestureManager& mouseGestureManager();
+    MouseScrollManager& mouseScrollManager();
 
 private:
     void reloadStores();
+    TapEnvironment tapEnvironment();
 
     Platform& platform_;
     Preferences preferences_;
@@ -32,6 +49,14 @@ private:
     std::unique_ptr<SmartInputMethodConfigStore> smartInputMethodConfigStore_;
     std::unique_ptr<OverlayHUDController> overlayHUDController_;
     std::unique_ptr<InputMethodSwitchCoordinator> inputMethodSwitchCoordinator_;
+    std::unique_ptr<MouseConfigStore> mouseConfigStore_;
+    std::unique_ptr<GlobalEventTap> globalEventTap_;
+    std::unique_ptr<SpaceSwitcher> spaceSwitcher_;
+    std::unique_ptr<MouseActionDispatcher> mouseActionDispatcher_;
+    std::unique_ptr<MouseResizeCursorDetector> mouseResizeCursorDetector_;
+    std::unique_ptr<MouseClickManager> mouseClickManager_;
+    std::unique_ptr<MouseGestureManager> mouseGestureManager_;
+    std::unique_ptr<MouseScrollManager> mouseScrollManager_;
     Subscription changesOfOthers_;
 };
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <compare>
 #include <cstdint>
 #include <map>
 #include <utility>
+#include <vector>
 
 namespace brindlex {
 
@@ -26,12 +28,25 @@ public:
     /// here, since the press came before the program did.
     bool released(DeviceIdentifier device, Kind kind, std::int64_t code);
 
+    /// Whether a press of the device waits for its release.
+    bool isOpen(DeviceIdentifier device, Kind kind, std::int64_t code) const;
+
+    struct Press {
+        Kind kind{};
+        std::int64_t code = 0;
+
+        auto operator<=>(const Press&) const = default;
+    };
+
+    /// Closes what a device that has gone has left open; answers the releases that have to go on
+    /// in its place.
+    std::vector<Press> forget(DeviceIdentifier device);
+
     /// Whether any press is open.
     bool isEmpty() const { return pressesThatWentOn_.empty(); }
 
 private:
-    using Press = std::pair<DeviceIdentifier, std::pair<Kind, std::int64_t>>;
-    std::map<Press, bool> pressesThatWentOn_;
+    std::map<std::pair<DeviceIdentifier, Press>, bool> pressesThatWentOn_;
 };
 
 } // namespace brindlex

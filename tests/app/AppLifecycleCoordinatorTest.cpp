@@ -1,10 +1,14 @@
 #include "app/AppLifecycleCoordinator.h"
 
+#include "platform/simulated/SimulatedMouse.h"
 #include "support/RecordedLog.h"
 #include "support/SimulatedDesktop.h"
 #include "support/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
+
+#include <sstream>
+#include <utility>
 
 namespace brindlex {
 namespace {
@@ -102,6 +106,27 @@ struct JournalledApplications : RunningApplications {
     Journal& journal_;
 };
 
+struct JournalledTapping : EventTapping {
+    explicit JournalledTapping(Journal& journal) : journal_(journal) { }
+    std::unique_ptr<EventTap> createTap(
+        EventMask mask, std::vector<EventInterest>, Handler) override
+    {
+        std::ostringstream entry;
+        entry << "tap 0x" << std::hex << mask;
+        journal_.note(entry.str());
+        return std::make_unique<Tap>(journal_);
+    }
+
+    struct Tap : EventTap {
+        explicit Tap(Journal& journal) : journal_(journal) { }
+        ~Tap() override { journal_.note("tap ends"); }
+        void setEnabled(bool) override { }
+        void setInterests(std::vector<EventInterest>) override { }
+        Journal& journal_;
+    };
+    Journal& journal_;
+};
+
 /// Notes log lines and prunings beside everything else.
 class JournalledLog : public LogSink {
 public:
@@ -131,9 +156,12 @@ struct Process {
     JournalledNotifications notifications{journal, desktop.notifications};
     JournalledInstances instances{journal, desktop.instances};
     JournalledApplications applications{journal};
+    JournalledTapping tapping{journal};
     Platform platform{desktop.mainThread, desktop.clock, defaults, desktop.userFolders, container,
         notifications, instances, applications, desktop.bundles, desktop.inputSources,
-        desktop.browserPages, desktop.overlayPanel};
+        desktop.browserPages, desktop.overlayPanel, desktop.activation, desktop.eventPermissions,
+        tapping, desktop.input, desktop.displayLink, desktop.cursor, desktop.accessibility,
+        desktop.windows, desktop.processes, desktop.opening};
     SharedInstances shared{platform};
     AppLifecycleCoordinator lifecycle{platform, shared};
 };
@@ -161,8 +189,20 @@ const std::vector<std::string> wholeStart{
     "set smartInputMethodConfig",
     "observe activations",
     "set smartInputMethodConfig",
+    "tap 0x6000000",
+    "tap ends",
+    "tap 0x6400000",
     "log NOTICE [lifecycle] Brindlex launched",
 };
+
+/// Drags of the left button to the right, and nothing else.
+MouseConfig leftGesture()
+{
+    MouseConfig config;
+    config.gesture.bindings.push_back(
+        {{}, MouseButton::left, {}, MouseDirection::right, MouseAction::Forward{}});
+    return config;
+}
 
 TEST(AppLifecycleCoordinator, startsEverythingInItsOrder)
 {
@@ -191,8 +231,73 @@ TEST(AppLifecycleCoordinator, stopsEverythingInItsOrder)
             "log NOTICE [lifecycle] Brindlex will terminate",
             "set smartInputMethodConfig",
             "observe activations no more",
+            "tap ends",
+            "tap 0x400000",
+            "tap ends",
             "observe no more",
         }));
+}
+
+TEST(AppLifecycleCoordinator, startsAndStopsClicksBeforeGesturesBeforeTheWheel)
+{
+    SimulatedSessionServices services;
+    Process process(services);
+    process.shared.preferences().write(&UserDefaultPreferenceKeys::mouseConfig, leftGesture());
+    const auto taps = [&] {
+        std::vector<std::string> made;
+        for (const auto& entry : std::exchange(process.journal.entries, {}))
+            if (entry.starts_with("tap 0x"))
+                made.push_back(entry);
+        return made;
+    };
+
+    process.lifecycle.start();
+    EXPECT_EQ(
+        taps(), (std::vector<std::string>{"tap 0x6000000", "tap 0x6000046", "tap 0x6400046"}));
+
+    process.lifecycle.stop();
+    EXPECT_EQ(taps(), (std::vector<std::string>{"tap 0x400046", "tap 0x400000"}));
+}
+
+TEST(AppLifecycleCoordinator, goesOnWithManagersThatMayNotStart)
+{
+    SimulatedSessionServices services;
+    SimulatedDesktop desktop(services);
+    RecordedLog log;
+    SharedInstances shared(desktop.platform);
+    AppLifecycleCoordinator lifecycle(desktop.platform, shared);
+    shared.preferences().write(&UserDefaultPreferenceKeys::mouseConfig, leftGesture());
+    desktop.eventPermissions.set(false);
+
+    lifecycle.start();
+
+    EXPECT_EQ(log.takeLines(),
+        (std::vector<std::string>{
+            "WARN [mouse] MouseClick: missing Accessibility or Input Monitoring permission; not "
+            "starting",
+            "WARN [mouse] MouseGesture: missing Accessibility or Input Monitoring permission; not "
+            "starting",
+            "WARN [mouse] MouseScroll: missing Accessibility or Input Monitoring permission; not "
+            "starting",
+            "NOTICE [lifecycle] Brindlex launched",
+        }));
+    EXPECT_EQ(desktop.input.tapMasks(), std::vector<EventMask>{});
+
+    desktop.eventPermissions.set(true);
+    desktop.mainThread.advance(2);
+    EXPECT_EQ(desktop.input.tapMasks(), std::vector<EventMask>{0x6400046});
+    EXPECT_EQ(log.takeLines(), std::vector<std::string>{});
+}
+
+TEST(AppLifecycleCoordinator, stopsWithoutHavingStarted)
+{
+    SimulatedSessionServices services;
+    Process process(services);
+
+    process.lifecycle.stop();
+
+    EXPECT_EQ(process.journal.entries.front(), "log NOTICE [lifecycle] Brindlex will terminate");
+    EXPECT_FALSE(process.shared.globalEventTap().isLive());
 }
 
 TEST(AppLifecycleCoordinator, wakesTheFirstInstanceAndStartsNothing)
@@ -298,6 +403,51 @@ TEST(AppLifecycleCoordinator, followsRulesThatAnotherProcessWrites)
     EXPECT_EQ(shared.inputMethodConfigStore().config().value(), config);
     EXPECT_EQ(
         shared.inputMethodSwitchCoordinator().state().lifecycle, SwitchState::Lifecycle::stopped);
+}
+
+TEST(AppLifecycleCoordinator, followsMouseSettingsThatAnotherProcessWrites)
+{
+    SimulatedSessionServices services;
+    SimulatedDesktop desktop(services);
+    RecordedLog log;
+    SharedInstances shared(desktop.platform);
+    AppLifecycleCoordinator lifecycle(desktop.platform, shared);
+    lifecycle.start();
+    auto config = leftGesture();
+    config.click.enabled = false;
+    config.scroll.invertVertical = true;
+
+    shared.preferences().write(&UserDefaultPreferenceKeys::mouseConfig, config);
+    desktop.mainThread.runUntilIdle();
+
+    EXPECT_EQ(shared.mouseConfigStore().config().value(), config);
+    EXPECT_EQ(desktop.input.tapMasks(), std::vector<EventMask>{0x400046});
+    SimulatedMouse mouse(desktop.input);
+    EXPECT_EQ(mouse.scroll(1), EventVerdict::swallow);
+    ASSERT_EQ(desktop.input.delivered().size(), 1U);
+    EXPECT_EQ(desktop.input.delivered()[0].value(EventField::scrollWheelEventPointDeltaAxis1), -10);
+}
+
+TEST(AppLifecycleCoordinator, startsWithDefaultsWhereTheMouseSettingsAreDamaged)
+{
+    SimulatedSessionServices services;
+    SimulatedDesktop desktop(services);
+    RecordedLog log;
+    SharedInstances shared(desktop.platform);
+    AppLifecycleCoordinator lifecycle(desktop.platform, shared);
+    const std::string damaged = R"({"value":{"click":{"enabled":true,"bindings":[{}]}}})";
+    desktop.defaults.set("mouseConfig", damaged);
+
+    lifecycle.start();
+
+    EXPECT_EQ(log.lines(),
+        (std::vector<std::string>{
+            "WARN [lifecycle] The preference \"mouseConfig\" cannot be read; the default applies",
+            "NOTICE [lifecycle] Brindlex launched",
+        }));
+    EXPECT_EQ(shared.mouseConfigStore().config().value(), MouseConfig{});
+    EXPECT_EQ(desktop.defaults.value("mouseConfig"), PreferenceValue(damaged));
+    EXPECT_EQ(desktop.input.tapMasks(), std::vector<EventMask>{0x6400000});
 }
 
 } // namespace

@@ -199,6 +199,21 @@ TEST(ConfigurationStore, fallsBackToTheDefaultWhenAnotherRemovesTheRecord)
     EXPECT_EQ(store.config().value(), MouseScrollConfig{});
 }
 
+TEST(ConfigurationStore, saysThatTheStoredRecordCannotBeReadAndLeavesIt)
+{
+    RecordedLog log;
+    SimulatedUserDefaults defaults;
+    defaults.set("scroll", "{\"smoothDuration\":");
+
+    const Store store(defaults, key);
+
+    EXPECT_EQ(store.config().value(), MouseScrollConfig{});
+    EXPECT_EQ(defaults.value("scroll"), PreferenceValue("{\"smoothDuration\":"));
+    EXPECT_EQ(log.lines(),
+        std::vector<std::string>{
+            "WARN [lifecycle] The preference \"scroll\" cannot be read; the default applies"});
+}
+
 TEST(ConfigurationStore, keepsThePresentRecordWhileTheStoredOneCannotBeRead)
 {
     RecordedLog log;

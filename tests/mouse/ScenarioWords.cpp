@@ -3,6 +3,7 @@
 #include "foundation/FatalError.h"
 #include "foundation/Text.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -32,6 +33,17 @@ constexpr std::array buttonNames{
 [[noreturn]] void notAWord(const std::string& text)
 {
     fatalError("A scenario says \"" + text + "\"");
+}
+
+/// Takes "with command+shift" off the end.
+std::uint64_t takeFlags(Words& words)
+{
+    const auto with = std::ranges::find(words, "with");
+    if (with == words.end())
+        return 0;
+    const auto held = flags(*(with + 1));
+    words.erase(with, words.end());
+    return held;
 }
 
 std::string rest(const Words& words, std::size_t from)
@@ -219,6 +231,37 @@ bool change(MouseConfig& config, const Words& words)
     } else {
         return false;
     }
+    return true;
+}
+
+std::optional<Deed> deed(Words words)
+{
+    constexpr std::array kinds{std::pair{"down", Deed::Kind::down}, std::pair{"up", Deed::Kind::up},
+        std::pair{"drag", Deed::Kind::drag}, std::pair{"wheel", Deed::Kind::wheel},
+        std::pair{"pixels", Deed::Kind::pixels}};
+    const auto kind
+        = std::ranges::find(kinds, words.at(0), [](const auto& entry) { return entry.first; });
+    if (kind == kinds.end())
+        return {};
+    Deed result;
+    result.kind = kind->second;
+    result.flags = takeFlags(words);
+    if (result.kind == Deed::Kind::wheel || result.kind == Deed::Kind::pixels) {
+        result.vertical = static_cast<std::int64_t>(number(words.at(1)));
+        result.horizontal = words.size() > 2 ? static_cast<std::int64_t>(number(words[2])) : 0;
+        return result;
+    }
+    result.button = storedValue(press(words.at(1)).button);
+    if (words.size() > 2 || result.kind == Deed::Kind::drag)
+        result.location = point(words.at(2));
+    return result;
+}
+
+bool takeSecondMouse(Words& words)
+{
+    if (words.at(0) != "mouse2")
+        return false;
+    words.erase(words.begin());
     return true;
 }
 

@@ -1,3 +1,4 @@
+#include "support/AccessibleProgram.h"
 #include "support/FakeBrowser.h"
 
 #include <cstdlib>
@@ -14,7 +15,6 @@ using Behaviour = FakeBrowser::Behaviour;
 using namespace std::chrono_literals;
 
 constexpr auto objects = "/org/a11y/atspi/accessible/";
-constexpr auto root = "/org/a11y/atspi/accessible/root";
 
 /// The program behind `FakeBrowser`: reads its offer anew at each question.
 struct Program {
@@ -144,41 +144,14 @@ struct Program {
     }
 };
 
-/// The accessibility bus, as its launcher on the session bus names it.
-sd_bus* accessibilityBus()
-{
-    sd_bus* session = nullptr;
-    sd_bus_message* answer = nullptr;
-    const char* address = nullptr;
-    sd_bus* bus = nullptr;
-    if (sd_bus_open_user(&session) < 0
-        || sd_bus_call_method(session, "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus",
-               "GetAddress", nullptr, &answer, "")
-            < 0
-        || sd_bus_message_read(answer, "s", &address) < 0 || sd_bus_new(&bus) < 0
-        || sd_bus_set_address(bus, address) < 0 || sd_bus_set_bus_client(bus, 1) < 0
-        || sd_bus_start(bus) < 0)
-        return nullptr;
-    return bus;
-}
-
 int runProgram(const std::string& folder)
 {
-    auto* bus = accessibilityBus();
-    const char* service = nullptr;
-    if (!bus || sd_bus_get_unique_name(bus, &service) < 0)
+    AccessibleProgram bus;
+    if (!bus.isConnected())
         return 1;
-    Program program{.folder = folder, .service = service, .windows = {}};
-    sd_bus_add_filter(bus, nullptr, Program::take, &program);
-    if (sd_bus_call_method(bus, "org.a11y.atspi.Registry", root, "org.a11y.atspi.Socket", "Embed",
-            nullptr, nullptr, "(so)", service, root)
-        < 0)
-        return 2;
-    std::ofstream(folder + "/ready") << "ready";
-    while (sd_bus_process(bus, nullptr) >= 0)
-        if (sd_bus_wait(bus, UINT64_MAX) < 0)
-            return 3;
-    return 0;
+    Program program{.folder = folder, .service = bus.service(), .windows = {}};
+    sd_bus_add_filter(bus.get(), nullptr, Program::take, &program);
+    return bus.run(folder);
 }
 
 } // namespace

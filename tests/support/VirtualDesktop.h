@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace brindlex {
 
@@ -18,6 +19,10 @@ namespace brindlex {
 /// cannot be made ends the process with the reason. One at a time, on the main thread.
 class VirtualDesktop {
 public:
+    /// What the screen is made of. `withoutHardware` needs no rights; `withPlayedHardware` has mice
+    /// and a keyboard that `PlayedHardware` plays, and runs for the superuser only.
+    enum class Server { withoutHardware, withPlayedHardware };
+
     struct Options {
         int width = 1280;
         int height = 800;
@@ -27,6 +32,7 @@ public:
         bool sessionBus = true;
         /// Whether programs started here offer themselves to assistive technology.
         bool accessibility = false;
+        Server server = Server::withoutHardware;
     };
 
     VirtualDesktop();
@@ -43,6 +49,11 @@ public:
     std::filesystem::path runtimeFolder() const { return folder_.path() / "run"; }
     /// Where the processes of the desktop leave what they print.
     std::filesystem::path outputFolder() const { return folder_.path() / "output"; }
+    /// The socket at which a device of the hardware takes what is played, by its name.
+    std::filesystem::path hardwareSocket(const std::string& device) const
+    {
+        return runtimeFolder() / (device + ".sock");
+    }
     /// The server's name, such as `:7`.
     const std::string& display() const { return display_; }
 
@@ -63,6 +74,8 @@ public:
 private:
     void makeFolders();
     void startDisplayServer(const Options& options);
+    std::vector<std::string> displayServerCommand(const Options& options) const;
+    std::string displayServerConfiguration(const Options& options) const;
     void startSessionBus();
     void startWindowManager();
     void allowAccessibility();

@@ -18,9 +18,15 @@ LinuxPlatform::LinuxPlatform(
       applications_(display_, activeWindow_, desktopEntries_), bundles_(desktopEntries_),
       inputSources_(display_, sessionBus_.connection()), browserQueue_("Brindlex.AX"),
       browserPages_(mainThread_, clock, browserQueue_, [this] { return activeWindow_.current(); }),
-      overlayPanel_(display_), abilities_{mainThread_, clock, defaults_, userFolders, container,
-                                   notifications_, instances_, applications_, bundles_,
-                                   inputSources_, browserPages_, overlayPanel_}
+      overlayPanel_(display_), input_(mainThread_, clock), eventPermissions_(input_, defaults_),
+      eventTapping_(input_), eventPosting_(input_, mainThread_, clock),
+      displayLink_(display_, mainThread_, clock), cursor_(display_), elementQueue_("Brindlex.Elem"),
+      accessibility_(display_, elementQueue_), windows_(display_),
+      opening_(display_), abilities_{mainThread_, clock, defaults_, userFolders, container,
+                              notifications_, instances_, applications_, bundles_, inputSources_,
+                              browserPages_, overlayPanel_, activation_, eventPermissions_,
+                              eventTapping_, eventPosting_, displayLink_, cursor_, accessibility_,
+                              windows_, processes_, opening_}
 {
 }
 

@@ -1,10 +1,9 @@
 #include "platform/linux/AccessibilityBus.h"
 
 #include "app/Log.h"
+#include "platform/linux/AccessibilityReply.h"
 
-#include <QDBusArgument>
 #include <QDBusMessage>
-#include <QDBusVariant>
 #include <algorithm>
 #include <atomic>
 
@@ -29,49 +28,6 @@ QString nextConnectionName()
 {
     static std::atomic<unsigned> count = 0;
     return QStringLiteral("brindlex-accessibility-%1").arg(++count);
-}
-
-/// The container in a reply, or nothing when it has not exactly the signature: `QDBusArgument`
-/// does not protect itself against being read as something that it is not.
-std::optional<QDBusArgument> container(const QVariant& value, const char* signature)
-{
-    if (value.metaType() != QMetaType::fromType<QDBusArgument>())
-        return {};
-    auto argument = value.value<QDBusArgument>();
-    if (argument.currentSignature() != QLatin1String(signature))
-        return {};
-    return argument;
-}
-
-/// Reads a list of references up to the limit.
-std::vector<AccessibleObject> objects(const QDBusArgument& argument)
-{
-    std::vector<AccessibleObject> found;
-    argument.beginArray();
-    while (!argument.atEnd() && found.size() < AccessibilityBus::mostListEntries) {
-        QString service;
-        QDBusObjectPath path;
-        argument.beginStructure();
-        argument >> service >> path;
-        argument.endStructure();
-        found.push_back({service, path.path()});
-    }
-    argument.endArray();
-    return found;
-}
-
-AccessibilityAnswer<QString> text(const QVariant& value)
-{
-    if (value.metaType() != QMetaType::fromType<QString>())
-        return fail(AccessibilityProblem::refused);
-    return value.toString();
-}
-
-QVariant unpacked(const QVariant& value)
-{
-    return value.metaType() == QMetaType::fromType<QDBusVariant>()
-        ? value.value<QDBusVariant>().variant()
-        : value;
 }
 
 QDBusMessage question(const QString& service, const QString& path, const QString& interface,
@@ -107,8 +63,8 @@ bool AccessibleObject::isNull() const
     return service.isEmpty() || path.isEmpty() || path == nullPath;
 }
 
-AccessibilityBus::AccessibilityBus(const AccessibilityLimits& limits)
-    : limits_(limits), connectionName_(nextConnectionName()),
+AccessibilityBus::AccessibilityBus(const AccessibilityLimits& limits, const Loss& loss)
+    : limits_(limits), loss_(loss), connectionName_(nextConnectionName()),
       sessionConnectionName_(connectionName_ + QStringLiteral("-session")),
       connection_(connectionName_)
 {
@@ -120,10 +76,10 @@ AccessibilityBus::~AccessibilityBus()
     QDBusConnection::disconnectFromBus(sessionConnectionName_);
 }
 
-bool AccessibilityBus::begin()
+bool AccessibilityBus::begin(std::optional<std::chrono::milliseconds> time)
 {
     const bool isThere = connection_.isConnected() || connect();
-    deadline_ = Clock::now() + limits_.perReading;
+    deadline_ = Clock::now() + time.value_or(limits_.perReading);
     return isThere;
 }
 
@@ -134,7 +90,7 @@ bool AccessibilityBus::connect()
     if (found)
         connection_ = QDBusConnection::connectToBus(*found, connectionName_);
     if (!found || !connection_.isConnected()) {
-        logOnce(isAbsenceLogged_, "No accessibility bus: the pages of browsers are unknown");
+        logOnce(isAbsenceLogged_, std::string("No accessibility bus: ") + loss_.withoutBus);
         return false;
     }
     isAbsenceLogged_ = false;
@@ -162,8 +118,7 @@ std::optional<QString> AccessibilityBus::address()
             QDBus::Block, static_cast<int>(timeForAddress.count()));
     const auto flag = unpacked(isEnabled.arguments().value(0));
     if (flag.metaType() == QMetaType::fromType<bool>() && !flag.toBool())
-        logOnce(isDisabledLogged_,
-            "Accessibility is off: the pages of browsers started meanwhile are unknown");
+        logOnce(isDisabledLogged_, std::string("Accessibility is off: ") + loss_.whileOff);
     QDBusConnection::disconnectFromBus(sessionConnectionName_);
     return *found;
 }
@@ -276,10 +231,10 @@ AccessibilityAnswer<QVariant> AccessibilityBus::ask(const AccessibleObject& obje
     return fail(isLate ? AccessibilityProblem::noAnswer : AccessibilityProblem::refused);
 }
 
-void AccessibilityBus::logOnce(bool& isLogged, const char* message)
+void AccessibilityBus::logOnce(bool& isLogged, const std::string& message) const
 {
     if (!std::exchange(isLogged, true))
-        Log::info(message, logCategory::inputMethod);
+        Log::info(message, loss_.category);
 }
 
 } // namespace brindlex

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/Log.h"
 #include "foundation/Result.h"
 #include "platform/linux/AccessibilityLimits.h"
 
@@ -9,6 +10,8 @@
 #include <chrono>
 #include <cstdint>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <vector>
 
 namespace brindlex {
@@ -45,13 +48,25 @@ class AccessibilityBus {
 public:
     static constexpr std::size_t mostListEntries = 256;
 
-    explicit AccessibilityBus(const AccessibilityLimits& limits = {});
+    /// What the user is without when the bus does not help, in the words of the log.
+    struct Loss {
+        const char* withoutBus = "the pages of browsers are unknown";
+        const char* whileOff = "the pages of browsers started meanwhile are unknown";
+        std::string_view category = logCategory::inputMethod;
+    };
+
+    AccessibilityBus(const AccessibilityLimits& limits, const Loss& loss);
+    explicit AccessibilityBus(const AccessibilityLimits& limits = {})
+        : AccessibilityBus(limits, Loss{})
+    {
+    }
     ~AccessibilityBus();
     AccessibilityBus(const AccessibilityBus&) = delete;
     AccessibilityBus& operator=(const AccessibilityBus&) = delete;
 
-    /// Begins a reading: connects where needed, and the time starts. False when there is no bus.
-    bool begin();
+    /// Begins a reading: connects where needed, and the time starts, that of the limits unless
+    /// another is given. False when there is no bus.
+    bool begin(std::optional<std::chrono::milliseconds> time = std::nullopt);
 
     /// The programs on the bus.
     AccessibilityAnswer<std::vector<AccessibleObject>> applications();
@@ -73,14 +88,17 @@ public:
     AccessibilityAnswer<QString> documentAttribute(
         const AccessibleObject& document, const QString& attribute);
 
+    /// The first value of the answer to any question; see `AccessibilityReply` for taking it apart.
+    AccessibilityAnswer<QVariant> ask(const AccessibleObject& object, const QString& interface,
+        const QString& member, const QVariantList& arguments = {});
+
 private:
     bool connect();
     std::optional<QString> address();
-    AccessibilityAnswer<QVariant> ask(const AccessibleObject& object, const QString& interface,
-        const QString& member, const QVariantList& arguments = {});
-    void logOnce(bool& isLogged, const char* message);
+    void logOnce(bool& isLogged, const std::string& message) const;
 
     const AccessibilityLimits limits_;
+    const Loss loss_;
     const QString connectionName_;
     const QString sessionConnectionName_;
     QDBusConnection connection_;

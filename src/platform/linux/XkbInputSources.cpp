@@ -34,15 +34,11 @@ std::vector<XkbLayout> layoutsOf(const std::string& rulesNames)
 XkbInputSources::XkbInputSources(X11Connection& connection, XkbRegistry& registry)
     : connection_(connection), registry_(registry)
 {
-    const auto* extension = xcb_get_extension_data(connection_.get(), &xcb_xkb_id);
-    if (!connection_.isAlive() || !extension || !extension->present)
-        return;
-    const X11Message<xcb_xkb_use_extension_reply_t> answer(xcb_xkb_use_extension_reply(
-        connection_.get(), xcb_xkb_use_extension(connection_.get(), 1, 0), nullptr));
-    hasExtension_ = answer && answer->supported;
+    const auto firstEvent = connection_.isAlive() ? useXkb(connection_.get()) : std::nullopt;
+    hasExtension_ = firstEvent.has_value();
     if (!hasExtension_)
         return;
-    firstEvent_ = extension->first_event;
+    firstEvent_ = *firstEvent;
     listen();
     readGroup();
 }

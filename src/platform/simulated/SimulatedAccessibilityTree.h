@@ -47,10 +47,12 @@ public:
     std::shared_ptr<AccessibilityElement> elementAt(Point point, Seconds timeout) override
     {
         questions.emplace_back(point, timeout);
-        return element;
+        return latency > timeout ? nullptr : element;
     }
 
     std::shared_ptr<SimulatedElement> element{};
+    /// How long it takes to find the element.
+    Seconds latency = 0;
     std::vector<std::pair<Point, Seconds>> questions{};
 };
 

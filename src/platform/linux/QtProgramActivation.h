@@ -1,0 +1,23 @@
+#pragma once
+
+#include "foundation/Subscribers.h"
+#include "platform/ProgramActivation.h"
+
+#include <QObject>
+
+namespace brindlex {
+
+/// The program is active while one of its windows has the focus. Made after the application object.
+class QtProgramActivation : public ProgramActivation {
+public:
+    QtProgramActivation();
+
+    bool isActive() const override;
+    Subscription observeDidBecomeActive(std::function<void()> handler) override;
+
+private:
+    QObject context_;
+    Subscribers<std::function<void()>> observers_;
+};
+
+} // namespace brindlex

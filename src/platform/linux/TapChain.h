@@ -1,0 +1,52 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/EventTap.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace brindlex {
+
+/// The taps of the process in the order in which they see events: the newest first. A tap that
+/// swallows an event keeps it from those behind it. The chain outlives its taps. Main thread only.
+class TapChain {
+public:
+    /// The user feels an input that hesitates, and one that is lost even more: an answer that took
+    /// longer than this lets the event pass.
+    static constexpr Seconds patience = 0.15;
+
+    explicit TapChain(const Clock& clock) : clock_(clock) { }
+    ~TapChain();
+    TapChain(const TapChain&) = delete;
+    TapChain& operator=(const TapChain&) = delete;
+
+    /// Adds a tap in front of the others; `changed` is called whenever `interests` may have.
+    std::unique_ptr<EventTap> add(EventMask mask, std::vector<EventInterest> interests,
+        EventTapping::Handler handler, std::function<void()> changed);
+
+    /// Whether a tap that is switched on sees events of any of these types.
+    bool sees(EventMask types) const;
+
+    /// What the taps that are switched on want.
+    std::vector<EventInterest> interests() const;
+
+    /// Shows the event to the taps.
+    EventVerdict offer(const Event& event) const;
+
+    /// Whether an event is being shown at this moment.
+    bool isOffering() const { return isOffering_; }
+
+    /// Switches those off that are on, and tells them why.
+    void switchOff(EventType reason);
+
+private:
+    class Tap;
+
+    const Clock& clock_;
+    std::vector<Tap*> taps_;
+    mutable bool isOffering_ = false;
+};
+
+} // namespace brindlex

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstdint>
+
+namespace brindlex {
+
+/// What the program tells its watchdog, one message per packet. The watchdog asks back with an
+/// empty order, and wants `alive` for an answer.
+struct WatchdogMessage {
+    enum class Order : std::uint32_t {
+        ask,
+        /// Input is taken through the connection of the window, and may have to be given back.
+        watch,
+        /// Nothing is taken.
+        rest,
+        alive,
+        /// The program ends and has tidied up.
+        dismiss,
+    };
+
+    Order order{};
+    std::uint32_t window = 0;
+};
+
+/// The descriptor at which the watchdog finds its end of the connection.
+constexpr int watchdogDescriptor = 3;
+
+} // namespace brindlex

@@ -1,0 +1,92 @@
+#include "platform/linux/X11InputStream.h"
+
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+/// How long to wait for a device that another program holds, and for a server that does not answer.
+constexpr Seconds timeToRetryDevices = 0.05;
+constexpr Seconds timeToReconnect = 1;
+
+} // namespace
+
+X11InputStream::X11InputStream(MainThread& mainThread, const Clock& clock, Options options)
+    : mainThread_(mainThread), options_(std::move(options)), taps_(clock),
+      watchdog_(options_.watchdog, options_.display)
+{
+}
+
+X11InputStream::~X11InputStream() { watchdog_.dismiss(); }
+
+void X11InputStream::wantsChanged()
+{
+    nextApplication_ = mainThread_.after(0, [this] { applyWants(); });
+}
+
+X11TapSession* X11InputStream::session()
+{
+    if (session_)
+        return session_->isUsable() ? session_.get() : nullptr;
+    auto session = std::make_unique<X11TapSession>(options_.display, taps_,
+        X11TapSession::Hooks{.eventDone = [this] { runWaiting(); },
+            .grabsMayChange = [this] { wantsChanged(); },
+            .ended
+            = [this] { nextReconnection_ = mainThread_.after(0, [this] { sessionEnded(); }); }});
+    if (session->isUsable()) {
+        session_ = std::move(session);
+        ++sessionCount_;
+    }
+    return session_.get();
+}
+
+void X11InputStream::inTurn(std::function<void()> work)
+{
+    waiting_.push_back(std::move(work));
+    runWaiting();
+}
+
+void X11InputStream::applyWants()
+{
+    const auto interests = taps_.interests();
+    const auto demand = demandOf(interests);
+    if (demand.isNothing() && !session_)
+        return;
+    auto* const session = this->session();
+    if (!session)
+        return;
+    // Before anything is taken there is somebody who can give it back.
+    if (!demand.isNothing())
+        watchdog_.watch(session->handle());
+    const bool isDone = session->apply(demand);
+    if (!isDone)
+        nextApplication_ = mainThread_.after(timeToRetryDevices, [this] { applyWants(); });
+    if (session->takesNothing())
+        watchdog_.rest();
+}
+
+void X11InputStream::runWaiting()
+{
+    if (taps_.isOffering() || isRunningWaiting_)
+        return;
+    isRunningWaiting_ = true;
+    while (!waiting_.empty()) {
+        const auto work = std::move(waiting_.front());
+        waiting_.pop_front();
+        work();
+    }
+    isRunningWaiting_ = false;
+}
+
+void X11InputStream::sessionEnded()
+{
+    session_.reset();
+    watchdog_.rest();
+    if (!session()) {
+        nextReconnection_ = mainThread_.after(timeToReconnect, [this] { sessionEnded(); });
+        return;
+    }
+    taps_.switchOff(EventType::tapDisabledByTimeout);
+}
+
+} // namespace brindlex

@@ -1,0 +1,142 @@
+#include "desktop/MouseDesk.h"
+
+#include "app/UserDefaultsStorageBox.h"
+#include "foundation/FatalError.h"
+#include "support/ProcessTable.h"
+
+#include <algorithm>
+#include <xcb/xinput.h>
+
+namespace brindlex {
+namespace {
+
+using namespace std::chrono_literals;
+
+/// How long nothing further must come for what came to be all.
+constexpr auto longEnough = 150ms;
+/// A program that sleeps this long waits for no answer but for the user.
+constexpr auto restful = 40ms;
+
+} // namespace
+
+MouseDesk::MouseDesk(const std::string& keyboardLayouts)
+    : desktop(
+        {.keyboardLayouts = keyboardLayouts, .server = VirtualDesktop::Server::withPlayedHardware})
+{
+    const XReply<xcb_input_xi_query_version_reply_t> version(xcb_input_xi_query_version_reply(
+        server.get(), xcb_input_xi_query_version(server.get(), 2, 2), nullptr));
+    if (!version)
+        fatalError("The X server has no second version of its input");
+    // Without acceleration what is played says where the pointer ends, however fast it is played.
+    constexpr int asItIs = 1;
+    xcb_change_pointer_control(server.get(), asItIs, asItIs, 0, true, true);
+    server.sync();
+    // The driver answers for what was played once anything was.
+    mouse.move(1, 0);
+    mouse.settle();
+}
+
+void MouseDesk::set(const MouseConfig& config) const
+{
+    setPreference("mouseConfig", UserDefaultsStorageBox<MouseConfig>{config}.rawValue());
+}
+
+void MouseDesk::setPreference(const std::string& key, const nlohmann::json& value) const
+{
+    auto preferences = files.readPreferences();
+    if (!preferences.is_object())
+        preferences = nlohmann::json::object();
+    preferences[key] = value;
+    files.writePreferences(preferences);
+}
+
+void MouseDesk::start(const MouseConfig& config)
+{
+    set(config);
+    program.emplace(desktop);
+    if (!program->launches())
+        fatalError("The program did not launch.\n" + program->report());
+    settle();
+}
+
+void MouseDesk::settle() const
+{
+    for (const PlayedDevice* device :
+        std::initializer_list<const PlayedDevice*>{&mouse, &secondMouse, &keyboard})
+        device->settle();
+    const auto rests = [this] {
+        if (!program || !program->child().isRunning())
+            return true;
+        const auto before = timesAsleep(program->process());
+        return before
+            && throughout(restful, [&] { return timesAsleep(program->process()) == before; });
+    };
+    eventually(rests);
+    server.sync();
+}
+
+bool MouseDesk::receives(EventLogWindow& window, const Lines& expected) const
+{
+    return eventually([&] { return window.lines().size() >= expected.size(); })
+        && throughout(longEnough, [&] { return window.lines() == expected; });
+}
+
+std::uint32_t MouseDesk::currentDesktop() const
+{
+    const auto values = server.values(server.root(), "_NET_CURRENT_DESKTOP");
+    return values.empty() ? 0 : values.front();
+}
+
+bool MouseDesk::showsDesktop(std::uint32_t number) const
+{
+    return eventually([&] { return currentDesktop() == number; });
+}
+
+bool MouseDesk::isAnyDeviceTaken() const
+{
+    const XReply<xcb_input_xi_query_device_reply_t> reply(xcb_input_xi_query_device_reply(
+        server.get(), xcb_input_xi_query_device(server.get(), XCB_INPUT_DEVICE_ALL), nullptr));
+    if (!reply)
+        return false;
+    for (auto devices = xcb_input_xi_query_device_infos_iterator(reply.get()); devices.rem;
+         xcb_input_xi_device_info_next(&devices))
+        if (devices.data->type == XCB_INPUT_DEVICE_TYPE_FLOATING_SLAVE)
+            return true;
+    return false;
+}
+
+bool MouseDesk::givesDevicesBack() const
+{
+    return eventually([this] { return !isAnyDeviceTaken(); });
+}
+
+MouseGestureBinding gesture(
+    MouseButton button, ModifierSet modifiers, MouseDirection direction, MouseAction::Any action)
+{
+    return {Uuid::random(), button, modifiers, direction, std::move(action)};
+}
+
+MouseClickBinding click(MouseButton button, ModifierSet modifiers, MouseAction::Any action)
+{
+    return {Uuid::random(), button, modifiers, std::move(action)};
+}
+
+MouseConfig everything()
+{
+    MouseConfig config;
+    config.gesture.bindings = {
+        gesture(MouseButton::button4, {}, MouseDirection::left, MouseAction::Back{}),
+        gesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{}),
+        gesture(MouseButton::button4, {}, MouseDirection::up, MouseAction::SwitchSpaceRight{}),
+        gesture(MouseButton::button4, {}, MouseDirection::down, MouseAction::SwitchSpaceLeft{}),
+        gesture(MouseButton::left, ModifierSet::command, MouseDirection::up,
+            MouseAction::MissionControl{}),
+    };
+    config.click.bindings
+        = {click(MouseButton::button3, ModifierSet::command, MouseAction::ShowDesktop{})};
+    config.scroll.smoothEnabled = true;
+    config.scroll.smoothDuration = 0.05;
+    return config;
+}
+
+} // namespace brindlex

@@ -1,0 +1,99 @@
+#include "platform/EventPermissions.h"
+
+#include "platform/linux/X11EventPermissions.h"
+#include "platform/posix/PosixClock.h"
+#include "platform/simulated/SimulatedEventPermissions.h"
+#include "platform/simulated/SimulatedMainThread.h"
+#include "platform/simulated/SimulatedUserDefaults.h"
+#include "support/VirtualDesktop.h"
+
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+class SimulatedUser {
+public:
+    EventPermissions& permissions() { return permissions_; }
+    void allowAccessibility(bool allows)
+    {
+        permissions_.isTrusted = allows;
+        permissions_.tell();
+    }
+    void allowInputMonitoring(bool allows)
+    {
+        permissions_.canListen = allows;
+        permissions_.tell();
+    }
+
+private:
+    SimulatedEventPermissions permissions_;
+};
+
+/// A user at an X server.
+class UserOfX11 {
+public:
+    EventPermissions& permissions() { return permissions_; }
+    void allowAccessibility(bool allows) { set("allowsAccessibility", allows); }
+    void allowInputMonitoring(bool allows) { set("allowsInputMonitoring", allows); }
+
+private:
+    void set(const std::string& key, bool allows) { defaults_.set(key, allows); }
+
+    VirtualDesktop desktop_{{.windowManager = false, .sessionBus = false}};
+    PosixClock clock_;
+    SimulatedClock time_;
+    SimulatedMainThread mainThread_{time_};
+    SimulatedUserDefaults defaults_;
+    X11InputStream stream_{mainThread_, clock_};
+    X11EventPermissions permissions_{stream_, defaults_};
+};
+
+template <typename User>
+class EventPermissionsTest : public testing::Test {
+protected:
+    EventPermissionState ask() { return EventPermissionState::ask(user.permissions()); }
+
+    User user;
+    int told = 0;
+    Subscription observation = user.permissions().observeAccessibilityChanges([this] { ++told; });
+};
+
+using Users = testing::Types<SimulatedUser, UserOfX11>;
+TYPED_TEST_SUITE(EventPermissionsTest, Users);
+
+TYPED_TEST(EventPermissionsTest, areGrantedUnlessTheUserForbids)
+{
+    EXPECT_EQ(this->ask(), (EventPermissionState{true, true}));
+    EXPECT_EQ(this->told, 0);
+}
+
+TYPED_TEST(EventPermissionsTest, areAskedForAnewEachTime)
+{
+    this->user.allowAccessibility(false);
+    EXPECT_EQ(this->ask(), (EventPermissionState{false, true}));
+    this->user.allowAccessibility(true);
+    this->user.allowInputMonitoring(false);
+    EXPECT_EQ(this->ask(), (EventPermissionState{true, false}));
+    this->user.allowInputMonitoring(true);
+    EXPECT_EQ(this->ask(), (EventPermissionState{true, true}));
+}
+
+TYPED_TEST(EventPermissionsTest, tellOfAChange)
+{
+    this->user.allowAccessibility(false);
+    EXPECT_EQ(this->told, 1);
+    this->user.allowAccessibility(true);
+    EXPECT_EQ(this->told, 2);
+}
+
+TYPED_TEST(EventPermissionsTest, tellNobodyWhoHasEndedTheSubscription)
+{
+    this->observation.reset();
+    this->user.allowAccessibility(false);
+
+    EXPECT_EQ(this->told, 0);
+}
+
+} // namespace
+} // namespace brindlex

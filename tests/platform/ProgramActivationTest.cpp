@@ -1,0 +1,86 @@
+#include "platform/ProgramActivation.h"
+
+#include "platform/linux/QtProgramActivation.h"
+#include "platform/simulated/SimulatedProgramActivation.h"
+#include "support/DesktopWindows.h"
+#include "support/LoopUntil.h"
+#include "support/PlainWindow.h"
+
+#include <QWindow>
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+class SimulatedFocus {
+public:
+    ProgramActivation& activation() { return activation_; }
+    void takeFocus() { activation_.becomeActive(); }
+    void loseFocus() { activation_.resignActive(); }
+    bool until(const std::function<bool()>& condition) { return condition(); }
+
+private:
+    SimulatedProgramActivation activation_;
+};
+
+/// A window of this program beside one of another.
+class RealFocus {
+public:
+    RealFocus()
+    {
+        window_.setGeometry(100, 100, 200, 100);
+        window_.show();
+        loopUntil([&] { return windows_.managed().size() == 2; });
+        loseFocus();
+        loopUntil([&] { return !activation_.isActive(); });
+    }
+
+    ProgramActivation& activation() { return activation_; }
+    void takeFocus() { windows_.requestActivation(static_cast<xcb_window_t>(window_.winId())); }
+    void loseFocus() { windows_.requestActivation(other_.window()); }
+    bool until(const std::function<bool()>& condition) { return loopUntil(condition); }
+
+private:
+    XConnection server_;
+    DesktopWindows windows_{server_};
+    PlainWindow other_{server_, {.wmClass = wmClass("Other")}};
+    QWindow window_;
+    QtProgramActivation activation_;
+};
+
+template <typename Focus>
+class ProgramActivationTest : public testing::Test {
+protected:
+    Focus focus;
+    int told = 0;
+    Subscription observation = focus.activation().observeDidBecomeActive([this] { ++told; });
+};
+
+using Focuses = testing::Types<SimulatedFocus, RealFocus>;
+TYPED_TEST_SUITE(ProgramActivationTest, Focuses);
+
+TYPED_TEST(ProgramActivationTest, tellsEachTimeTheProgramBecomesActive)
+{
+    EXPECT_FALSE(this->focus.activation().isActive());
+
+    for (int time = 1; time <= 2; ++time) {
+        this->focus.takeFocus();
+        EXPECT_TRUE(this->focus.until([&] { return this->told == time; }));
+        EXPECT_TRUE(this->focus.activation().isActive());
+        this->focus.loseFocus();
+        EXPECT_TRUE(this->focus.until([&] { return !this->focus.activation().isActive(); }));
+        EXPECT_EQ(this->told, time);
+    }
+}
+
+TYPED_TEST(ProgramActivationTest, tellsNobodyWhoHasEndedTheSubscription)
+{
+    this->observation.reset();
+    this->focus.takeFocus();
+    EXPECT_TRUE(this->focus.until([&] { return this->focus.activation().isActive(); }));
+
+    EXPECT_EQ(this->told, 0);
+}
+
+} // namespace
+} // namespace brindlex

@@ -1,0 +1,159 @@
+#include "platform/linux/TapWatchdog.h"
+
+#include "support/ChildProcess.h"
+#include "support/EventLogWindow.h"
+#include "support/Eventually.h"
+#include "support/PlayedHardware.h"
+#include "support/ProcessTable.h"
+
+#include <csignal>
+#include <gtest/gtest.h>
+#include <memory>
+
+namespace brindlex {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+constexpr std::uint8_t controlKey = 37;
+constexpr std::uint8_t aKey = 38;
+
+/// A program that has taken all devices, on a desktop of its own.
+class InputUnderWatch : public testing::Test {
+protected:
+    InputUnderWatch()
+    {
+        EXPECT_TRUE(eventually([this] { return says("ready\n"); }));
+    }
+
+    bool says(const std::string& text) const
+    {
+        return program_->output().find(text) != std::string::npos;
+    }
+
+    /// The user is dragging and holds a key, all through the program.
+    void beginDrag()
+    {
+        keyboard_.press(controlKey);
+        mouse_.press(1);
+        mouse_.move(5, 0);
+        settle();
+        ASSERT_TRUE(eventually([this] { return window_.drags() > 0; }))
+            << testing::PrintToString(window_.lines());
+        ASSERT_EQ(window_.lines(), (Lines{"key 37 down", "press 1 (control)"}));
+    }
+
+    void settle() const
+    {
+        mouse_.settle();
+        secondMouse_.settle();
+        keyboard_.settle();
+    }
+
+    /// Moves the mouse like a user who wonders, until what is played arrives by itself.
+    bool inputComesBack()
+    {
+        return eventually([this] {
+            const int before = window_.motions();
+            mouse_.move(1, 0);
+            mouse_.move(-1, 0);
+            mouse_.settle();
+            return window_.motions() > before;
+        });
+    }
+
+    void endDrag()
+    {
+        mouse_.release(1);
+        keyboard_.release(controlKey);
+        settle();
+    }
+
+    bool arrived(const Lines& expected)
+    {
+        return eventually([&] { return window_.lines() == expected; });
+    }
+
+    VirtualDesktop desktop_{{.windowManager = false,
+        .sessionBus = false,
+        .server = VirtualDesktop::Server::withPlayedHardware}};
+    PlayedMouse mouse_{desktop_};
+    PlayedMouse secondMouse_{desktop_, "second-mouse"};
+    PlayedKeyboard keyboard_{desktop_};
+    EventLogWindow window_;
+    std::unique_ptr<ChildProcess> program_ = std::make_unique<ChildProcess>(ChildProcess::Start{
+        .command = {TapWatchdog::besideThisProgram().replace_filename("brindlex_tap_program")},
+        .output = desktop_.outputFolder() / "program"});
+};
+
+TEST_F(InputUnderWatch, comesBackFromAProgramThatIsStoppedInADrag)
+{
+    beginDrag();
+    program_->signal(SIGSTOP);
+
+    EXPECT_TRUE(inputComesBack());
+    endDrag();
+    EXPECT_TRUE(eventually([this] { return window_.held() == Lines{}; }))
+        << testing::PrintToString(window_.held());
+    window_.forget();
+    keyboard_.stroke(aKey);
+    secondMouse_.click(2);
+    settle();
+    EXPECT_TRUE(arrived({"key 38 down", "key 38 up", "press 2", "release 2"}))
+        << testing::PrintToString(window_.lines());
+}
+
+TEST_F(InputUnderWatch, isTappedAgainWhenTheProgramGoesOn)
+{
+    program_->signal(SIGSTOP);
+    mouse_.move(1, 0);
+    EXPECT_TRUE(inputComesBack());
+
+    program_->signal(SIGCONT);
+
+    EXPECT_TRUE(eventually([this] { return says("switched off\n"); }));
+    window_.forget();
+    // The program takes the devices in its own time.
+    EXPECT_TRUE(eventually([this] {
+        mouse_.click(2);
+        mouse_.settle();
+        return says("25\n26\n");
+    }));
+    EXPECT_TRUE(eventually([this] { return window_.held() == Lines{}; }));
+}
+
+TEST_F(InputUnderWatch, comesBackFromAHandlerThatHangs)
+{
+    beginDrag();
+    mouse_.click(9);
+
+    EXPECT_TRUE(inputComesBack());
+    endDrag();
+    EXPECT_TRUE(eventually([this] { return window_.held() == Lines{}; }))
+        << testing::PrintToString(window_.held());
+}
+
+TEST_F(InputUnderWatch, comesBackFromAProgramThatIsKilledInADrag)
+{
+    beginDrag();
+    program_->signal(SIGKILL);
+
+    EXPECT_TRUE(inputComesBack());
+    endDrag();
+    EXPECT_TRUE(eventually([this] { return window_.held() == Lines{}; }))
+        << testing::PrintToString(window_.held());
+}
+
+TEST_F(InputUnderWatch, leavesNoWatchdogBehind)
+{
+    const auto processes = [this] { return processesWithVariable("HOME", desktop_.home()).size(); };
+    // The server, the program and its watchdog.
+    ASSERT_TRUE(eventually([&] { return processes() == 3; })) << processes();
+
+    program_->signal(SIGKILL);
+
+    EXPECT_TRUE(eventually([&] { return processes() == 1; })) << processes();
+}
+
+} // namespace
+} // namespace brindlex

@@ -1,0 +1,63 @@
+#include "platform/linux/X11EventPermissions.h"
+
+#include "platform/posix/PosixClock.h"
+#include "platform/simulated/SimulatedMainThread.h"
+#include "platform/simulated/SimulatedUserDefaults.h"
+#include "support/VirtualDesktop.h"
+
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+TEST(X11EventPermissions, areMissingWithoutAServer)
+{
+    VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    desktop.endDisplayServer();
+    SimulatedClock time;
+    SimulatedMainThread mainThread(time);
+    SimulatedUserDefaults defaults;
+    X11InputStream stream(mainThread, time);
+    X11EventPermissions permissions(stream, defaults);
+
+    EXPECT_EQ(EventPermissionState::ask(permissions), (EventPermissionState{false, false}));
+}
+
+TEST(X11EventPermissions, areForbiddenByNothingButTheWordFalse)
+{
+    const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    SimulatedClock time;
+    SimulatedMainThread mainThread(time);
+    SimulatedUserDefaults defaults;
+    X11InputStream stream(mainThread, time);
+    X11EventPermissions permissions(stream, defaults);
+
+    for (const auto& value : std::vector{
+             PreferenceValue(true), PreferenceValue(std::int64_t{0}), PreferenceValue("false")}) {
+        defaults.set("allowsAccessibility", value);
+        EXPECT_TRUE(permissions.isAccessibilityTrusted());
+    }
+    defaults.set("allowsAccessibility", false);
+    EXPECT_FALSE(permissions.isAccessibilityTrusted());
+}
+
+TEST(X11EventPermissions, tellNothingOfOtherPreferences)
+{
+    const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    SimulatedClock time;
+    SimulatedMainThread mainThread(time);
+    SimulatedUserDefaults defaults;
+    X11InputStream stream(mainThread, time);
+    X11EventPermissions permissions(stream, defaults);
+    int told = 0;
+    const auto observation = permissions.observeAccessibilityChanges([&] { ++told; });
+
+    defaults.set("mouseConfig", "{}");
+    defaults.set("allowsAccessibility", true);
+    EXPECT_EQ(told, 0);
+    defaults.set("allowsInputMonitoring", false);
+    EXPECT_EQ(told, 1);
+}
+
+} // namespace
+} // namespace brindlex

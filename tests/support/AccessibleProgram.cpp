@@ -1,0 +1,52 @@
+#include "support/AccessibleProgram.h"
+
+#include <fstream>
+
+namespace brindlex {
+namespace {
+
+constexpr auto root = "/org/a11y/atspi/accessible/root";
+
+/// The accessibility bus, as its launcher on the session bus names it.
+sd_bus* accessibilityBus()
+{
+    sd_bus* session = nullptr;
+    sd_bus_message* answer = nullptr;
+    const char* address = nullptr;
+    sd_bus* bus = nullptr;
+    if (sd_bus_open_user(&session) < 0
+        || sd_bus_call_method(session, "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus",
+               "GetAddress", nullptr, &answer, "")
+            < 0
+        || sd_bus_message_read(answer, "s", &address) < 0 || sd_bus_new(&bus) < 0
+        || sd_bus_set_address(bus, address) < 0 || sd_bus_set_bus_client(bus, 1) < 0
+        || sd_bus_start(bus) < 0)
+        return nullptr;
+    return bus;
+}
+
+} // namespace
+
+AccessibleProgram::AccessibleProgram() : bus_(accessibilityBus())
+{
+    const char* service = nullptr;
+    if (bus_ && sd_bus_get_unique_name(bus_, &service) >= 0)
+        service_ = service;
+}
+
+AccessibleProgram::~AccessibleProgram() { sd_bus_unref(bus_); }
+
+int AccessibleProgram::run(const std::string& folder) const
+{
+    if (sd_bus_call_method(bus_, "org.a11y.atspi.Registry", root, "org.a11y.atspi.Socket", "Embed",
+            nullptr, nullptr, "(so)", service_.c_str(), root)
+        < 0)
+        return 2;
+    std::ofstream(folder + "/ready") << "ready";
+    while (sd_bus_process(bus_, nullptr) >= 0)
+        if (sd_bus_wait(bus_, UINT64_MAX) < 0)
+            return 3;
+    return 0;
+}
+
+} // namespace brindlex

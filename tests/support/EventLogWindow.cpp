@@ -1,0 +1,255 @@
+#include "support/EventLogWindow.h"
+
+#include "foundation/FatalError.h"
+#include "support/Eventually.h"
+
+#include <array>
+#include <utility>
+#include <xcb/xinput.h>
+
+namespace brindlex {
+namespace {
+
+constexpr std::uint32_t buttonBits = 0x1F00;
+
+std::string modifierText(std::uint32_t state)
+{
+    constexpr std::array names{std::pair{XCB_MOD_MASK_SHIFT, "shift"},
+        std::pair{XCB_MOD_MASK_LOCK, "lock"}, std::pair{XCB_MOD_MASK_CONTROL, "control"},
+        std::pair{XCB_MOD_MASK_1, "alt"}, std::pair{XCB_MOD_MASK_2, "num"},
+        std::pair{XCB_MOD_MASK_4, "super"}};
+    std::string text;
+    for (const auto& [bit, name] : names)
+        if (state & bit)
+            text += (text.empty() ? "" : " ") + std::string(name);
+    return text.empty() ? "" : " (" + text + ")";
+}
+
+std::string keyLine(std::uint32_t key, bool isPress, std::uint32_t state)
+{
+    return "key " + std::to_string(key) + (isPress ? " down" : " up") + modifierText(state);
+}
+
+std::string buttonLine(std::uint32_t button, bool isPress, std::uint32_t state)
+{
+    return (isPress ? "press " : "release ") + std::to_string(button) + modifierText(state);
+}
+
+} // namespace
+
+EventLogWindow::EventLogWindow(Protocol protocol) : window_(xcb_generate_id(server_.get()))
+{
+    const auto& screen = server_.screen();
+    const std::uint32_t overrideRedirect = 1;
+    xcb_create_window(server_.get(), XCB_COPY_FROM_PARENT, window_, screen.root, 0, 0,
+        screen.width_in_pixels, screen.height_in_pixels, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+        XCB_COPY_FROM_PARENT, XCB_CW_OVERRIDE_REDIRECT, &overrideRedirect);
+    listen(protocol);
+    xcb_map_window(server_.get(), window_);
+    movePointer({screen.width_in_pixels / 2, screen.height_in_pixels / 2});
+    const auto hasFocus = [this] {
+        xcb_set_input_focus(server_.get(), XCB_INPUT_FOCUS_PARENT, window_, XCB_CURRENT_TIME);
+        const XReply<xcb_get_input_focus_reply_t> reply(
+            xcb_get_input_focus_reply(server_.get(), xcb_get_input_focus(server_.get()), nullptr));
+        return reply && reply->focus == window_;
+    };
+    if (!eventually(hasFocus))
+        fatalError("The window does not get the keys");
+    forget();
+}
+
+EventLogWindow::EventLogWindow(const std::string& title, const ScreenArea& area)
+    : window_(xcb_generate_id(server_.get()))
+{
+    const auto& screen = server_.screen();
+    xcb_create_window(server_.get(), XCB_COPY_FROM_PARENT, window_, screen.root, 0, 0,
+        static_cast<std::uint16_t>(area.width), static_cast<std::uint16_t>(area.height), 0,
+        XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, XCB_CW_BACK_PIXEL,
+        &screen.white_pixel);
+    listen(Protocol::core);
+    xcb_change_property(server_.get(), XCB_PROP_MODE_REPLACE, window_, server_.atom("_NET_WM_NAME"),
+        server_.atom("UTF8_STRING"), 8, static_cast<std::uint32_t>(title.size()), title.data());
+    xcb_map_window(server_.get(), window_);
+    const DesktopWindows windows(server_);
+    const auto stands = [&] {
+        if (windows.active() != window_)
+            return false;
+        windows.place(window_, area);
+        const auto now = windows.areaOf(window_);
+        return now.width == area.width && now.height == area.height;
+    };
+    if (!eventually(stands))
+        fatalError("The window manager does not show the window " + title);
+    forget();
+}
+
+EventLogWindow::~EventLogWindow()
+{
+    xcb_destroy_window(server_.get(), window_);
+    server_.sync();
+}
+
+void EventLogWindow::listen(Protocol protocol)
+{
+    std::uint32_t mask
+        = XCB_EVENT_MASK_FOCUS_CHANGE | XCB_EVENT_MASK_LEAVE_WINDOW | XCB_EVENT_MASK_ENTER_WINDOW;
+    if (protocol == Protocol::core)
+        mask |= XCB_EVENT_MASK_KEY_PRESS | XCB_EVENT_MASK_KEY_RELEASE | XCB_EVENT_MASK_BUTTON_PRESS
+            | XCB_EVENT_MASK_BUTTON_RELEASE | XCB_EVENT_MASK_POINTER_MOTION;
+    xcb_change_window_attributes(server_.get(), window_, XCB_CW_EVENT_MASK, &mask);
+    if (protocol == Protocol::core)
+        return;
+    const XReply<xcb_input_xi_query_version_reply_t> version(xcb_input_xi_query_version_reply(
+        server_.get(), xcb_input_xi_query_version(server_.get(), 2, 2), nullptr));
+    struct {
+        xcb_input_event_mask_t head{XCB_INPUT_DEVICE_ALL_MASTER, 1};
+        std::uint32_t mask = XCB_INPUT_XI_EVENT_MASK_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_KEY_RELEASE
+            | XCB_INPUT_XI_EVENT_MASK_BUTTON_PRESS | XCB_INPUT_XI_EVENT_MASK_BUTTON_RELEASE
+            | XCB_INPUT_XI_EVENT_MASK_MOTION;
+    } const selection;
+    xcb_input_xi_select_events(server_.get(), window_, 1, &selection.head);
+}
+
+const std::vector<std::string>& EventLogWindow::lines()
+{
+    drain();
+    return lines_;
+}
+
+int EventLogWindow::keymaps()
+{
+    drain();
+    return keymaps_;
+}
+
+int EventLogWindow::motions()
+{
+    drain();
+    return motions_;
+}
+
+int EventLogWindow::drags()
+{
+    drain();
+    return drags_;
+}
+
+void EventLogWindow::forget()
+{
+    server_.sync();
+    drain();
+    lines_.clear();
+    keymaps_ = 0;
+    motions_ = 0;
+    drags_ = 0;
+}
+
+EventLogWindow::Position EventLogWindow::pointer() const
+{
+    const XReply<xcb_query_pointer_reply_t> reply(xcb_query_pointer_reply(
+        server_.get(), xcb_query_pointer(server_.get(), server_.root()), nullptr));
+    return reply ? Position{reply->root_x, reply->root_y} : Position{};
+}
+
+void EventLogWindow::movePointer(Position position) const
+{
+    xcb_warp_pointer(server_.get(), XCB_NONE, server_.root(), 0, 0, 0, 0,
+        static_cast<std::int16_t>(position.x), static_cast<std::int16_t>(position.y));
+    server_.sync();
+}
+
+std::vector<std::string> EventLogWindow::held() const
+{
+    std::vector<std::string> held;
+    const XReply<xcb_query_pointer_reply_t> pointer(xcb_query_pointer_reply(
+        server_.get(), xcb_query_pointer(server_.get(), server_.root()), nullptr));
+    for (std::uint32_t button = 1; pointer && button <= 5; ++button)
+        if (pointer->mask & (0x80U << button))
+            held.push_back("button " + std::to_string(button));
+    const XReply<xcb_query_keymap_reply_t> keys(
+        xcb_query_keymap_reply(server_.get(), xcb_query_keymap(server_.get()), nullptr));
+    for (std::uint32_t key = 0; keys && key < 256; ++key)
+        if (keys->keys[key / 8] >> (key % 8) & 1)
+            held.push_back("key " + std::to_string(key));
+    return held;
+}
+
+void EventLogWindow::drain()
+{
+    while (const XReply<xcb_generic_event_t> event{xcb_poll_for_event(server_.get())})
+        note(*event);
+}
+
+void EventLogWindow::note(const xcb_generic_event_t& event)
+{
+    const auto type = event.response_type & 0x7F;
+    switch (type) {
+    case XCB_KEY_PRESS:
+    case XCB_KEY_RELEASE: {
+        const auto& key = reinterpret_cast<const xcb_key_press_event_t&>(event);
+        lines_.push_back(keyLine(key.detail, type == XCB_KEY_PRESS, key.state));
+        break;
+    }
+    case XCB_BUTTON_PRESS:
+    case XCB_BUTTON_RELEASE: {
+        const auto& button = reinterpret_cast<const xcb_button_press_event_t&>(event);
+        lines_.push_back(buttonLine(button.detail, type == XCB_BUTTON_PRESS, button.state));
+        break;
+    }
+    case XCB_MOTION_NOTIFY: {
+        const auto& motion = reinterpret_cast<const xcb_motion_notify_event_t&>(event);
+        ++motions_;
+        if (motion.state & buttonBits)
+            ++drags_;
+        break;
+    }
+    case XCB_FOCUS_IN:
+        lines_.push_back("focus in");
+        break;
+    case XCB_FOCUS_OUT:
+        lines_.push_back("focus out");
+        break;
+    case XCB_ENTER_NOTIFY:
+        lines_.push_back("enter");
+        break;
+    case XCB_LEAVE_NOTIFY:
+        lines_.push_back("leave");
+        break;
+    case XCB_MAPPING_NOTIFY:
+        ++keymaps_;
+        break;
+    case XCB_GE_GENERIC:
+        noteInput2(event);
+        break;
+    default:
+        break;
+    }
+}
+
+void EventLogWindow::noteInput2(const xcb_generic_event_t& event)
+{
+    const auto& input = reinterpret_cast<const xcb_input_button_press_event_t&>(event);
+    switch (input.event_type) {
+    case XCB_INPUT_KEY_PRESS:
+    case XCB_INPUT_KEY_RELEASE:
+        lines_.push_back(
+            keyLine(input.detail, input.event_type == XCB_INPUT_KEY_PRESS, input.mods.effective));
+        break;
+    case XCB_INPUT_BUTTON_PRESS:
+    case XCB_INPUT_BUTTON_RELEASE:
+        lines_.push_back(buttonLine(
+            input.detail, input.event_type == XCB_INPUT_BUTTON_PRESS, input.mods.effective));
+        break;
+    case XCB_INPUT_MOTION: {
+        ++motions_;
+        const auto* words = xcb_input_button_press_button_mask(&input);
+        if (input.buttons_len > 0 && words[0] != 0)
+            ++drags_;
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+} // namespace brindlex
