@@ -33,6 +33,13 @@ const Thing button{"AXButton", 43, "push button", {{190, 140}, {20, 20}}};
 
 class SimulatedScreen {
 public:
+    ~SimulatedScreen()
+    {
+        // A window is its own window.
+        for (auto element = tree_.element; element; element = element->givenParent)
+            element->givenWindow.reset();
+    }
+
     AccessibilityTree& tree() { return tree_; }
     void show(const std::vector<Thing>& things)
     {

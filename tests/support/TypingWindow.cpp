@@ -25,8 +25,7 @@ ChildProcess::Start terminal(const std::string& className, const std::vector<std
 
 TypingWindow::TypingWindow(const DesktopWindows& windows, const std::string& className,
     const std::vector<std::string>& terminalOptions)
-    : file_(folder_.path() / "typed"),
-      terminal_(terminal(className, terminalOptions, folder_.path()))
+    : file_(folder_.path() / "typed")
 {
     const auto isReady = [&] {
         const auto found = windows.withClass(className);
@@ -36,9 +35,16 @@ TypingWindow::TypingWindow(const DesktopWindows& windows, const std::string& cla
         window_ = *found;
         return true;
     };
-    if (!eventually(isReady))
-        fatalError("The terminal " + className + " did not open; its window is "
-            + (windows.withClass(className) ? "there" : "not there") + ".\n" + terminal_.output());
+    // Now and then a terminal waits for ever for Fcitx to answer it; another one does not.
+    bool isOpen = false;
+    for (int attempt = 0; attempt < 3 && !isOpen; ++attempt) {
+        terminal_.reset();
+        terminal_
+            = std::make_unique<ChildProcess>(terminal(className, terminalOptions, folder_.path()));
+        isOpen = eventually(isReady);
+    }
+    if (!isOpen)
+        fatalError("The terminal " + className + " did not open.\n" + terminal_->output());
     if (!windows.activate(window_))
         fatalError("The terminal " + className + " did not come to the front.");
 }

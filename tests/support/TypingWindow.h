@@ -4,6 +4,7 @@
 #include "support/DesktopWindows.h"
 #include "support/TemporaryFolder.h"
 
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -18,7 +19,7 @@ public:
         const std::vector<std::string>& terminalOptions = {});
 
     xcb_window_t window() const { return window_; }
-    int process() const { return terminal_.id(); }
+    int process() const { return terminal_->id(); }
 
     /// Everything that arrived since the last `forget`, as UTF-8.
     std::string text() const;
@@ -31,7 +32,7 @@ private:
     TemporaryFolder folder_;
     std::filesystem::path file_;
     std::size_t forgotten_ = 0;
-    ChildProcess terminal_;
+    std::unique_ptr<ChildProcess> terminal_;
     xcb_window_t window_ = XCB_WINDOW_NONE;
 };
 

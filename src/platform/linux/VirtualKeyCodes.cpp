@@ -180,8 +180,10 @@ std::span<const std::uint8_t> keycodesOf(std::int64_t virtualKeyCode)
         const auto index = static_cast<std::size_t>(virtualKeyCode);
         return std::span(keyboard.keycodes[index]).first(keyboard.counts[index]);
     }
+    if (virtualKeyCode < firstOther || virtualKeyCode >= firstOther + 256)
+        return {};
     const auto keycode = virtualKeyCode - firstOther;
-    const bool isOther = keycode >= 8 && keycode < 256
+    const bool isOther = keycode >= 8
         && keyboard.virtualKeyCodes[static_cast<std::size_t>(keycode)] == virtualKeyCode;
     if (!isOther)
         return {};
