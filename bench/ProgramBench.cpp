@@ -6,9 +6,11 @@
 // "ready" is the line "Brindlex launched" in the log. "activation" is from the window manager
 // naming the window to the server's keyboard having the group, seen by one other client.
 
+#include "platform/linux/XkbProtocol.h"
 #include "support/DesktopWindows.h"
 #include "support/Eventually.h"
 #include "support/InstalledApplication.h"
+#include "support/KeyboardGroup.h"
 #include "support/PlainWindow.h"
 #include "support/ProgramFiles.h"
 #include "support/RunningProgram.h"
@@ -19,9 +21,6 @@
 #include <poll.h>
 #include <unistd.h>
 #include <xcb/xcb.h>
-#define explicit explicit_
-#include <xcb/xkb.h>
-#undef explicit
 
 #include <algorithm>
 #include <chrono>
@@ -183,8 +182,13 @@ void measureActivation(int rounds)
     windows.activate(alpha.window());
     RunningProgram program(desktop);
     program.launches();
-    windows.activate(beta.window());
-    windows.activate(alpha.window());
+    const auto settle = [&](const PlainWindow& window, int group) {
+        if (!windows.activate(window.window())
+            || !eventually([&] { return keyboardGroup(server) == group; }))
+            std::printf("%s\n", program.report().c_str());
+    };
+    settle(beta, 1);
+    settle(alpha, 0);
 
     Witness witness(server);
     std::vector<double> milliseconds;

@@ -58,6 +58,17 @@ xcb_window_t DesktopWindows::focused() const
     return focus ? focus->focus : xcb_window_t{XCB_WINDOW_NONE};
 }
 
+bool DesktopWindows::hasFocus(xcb_window_t window) const
+{
+    auto holder = focused();
+    while (holder != window && holder > XCB_INPUT_FOCUS_POINTER_ROOT) {
+        const XReply<xcb_query_tree_reply_t> tree(
+            xcb_query_tree_reply(server_.get(), xcb_query_tree(server_.get(), holder), nullptr));
+        holder = tree ? tree->parent : xcb_window_t{XCB_WINDOW_NONE};
+    }
+    return holder == window;
+}
+
 std::string DesktopWindows::classOf(xcb_window_t window) const
 {
     // Two texts, each with its end: the name of the window's kind and that of its program.
@@ -94,7 +105,7 @@ bool DesktopWindows::isOnScreen(xcb_window_t window) const
 bool DesktopWindows::activate(xcb_window_t window) const
 {
     requestActivation(window);
-    return eventually([&] { return active() == window; });
+    return eventually([&] { return active() == window && hasFocus(window); });
 }
 
 void DesktopWindows::requestActivation(xcb_window_t window) const

@@ -37,6 +37,8 @@ public:
     xcb_window_t active() const;
     /// The window that gets the keys.
     xcb_window_t focused() const;
+    /// Whether the window, or one within it, gets the keys.
+    bool hasFocus(xcb_window_t window) const;
 
     std::string classOf(xcb_window_t window) const;
     std::string titleOf(xcb_window_t window) const;
@@ -44,7 +46,7 @@ public:
     bool isOnScreen(xcb_window_t window) const;
 
     /// Asks the window manager to bring the window to the front, as a pager does, and waits until
-    /// it is.
+    /// it is there and gets the keys.
     bool activate(xcb_window_t window) const;
     /// The same without waiting.
     void requestActivation(xcb_window_t window) const;

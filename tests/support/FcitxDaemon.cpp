@@ -46,8 +46,11 @@ void FcitxDaemon::start()
         .command = {"fcitx5", "--disable=wayland,waylandim,cloudpinyin,notifications"},
         .output = desktop_.outputFolder() / "fcitx5",
     });
-    const auto answers
-        = [] { return BusConnection().hasOwner(name) && hasXInputMethodServer("fcitx"); };
+    const auto answers = [] {
+        const BusConnection bus;
+        return bus.hasOwner(name) && hasXInputMethodServer("fcitx")
+            && bus.call(name, path, interface, "CurrentInputMethodGroup");
+    };
     if (!eventually(answers, 20s))
         fatalError("Fcitx did not start.\n" + daemon_->output());
 }

@@ -1,9 +1,6 @@
 #include "support/KeyboardGroup.h"
 
-// The protocol's header has a field with a name that C++ keeps for itself.
-#define explicit explicit_
-#include <xcb/xkb.h>
-#undef explicit
+#include "platform/linux/XkbProtocol.h"
 
 namespace brindlex {
 namespace {

@@ -37,7 +37,10 @@ TypingWindow::TypingWindow(const DesktopWindows& windows, const std::string& cla
         return true;
     };
     if (!eventually(isReady))
-        fatalError("The terminal " + className + " did not open.\n" + terminal_.output());
+        fatalError("The terminal " + className + " did not open; its window is "
+            + (windows.withClass(className) ? "there" : "not there") + ".\n" + terminal_.output());
+    if (!windows.activate(window_))
+        fatalError("The terminal " + className + " did not come to the front.");
 }
 
 std::string TypingWindow::text() const { return contentOf(file_).substr(forgotten_); }

@@ -12,7 +12,8 @@ namespace brindlex {
 /// A terminal window that keeps what is typed into it, so that a test sees what arrived.
 class TypingWindow {
 public:
-    /// Opens the window and waits until it can be typed into; `className` names its application.
+    /// Opens the window, brings it to the front and waits until it can be typed into; `className`
+    /// names its application.
     TypingWindow(const DesktopWindows& windows, const std::string& className,
         const std::vector<std::string>& terminalOptions = {});
 

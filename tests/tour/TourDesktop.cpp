@@ -12,10 +12,6 @@ namespace {
 constexpr auto lettersApplication = "com.example.Letters";
 constexpr auto notesApplication = "com.example.Notes";
 
-constexpr auto english = "xkb:us::eng";
-constexpr auto german = "xkb:de::ger";
-constexpr auto pinyin = "libpinyin";
-
 std::vector<std::string> paper(const std::string& title, const std::string& colour)
 {
     return {"-T", title, "-fa", "DejaVu Sans Mono", "-fd", "Noto Sans Mono CJK SC", "-fs", "17",

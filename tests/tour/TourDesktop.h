@@ -16,6 +16,11 @@
 
 namespace brindlex {
 
+/// The engines of IBus that the user of the tour writes with.
+inline constexpr auto english = "xkb:us::eng";
+inline constexpr auto german = "xkb:de::deu";
+inline constexpr auto pinyin = "libpinyin";
+
 /// The desktop that the tour plays on: IBus with English, German and Pinyin, two windows to write
 /// in and a browser, the rules of a user who writes in all three, and the program.
 class TourDesktop {

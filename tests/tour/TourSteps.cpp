@@ -11,10 +11,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto english = "xkb:us::eng";
-constexpr auto german = "xkb:de::ger";
-constexpr auto pinyin = "libpinyin";
-
 std::string nameOf(const std::string& engine)
 {
     if (engine == english)

@@ -106,16 +106,21 @@ SelectionStatus Fcitx5InputSources::select(const std::string& id)
     const int question = ++question_;
     const auto pending = call("CurrentInputMethod");
     target_ = method;
-    recheck_.start();
-    if (!waitForAnswer(pending, Clock::now() + selectionWait))
+    recheck_.stop();
+    if (!waitForAnswer(pending, Clock::now() + selectionWait)) {
+        whenAnswered(pending, doNotWait, &context_,
+            [this, selection = ++selection_](const QDBusMessage&) { recheck(selection); });
         return SelectionStatus::done;
+    }
     const auto reply = pending.reply();
     if (question == question_)
         takeCurrent(reply);
-    if (!isError(reply) && method_ == method)
+    if (!isError(reply) && method_ == method) {
+        recheck(++selection_);
         return SelectionStatus::done;
+    }
+    ++selection_;
     target_.reset();
-    recheck_.stop();
     return isError(reply) ? SelectionStatus::notConnected : SelectionStatus::refused;
 }
 
@@ -212,16 +217,22 @@ void Fcitx5InputSources::takeCurrent(const QDBusMessage& reply)
         notify();
 }
 
+void Fcitx5InputSources::recheck(int selection)
+{
+    if (selection == selection_)
+        recheck_.start();
+}
+
 void Fcitx5InputSources::checkAgain()
 {
     whenAnswered(call("CurrentInputMethod"), doNotWait, &context_,
-        [this, question = ++question_](const QDBusMessage& reply) {
-            const bool hasMissed = target_ && !isError(reply) && !reply.arguments().isEmpty()
-                && reply.arguments().first().toString().toStdString() != *target_;
-            if (hasMissed && question == question_)
-                call("SetCurrentIM", {QString::fromStdString(*target_)});
-            if (recheck_.isActive())
+        [this, selection = selection_](const QDBusMessage& reply) {
+            if (selection != selection_)
                 return;
+            const bool hasMissed = !isError(reply) && !reply.arguments().isEmpty()
+                && reply.arguments().first().toString().toStdString() != *target_;
+            if (hasMissed)
+                call("SetCurrentIM", {QString::fromStdString(*target_)});
             target_.reset();
             readCurrent(doNotWait);
         });

@@ -48,6 +48,10 @@ private:
     void setMethods(const QStringList& enabled, const QDBusMessage& available);
     void readCurrent(DBusDeadline deadline);
     void takeCurrent(const QDBusMessage& reply);
+    /// Has a look a moment after the daemon has answered, unless another selection came since. The
+    /// window in front may have got its keyboard only then, and a selection before it went to the
+    /// window before. An engine that has to be started keeps the daemon from both for a while.
+    void recheck(int selection);
     void checkAgain();
     void fail(const QDBusMessage& reply);
     std::optional<std::string> sourceOf(const std::string& method) const;
@@ -65,6 +69,8 @@ private:
     Clock::time_point readAt_{};
     /// The input method selected by this program until it is sure that it stays.
     std::optional<std::string> target_;
+    /// The number of the last selection, and of the last question for the current method.
+    int selection_ = 0;
     int question_ = 0;
     bool isAsking_ = false;
     bool hasMethods_ = false;

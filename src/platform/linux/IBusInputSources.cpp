@@ -3,7 +3,6 @@
 #include "app/Log.h"
 #include "foundation/Text.h"
 #include "platform/InputSourceIdentifiers.h"
-#include "platform/linux/IBusAddress.h"
 #include "platform/linux/XkbRegistry.h"
 
 #include <QDBusArgument>
@@ -17,24 +16,15 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto daemonName = "org.freedesktop.IBus";
-constexpr auto daemonPath = "/org/freedesktop/IBus";
-constexpr auto configName = "org.freedesktop.IBus.Config";
-constexpr auto configPath = "/org/freedesktop/IBus/Config";
-constexpr auto busName = "org.freedesktop.DBus";
-constexpr auto busPath = "/org/freedesktop/DBus";
-constexpr auto propertiesInterface = "org.freedesktop.DBus.Properties";
+constexpr IBusConnection::Service daemon{
+    "org.freedesktop.IBus", "/org/freedesktop/IBus", "org.freedesktop.IBus"};
+constexpr IBusConnection::Service daemonProperties{
+    "org.freedesktop.IBus", "/org/freedesktop/IBus", "org.freedesktop.DBus.Properties"};
+constexpr IBusConnection::Service settings{
+    "org.freedesktop.IBus.Config", "/org/freedesktop/IBus/Config", "org.freedesktop.IBus.Config"};
 
-/// How long an answer is worth anything.
-constexpr int callLimitMilliseconds = 5000;
 /// How long `select` waits: a warm engine takes 1 to 15 ms, one that has to be started 120 ms.
 constexpr auto selectionWait = 30ms;
-
-QString newConnectionName()
-{
-    static int number = 0;
-    return QStringLiteral("brindlex-ibus-%1").arg(++number);
-}
 
 QStringList textsOf(const QVariant& value)
 {
@@ -79,35 +69,22 @@ InputSource sourceOf(const IBusEngine& engine)
 } // namespace
 
 IBusInputSources::IBusInputSources(XkbInputSources& layouts, DBusDeadline deadline)
-    : layouts_(layouts), connectionName_(newConnectionName()), bus_(QString())
+    : layouts_(layouts), problem_(bus_.problem())
 {
-    const auto address = ibusAddress();
-    if (!address) {
-        problem_ = "its address is not known";
+    if (!bus_.isConnected())
         return;
-    }
-    // As a peer, since connecting as a client waits for the daemon without a limit.
-    bus_
-        = QDBusConnection::connectToPeer(QString::fromStdString(address->address), connectionName_);
-    if (!bus_.isConnected()) {
-        problem_ = bus_.lastError().message().toStdString();
-        return;
-    }
-    whenAnswered(call(busName, busPath, busName, "Hello", {}), deadline, &context_,
-        [this](const QDBusMessage& reply) {
-            if (reply.type() == QDBusMessage::ErrorMessage)
-                fail(reply);
-        });
-    listen();
-    readCurrent(deadline);
-    readEngineList(deadline);
+    bus_.greet(deadline, [this, deadline](const QDBusMessage& answer) {
+        if (answer.type() == QDBusMessage::ErrorMessage) {
+            fail(answer);
+            return;
+        }
+        listen();
+        readCurrent(deadline);
+        readEngineList(deadline);
+    });
 }
 
-IBusInputSources::~IBusInputSources()
-{
-    signals_.clear();
-    QDBusConnection::disconnectFromPeer(connectionName_);
-}
+IBusInputSources::~IBusInputSources() = default;
 
 bool IBusInputSources::isUsable() const
 {
@@ -118,10 +95,11 @@ bool IBusInputSources::isUsable() const
 
 std::optional<std::string> IBusInputSources::current()
 {
-    const auto& engine = target_ ? target_ : engine_;
-    if (!engine)
+    if (target_)
+        return sourceIDOfIBusEngine(target_->engine);
+    if (!engine_)
         return {};
-    return sourceIDOfIBusEngine(*engine);
+    return sourceIDOfIBusEngine(*engine_);
 }
 
 SelectionStatus IBusInputSources::select(const std::string& id)
@@ -138,91 +116,80 @@ SelectionStatus IBusInputSources::select(const std::string& id)
     if (group && *group != groupBefore)
         layouts_.lockGroup(*group);
 
-    return ask(found->name, groupBefore);
+    return ask({found->name, groupBefore});
 }
 
-SelectionStatus IBusInputSources::ask(const std::string& engine, int groupBefore)
+SelectionStatus IBusInputSources::ask(Selection selection)
 {
-    if (!target_ && engine_ == engine)
+    if (!target_ && engine_ == selection.engine)
         return SelectionStatus::done;
-    target_ = engine;
-    echoes_.push_back(engine);
-    const int number = ++selection_;
-    const auto pending = call(
-        daemonName, daemonPath, daemonName, "SetGlobalEngine", {QString::fromStdString(engine)});
-    if (waitForAnswer(pending, std::chrono::steady_clock::now() + selectionWait))
-        return finish(number, engine, groupBefore, pending.reply());
-    whenAnswered(
-        pending, doNotWait, &context_, [this, number, engine, groupBefore](const auto& reply) {
-            finish(number, engine, groupBefore, reply);
-        });
+    target_ = std::move(selection);
+    if (isAsking_)
+        return SelectionStatus::done;
+    return askForTarget(std::chrono::steady_clock::now() + selectionWait);
+}
+
+SelectionStatus IBusInputSources::askForTarget(DBusDeadline deadline)
+{
+    isAsking_ = true;
+    const auto asked = *target_;
+    echoes_.push_back(asked.engine);
+    const auto pending
+        = bus_.call(daemon, "SetGlobalEngine", {QString::fromStdString(asked.engine)});
+    if (waitForAnswer(pending, deadline))
+        return finish(asked, pending.reply());
+    whenAnswered(pending, doNotWait, &context_,
+        [this, asked](const QDBusMessage& reply) { finish(asked, reply); });
     return SelectionStatus::done;
 }
 
-SelectionStatus IBusInputSources::finish(
-    int number, const std::string& engine, int groupBefore, const QDBusMessage& reply)
+SelectionStatus IBusInputSources::finish(const Selection& asked, const QDBusMessage& reply)
 {
-    const bool isLatest = number == selection_;
-    if (isLatest)
-        target_.reset();
-    if (reply.type() == QDBusMessage::ErrorMessage) {
-        std::erase(echoes_, engine);
-        Log::warn("IBus did not select " + engine + ": " + reply.errorMessage().toStdString(),
+    isAsking_ = false;
+    const bool isLatest = target_->engine == asked.engine;
+    const bool isRefused = reply.type() == QDBusMessage::ErrorMessage;
+    if (isRefused) {
+        std::erase(echoes_, asked.engine);
+        Log::warn("IBus did not select " + asked.engine + ": " + reply.errorMessage().toStdString(),
             logCategory::inputMethod);
-        if (isLatest)
-            layouts_.lockGroup(groupBefore);
-        notify();
-        return bus_.isConnected() ? SelectionStatus::refused : SelectionStatus::notConnected;
+    } else {
+        engine_ = asked.engine;
     }
-    if (isLatest)
-        engine_ = engine;
+    if (!isLatest) {
+        askForTarget(doNotWait);
+        return SelectionStatus::done;
+    }
+    target_.reset();
+    if (isRefused)
+        layouts_.lockGroup(asked.groupBefore);
     notify();
-    return SelectionStatus::done;
-}
-
-QDBusPendingCall IBusInputSources::call(const char* service, const char* path,
-    const char* interface, const char* member, const QVariantList& arguments) const
-{
-    auto message = QDBusMessage::createMethodCall(QLatin1String(service), QLatin1String(path),
-        QLatin1String(interface), QLatin1String(member));
-    message.setAutoStartService(false);
-    message.setArguments(arguments);
-    return bus_.asyncCall(message, callLimitMilliseconds);
+    if (!isRefused)
+        return SelectionStatus::done;
+    return bus_.isConnected() ? SelectionStatus::refused : SelectionStatus::notConnected;
 }
 
 void IBusInputSources::listen()
 {
-    const auto follow = [this](const char* path, const char* interface, const char* member,
-                            DBusSignal::Handler handler) {
-        signals_.push_back(std::make_unique<DBusSignal>(bus_, QLatin1String(path),
-            QLatin1String(interface), QLatin1String(member), QStringList(), std::move(handler)));
-        // A peer does not ask the bus for signals by itself.
-        call(busName, busPath, busName, "AddMatch",
-            {QStringLiteral("type='signal',path='%1',interface='%2',member='%3'")
-                    .arg(QLatin1String(path), QLatin1String(interface), QLatin1String(member))});
-    };
-    follow(daemonPath, daemonName, "GlobalEngineChanged",
+    bus_.follow(daemon, "GlobalEngineChanged",
         [this](const QDBusMessage& signal) { become(firstOf(signal).toString().toStdString()); });
-    follow(configPath, configName, "ValueChanged", [this](const QDBusMessage& signal) {
+    bus_.follow(settings, "ValueChanged", [this](const QDBusMessage& signal) {
         const auto& arguments = signal.arguments();
         if (arguments.size() >= 3 && arguments[0] == QLatin1String("general")
             && arguments[1] == QLatin1String("preload-engines"))
             readEngines(textsOf(arguments[2]), doNotWait);
     });
-    signals_.push_back(std::make_unique<DBusSignal>(bus_,
-        QStringLiteral("/org/freedesktop/DBus/Local"), QStringLiteral("org.freedesktop.DBus.Local"),
-        QStringLiteral("Disconnected"), QStringList(), [this](const QDBusMessage&) {
-            hasGone_ = true;
-            problem_ = "the connection has ended";
-            notify();
-        }));
+    bus_.whenEnded([this] {
+        hasGone_ = true;
+        problem_ = "the connection has ended";
+        notify();
+    });
 }
 
 void IBusInputSources::readEngineList(DBusDeadline deadline)
 {
     const QVariantList arguments{QStringLiteral("general"), QStringLiteral("preload-engines")};
-    whenAnswered(call(configName, configPath, configName, "GetValue", arguments), deadline,
-        &context_, [this, deadline](const QDBusMessage& reply) {
+    whenAnswered(bus_.call(settings, "GetValue", arguments), deadline, &context_,
+        [this, deadline](const QDBusMessage& reply) {
             if (reply.type() == QDBusMessage::ErrorMessage)
                 fail(reply);
             else
@@ -232,8 +199,8 @@ void IBusInputSources::readEngineList(DBusDeadline deadline)
 
 void IBusInputSources::readEngines(const QStringList& names, DBusDeadline deadline)
 {
-    whenAnswered(call(daemonName, daemonPath, daemonName, "GetEnginesByNames", {names}), deadline,
-        &context_, [this, names](const QDBusMessage& reply) {
+    whenAnswered(bus_.call(daemon, "GetEnginesByNames", {names}), deadline, &context_,
+        [this, names](const QDBusMessage& reply) {
             if (reply.type() == QDBusMessage::ErrorMessage) {
                 fail(reply);
                 return;
@@ -264,9 +231,9 @@ void IBusInputSources::setEngines(const QStringList& names, const QVariant& desc
 
 void IBusInputSources::readCurrent(DBusDeadline deadline)
 {
-    const QVariantList arguments{QLatin1String(daemonName), QStringLiteral("GlobalEngine")};
-    whenAnswered(call(daemonName, daemonPath, propertiesInterface, "Get", arguments), deadline,
-        &context_, [this](const QDBusMessage& reply) {
+    const QVariantList arguments{QLatin1String(daemon.interface), QStringLiteral("GlobalEngine")};
+    whenAnswered(bus_.call(daemonProperties, "Get", arguments), deadline, &context_,
+        [this](const QDBusMessage& reply) {
             // A daemon in which nothing was selected yet answers with this error.
             const bool hasNone = reply.type() == QDBusMessage::ErrorMessage
                 && reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.Failed");

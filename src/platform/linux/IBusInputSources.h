@@ -1,15 +1,13 @@
 #pragma once
 
 #include "platform/linux/DBusAnswer.h"
-#include "platform/linux/DBusSignal.h"
+#include "platform/linux/IBusConnection.h"
 #include "platform/linux/IBusEngine.h"
 #include "platform/linux/InputSourceBackend.h"
 #include "platform/linux/XkbInputSources.h"
 
-#include <QDBusConnection>
 #include <QObject>
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -41,32 +39,35 @@ public:
     const std::string& problem() const { return problem_; }
 
 private:
-    QDBusPendingCall call(const char* service, const char* path, const char* interface,
-        const char* member, const QVariantList& arguments) const;
+    /// An engine that was asked for, and the layout group before.
+    struct Selection {
+        std::string engine;
+        int groupBefore = 0;
+    };
+
     void listen();
     void readEngineList(DBusDeadline deadline);
     void readEngines(const QStringList& names, DBusDeadline deadline);
     void setEngines(const QStringList& names, const QVariant& descriptions);
     void readCurrent(DBusDeadline deadline);
     void become(const std::string& engine);
-    SelectionStatus ask(const std::string& engine, int groupBefore);
-    SelectionStatus finish(
-        int number, const std::string& engine, int groupBefore, const QDBusMessage& reply);
+    SelectionStatus ask(Selection selection);
+    SelectionStatus askForTarget(DBusDeadline deadline);
+    SelectionStatus finish(const Selection& asked, const QDBusMessage& reply);
     void fail(const QDBusMessage& reply);
     /// The group for the engine's layout; nothing when its layout is not among the groups.
     std::optional<int> groupFor(const IBusEngine& engine);
 
     XkbInputSources& layouts_;
-    QString connectionName_;
-    QDBusConnection bus_;
+    IBusConnection bus_;
     QObject context_;
-    std::vector<std::unique_ptr<DBusSignal>> signals_;
     std::vector<IBusEngine> engines_;
     std::vector<InputSource> sources_;
     std::optional<std::string> engine_;
-    /// The engine that a call on its way is to select, and the number of that call.
-    std::optional<std::string> target_;
-    int selection_ = 0;
+    /// What was asked for last, until the daemon has selected it. Asked of the daemon one at a
+    /// time: of two at once, the one whose engine has to be started first would win.
+    std::optional<Selection> target_;
+    bool isAsking_ = false;
     /// Engines that were asked for and whose signals are still to come.
     std::vector<std::string> echoes_;
     bool hasEngines_ = false;

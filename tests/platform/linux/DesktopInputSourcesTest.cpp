@@ -5,6 +5,7 @@
 #include "support/IBusDaemon.h"
 #include "support/KeyboardGroup.h"
 #include "support/LoopUntil.h"
+#include "support/PlayedInput.h"
 #include "support/ProcessTable.h"
 #include "support/RecordedLog.h"
 #include "support/SessionBus.h"
@@ -244,6 +245,35 @@ TEST(DesktopInputSources, doesNotHangWithAnIBusThatHangs)
         EXPECT_TRUE(becomes(late, "IBus"));
     }
     EXPECT_TRUE(loopUntil([&] { return currentID(sources) == "ibus:libpinyin"; }));
+}
+
+TEST(DesktopInputSources, endsInTheLastOfTwoEnginesWhenTheFirstHasToStart)
+{
+    VirtualDesktop desktop({.keyboardLayouts = "us"});
+    IBusDaemon daemon(desktop, ibusEngines);
+    const XConnection server;
+    const DesktopWindows windows(server);
+    const TypingWindow first(windows, "First");
+    const TypingWindow second(windows, "Second");
+    const SessionBus bus;
+    X11Connection connection;
+    DesktopInputSources sources(connection, bus.get());
+    ASSERT_TRUE(becomes(sources, "IBus"));
+    EXPECT_EQ(selectID(sources, "xkb:us::eng"), 0);
+    ASSERT_TRUE(loopUntil([&] { return daemon.current() == "xkb:us::eng"; }));
+    PlayedInput(server).type("a");
+    ASSERT_TRUE(second.receives("a"));
+
+    EXPECT_EQ(selectID(sources, "ibus:libpinyin"), 0);
+    EXPECT_TRUE(windows.activate(first.window()));
+    EXPECT_EQ(selectID(sources, "xkb:us::eng"), 0);
+    EXPECT_EQ(currentID(sources), "xkb:us::eng");
+
+    EXPECT_TRUE(loopUntil([&] { return processOf(desktop, "ibus-engine-libpinyin") > 0; }));
+    // Pinyin may come and go until both have been carried out.
+    EXPECT_TRUE(loopUntil(
+        [&] { return loopThroughout(1s, [&] { return daemon.current() == "xkb:us::eng"; }); }));
+    EXPECT_EQ(currentID(sources), "xkb:us::eng");
 }
 
 TEST(DesktopInputSources, findsFcitxAgainAfterItWasKilled)
