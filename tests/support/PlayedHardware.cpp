@@ -2,6 +2,7 @@
 
 #include "foundation/FatalError.h"
 #include "support/Eventually.h"
+#include "support/InputDevices.h"
 
 #include <array>
 #include <cstring>
@@ -96,8 +97,14 @@ void readAnswer(int descriptor, std::size_t size)
 } // namespace
 
 PlayedDevice::PlayedDevice(const VirtualDesktop& desktop, const std::string& name)
-    : socket_(connectTo(desktop.hardwareSocket(name)))
+    : name_(name), path_(desktop.hardwareSocket(name))
 {
+    connect();
+}
+
+void PlayedDevice::connect()
+{
+    socket_ = FileHandle(connectTo(path_));
     const Version version;
     send(&version, sizeof(version));
     readAnswer(socket_.descriptor(), sizeof(Version));
@@ -109,8 +116,22 @@ void PlayedDevice::send(const void* message, std::size_t size) const
         fatalError(std::string("The hardware is gone: ") + std::strerror(errno));
 }
 
+void PlayedDevice::pullOut()
+{
+    socket_.close();
+    setDevicePresent(XConnection(), name_, false);
+}
+
+void PlayedDevice::plugIn()
+{
+    setDevicePresent(XConnection(), name_, true);
+    connect();
+}
+
 void PlayedDevice::settle() const
 {
+    if (!socket_)
+        return;
     const WaitForSync wait;
     send(&wait, sizeof(wait));
     readAnswer(socket_.descriptor(), sizeof(Header));

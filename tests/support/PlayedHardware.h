@@ -18,12 +18,20 @@ public:
     /// `name` is one of `mouse`, `second-mouse` and `keyboard`.
     PlayedDevice(const VirtualDesktop& desktop, const std::string& name);
 
+    /// Pulls the device out, with whatever is pressed on it; nothing can be played then.
+    void pullOut();
+    void plugIn();
+
     void settle() const;
 
 protected:
     void send(const void* message, std::size_t size) const;
 
 private:
+    void connect();
+
+    std::string name_;
+    std::string path_;
     FileHandle socket_;
 };
 

@@ -1,67 +1,104 @@
+#include "app/Log.h"
+#include "mouse/GlobalEventTap.h"
 #include "platform/linux/QtMainThread.h"
+#include "platform/linux/X11EventPermissions.h"
 #include "platform/linux/X11EventTapping.h"
 #include "platform/linux/X11InputStream.h"
 #include "platform/posix/PosixClock.h"
+#include "platform/simulated/SimulatedProgramActivation.h"
 
 #include <QCoreApplication>
 
-#include <chrono>
+#include <csignal>
 #include <cstdio>
 #include <string>
-#include <thread>
 
 namespace brindlex {
 namespace {
 
+constexpr std::int64_t leftButton = 0;
+constexpr std::int64_t middleButton = 2;
 constexpr std::int64_t forwardButton = 4;
 constexpr EventMask everything = 0xE400CDE;
+constexpr EventMask keys = 0xC00;
 
 /// What to tap, by the program's argument.
 EventInterest interestOf(const std::string& name)
 {
     if (name == "triggers")
-        return {everything, EventTriggers{.buttons = {{2, {}}}, .keys = {{0, eventFlag::control}}}};
+        return {everything,
+            EventTriggers{.buttons = {{middleButton, {}}}, .keys = {{0, eventFlag::control}}}};
+    if (name == "gesture")
+        return {everything, EventTriggers{.buttons = {{leftButton, {}}}}};
     if (name == "mice")
-        return {everything & ~EventMask{0xC00}, {}};
+        return {everything & ~keys, {}};
     if (name == "keyboards")
-        return {0xC00, {}};
+        return {keys, {}};
     return {everything, {}};
+}
+
+/// Prints what is logged.
+class PrintedLog : public LogSink {
+public:
+    void write(const LogCall& call) override
+    {
+        std::printf("%s [%s] %s\n", std::string(rawValue(call.level)).c_str(),
+            std::string(call.category).c_str(), std::string(call.message).c_str());
+    }
+    void prune(Date) override { }
+    std::optional<std::filesystem::path> fileURL(Log::Subsystem) override { return {}; }
+};
+
+/// Does nothing until the signal comes, like a loop without an end.
+void hangUntil(int signal)
+{
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, signal);
+    int which = 0;
+    sigwait(&signals, &which);
 }
 
 } // namespace
 } // namespace brindlex
 
-/// A program that taps `triggers`, `mice`, `keyboards` or, without an argument, all, and lets
-/// everything pass, for tests that stop, hang and kill it. It says `ready`, `switched off` and
-/// `number of an event's type` in lines of its own, and hangs for as long as any test lasts when it
-/// sees the forward button go down.
+/// A program that taps for one subscriber `triggers`, a `gesture` of the left button, `mice`,
+/// `keyboards` or, without an argument, all, and lets everything pass, for tests that stop, hang
+/// and kill it. It prints `ready`, the number of each event's type and what is logged in lines of
+/// their own. When it sees the forward button go down it hangs until it gets SIGUSR1.
 int main(int count, char** arguments)
 {
     using namespace brindlex;
     std::setvbuf(stdout, nullptr, _IOLBF, 0);
+    sigset_t signals;
+    sigemptyset(&signals);
+    sigaddset(&signals, SIGUSR1);
+    sigprocmask(SIG_BLOCK, &signals, nullptr);
     const QCoreApplication application(count, arguments);
+    Log::install(std::make_shared<PrintedLog>());
     QtMainThread mainThread;
     const PosixClock clock;
     X11InputStream stream(mainThread, clock);
     X11EventTapping tapping(stream);
+    X11EventPermissions permissions(stream);
+    SimulatedProgramActivation activation;
 
-    std::unique_ptr<EventTap> tap;
+    GlobalEventTap tap(tapping, permissions, activation);
     const auto interest = interestOf(count > 1 ? arguments[1] : "");
-    tap = tapping.createTap(interest.mask, {interest}, [&](const Event& event) {
-        if (event.type == EventType::tapDisabledByTimeout) {
-            std::puts("switched off");
-            tap->setEnabled(true);
+    tap.subscribe(
+        interest.mask,
+        [](const Event& event) {
+            std::printf("%u\n", static_cast<unsigned>(event.type));
+            if (isMouseDown(event.type)
+                && event.value(EventField::mouseEventButtonNumber) == forwardButton)
+                hangUntil(SIGUSR1);
             return EventVerdict::pass;
-        }
-        std::printf("%u\n", static_cast<unsigned>(event.type));
-        if (isMouseDown(event.type)
-            && event.value(EventField::mouseEventButtonNumber) == forwardButton)
-            std::this_thread::sleep_for(std::chrono::minutes(5));
-        return EventVerdict::pass;
-    });
-    if (!tap)
+        },
+        interest.triggers);
+    if (!tap.isLive())
         return 1;
-    tap->setEnabled(true);
     const auto soon = mainThread.after(0, [&] { mainThread.post([] { std::puts("ready"); }); });
-    return QCoreApplication::exec();
+    const int status = QCoreApplication::exec();
+    Log::install(nullptr);
+    return status;
 }

@@ -164,8 +164,8 @@ Section "Screen"
   DefaultDepth 24
   SubSection "Display"
     Depth 24
-    Virtual )" + width
-        + " " + height + R"(
+    Virtual )"
+        + width + " " + height + R"(
   EndSubSection
 EndSection
 )" + device("mouse", "Pointer")

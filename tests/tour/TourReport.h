@@ -13,6 +13,9 @@ public:
     /// Says what came of it, and whether it is as it should be; answers `holds`.
     bool check(bool holds, const std::string& words);
 
+    /// Whether everything was as it should be so far.
+    bool isGood() const { return failures_ == 0; }
+
     /// Says how it all went; 0 when everything was as it should be.
     int close();
 

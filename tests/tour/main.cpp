@@ -1,6 +1,22 @@
+#include "tour/MouseChapter.h"
 #include "tour/TourSteps.h"
 
 #include <iostream>
+
+namespace brindlex {
+namespace {
+
+void playWritingChapter(TourReport& report, const std::filesystem::path& pictures)
+{
+    report.tell("A desktop without a screen is made: two windows to write in and a browser.");
+    TourDesktop desk;
+    playTour(desk, report, pictures);
+    if (!report.isGood())
+        std::cerr << desk.program->report() << std::endl;
+}
+
+} // namespace
+} // namespace brindlex
 
 /// Plays the guided tour; the one argument is the folder for the pictures.
 int main(int count, char** arguments)
@@ -15,11 +31,7 @@ int main(int count, char** arguments)
     }
 
     TourReport report;
-    report.tell("A desktop without a screen is made: two windows to write in and a browser.");
-    TourDesktop desk;
-    playTour(desk, report, std::filesystem::absolute(pictures));
-    if (const auto result = report.close(); result == 0)
-        return result;
-    std::cerr << desk.program->report() << std::endl;
-    return 1;
+    playWritingChapter(report, std::filesystem::absolute(pictures));
+    playMouseChapter(report);
+    return report.close();
 }

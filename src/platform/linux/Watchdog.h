@@ -20,7 +20,7 @@ public:
 
     /// The program has this long to answer; together with the time that the rescue takes the user
     /// has the input back within a second.
-    static constexpr std::chrono::milliseconds patience{600};
+    static constexpr std::chrono::milliseconds patience{450};
     /// How long after an answer the program is not asked again.
     static constexpr std::chrono::milliseconds interval{250};
 
