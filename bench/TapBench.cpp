@@ -9,7 +9,6 @@
 #include <cstdio>
 #include <fstream>
 #include <functional>
-#include <map>
 #include <poll.h>
 #include <sstream>
 #include <thread>
@@ -78,26 +77,35 @@ struct Hands {
 
 /// Something that a user does, the event that an application then gets, and how it ends.
 struct Deed {
+    using Move = std::function<void(const Hands&)>;
+
     const char* name;
     std::uint8_t type;
     std::function<void(const Hands&, int)> begin;
-    std::function<void(const Hands&)> end;
+    Move end = [](const Hands&) {};
+    /// Around all of them.
+    Move prepare = [](const Hands&) {};
+    Move finish = [](const Hands&) {};
 };
+
+void moveToAndFro(const Hands& hands, int round) { hands.mouse.move(round % 2 ? 4 : -4, 0); }
 
 const std::vector<Deed>& deeds()
 {
     static const std::vector<Deed> all{
-        {"button", XCB_BUTTON_PRESS, [](const Hands& hands, int) { hands.mouse.press(1); },
+        {"left button", XCB_BUTTON_PRESS, [](const Hands& hands, int) { hands.mouse.press(1); },
             [](const Hands& hands) { hands.mouse.release(1); }},
-        {"trigger button", XCB_BUTTON_PRESS, [](const Hands& hands, int) { hands.mouse.press(2); },
+        {"middle button", XCB_BUTTON_PRESS, [](const Hands& hands, int) { hands.mouse.press(2); },
             [](const Hands& hands) { hands.mouse.release(2); }},
         {"key", XCB_KEY_PRESS, [](const Hands& hands, int) { hands.keyboard.press(38); },
             [](const Hands& hands) { hands.keyboard.release(38); }},
-        {"wheel", XCB_BUTTON_PRESS, [](const Hands& hands, int) { hands.mouse.turnWheel(1); },
-            [](const Hands&) {}},
-        {"motion", XCB_MOTION_NOTIFY,
-            [](const Hands& hands, int round) { hands.mouse.move(round % 2 ? 4 : -4, 0); },
-            [](const Hands&) {}},
+        {"wheel", XCB_BUTTON_PRESS, [](const Hands& hands, int) { hands.mouse.turnWheel(1); }},
+        {"motion", XCB_MOTION_NOTIFY, moveToAndFro},
+        {.name = "drag",
+            .type = XCB_MOTION_NOTIFY,
+            .begin = moveToAndFro,
+            .prepare = [](const Hands& hands) { hands.mouse.press(1); },
+            .finish = [](const Hands& hands) { hands.mouse.release(1); }},
     };
     return all;
 }
@@ -112,6 +120,8 @@ Latency measure(const Deed& deed, const Hands& hands, const Target& target)
 {
     std::vector<double> times;
     Latency latency;
+    deed.prepare(hands);
+    hands.mouse.settle();
     for (int round = 0; round < samples; ++round) {
         target.forget();
         const auto begin = Clock::now();
@@ -124,6 +134,8 @@ Latency measure(const Deed& deed, const Hands& hands, const Target& target)
         hands.mouse.settle();
         hands.keyboard.settle();
     }
+    deed.finish(hands);
+    hands.mouse.settle();
     std::ranges::sort(times);
     if (!times.empty()) {
         latency.median = times[times.size() / 2];
@@ -163,10 +175,27 @@ double loadOfMotion(int process, const Hands& hands)
         / std::chrono::duration<double>(Clock::now() - begin).count();
 }
 
+std::vector<Latency> measureAll(const Hands& hands, const Target& target)
+{
+    std::vector<Latency> latencies;
+    for (const auto& deed : deeds())
+        latencies.push_back(measure(deed, hands, target));
+    return latencies;
+}
+
+void print(const std::string& tier, const char* deed, const Latency& without, const Latency& with)
+{
+    std::printf("%-10s %-14s %8.0f %8.0f %8.0f %8.0f %7.2f %7.2f %6d\n", tier.c_str(), deed,
+        without.median, with.median, without.worstOfHundred, with.worstOfHundred,
+        with.median / without.median, with.worstOfHundred / without.worstOfHundred,
+        without.lost + with.lost);
+}
+
 } // namespace
 } // namespace brindlex
 
-/// How much later an event arrives through the tap, tier by tier, on one X server in one run.
+/// How much later an event arrives through the tap, from the device to the application, tier by
+/// tier on one X server in one run, each beside the bare server right before.
 int main()
 {
     using namespace brindlex;
@@ -175,28 +204,20 @@ int main()
         .server = VirtualDesktop::Server::withPlayedHardware});
     const Hands hands{PlayedMouse(desktop), PlayedKeyboard(desktop)};
     const Target target;
-    std::map<std::string, Latency> without;
-    std::printf("%-10s %-15s %10s %10s %8s %8s %6s\n", "tap", "event", "p50 us", "p99 us", "x p50",
-        "x p99", "lost");
-    for (const std::string tier : {"none", "triggers", "mice", "keyboards"}) {
-        std::unique_ptr<ChildProcess> program;
-        if (tier != "none") {
-            program = std::make_unique<ChildProcess>(
-                ChildProcess::Start{.command = {std::filesystem::read_symlink("/proc/self/exe")
+    std::printf("%-10s %-14s %8s %8s %8s %8s %7s %7s %6s\n", "tap", "event", "bare p50", "p50 us",
+        "bare p99", "p99 us", "x p50", "x p99", "lost");
+    for (const std::string tier : {"triggers", "gesture", "mice", "keyboards"}) {
+        const auto without = measureAll(hands, target);
+        const ChildProcess program({.command = {std::filesystem::read_symlink("/proc/self/exe")
                                                     .replace_filename("brindlex_tap_program"),
-                                        tier},
-                    .output = desktop.outputFolder() / tier});
-            eventually([&] { return program->output().find("ready") != std::string::npos; });
-        }
-        for (const auto& deed : deeds()) {
-            const auto latency = measure(deed, hands, target);
-            const auto& base = without.emplace(deed.name, latency).first->second;
-            std::printf("%-10s %-15s %10.0f %10.0f %8.2f %8.2f %6d\n", tier.c_str(), deed.name,
-                latency.median, latency.worstOfHundred, latency.median / base.median,
-                latency.worstOfHundred / base.worstOfHundred, latency.lost);
-        }
-        if (program)
-            std::printf("%-10s 1,000 motions/s: %.1f %% of a processor\n", tier.c_str(),
-                100 * loadOfMotion(program->id(), hands));
+                                        tier, "quiet"},
+            .output = desktop.outputFolder() / tier});
+        if (!eventually([&] { return program.output().find("ready") != std::string::npos; }))
+            return EXIT_FAILURE;
+        const auto with = measureAll(hands, target);
+        for (std::size_t index = 0; index < deeds().size(); ++index)
+            print(tier, deeds()[index].name, without[index], with[index]);
+        std::printf("%-10s 1,000 motions/s: %.1f %% of a processor\n", tier.c_str(),
+            100 * loadOfMotion(program.id(), hands));
     }
 }

@@ -112,8 +112,9 @@ void PlayedDevice::connect()
 
 void PlayedDevice::send(const void* message, std::size_t size) const
 {
-    if (!socket_.writeAll({static_cast<const char*>(message), size}))
-        fatalError(std::string("The hardware is gone: ") + std::strerror(errno));
+    const auto sent = ::send(socket_.descriptor(), message, size, MSG_NOSIGNAL);
+    if (sent != static_cast<ssize_t>(size))
+        fatalError("The hardware " + name_ + " is gone: " + std::strerror(errno));
 }
 
 void PlayedDevice::pullOut()

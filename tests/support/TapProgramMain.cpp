@@ -6,6 +6,7 @@
 #include "platform/linux/X11InputStream.h"
 #include "platform/posix/PosixClock.h"
 #include "platform/simulated/SimulatedProgramActivation.h"
+#include "platform/simulated/SimulatedUserDefaults.h"
 
 #include <QCoreApplication>
 
@@ -64,8 +65,9 @@ void hangUntil(int signal)
 
 /// A program that taps for one subscriber `triggers`, a `gesture` of the left button, `mice`,
 /// `keyboards` or, without an argument, all, and lets everything pass, for tests that stop, hang
-/// and kill it. It prints `ready`, the number of each event's type and what is logged in lines of
-/// their own. When it sees the forward button go down it hangs until it gets SIGUSR1.
+/// and kill it. It prints `ready`, the number of each event's type, unless `quiet` is the second
+/// argument, and what is logged in lines of their own. When it sees the forward button go down it
+/// hangs until it gets SIGUSR1.
 int main(int count, char** arguments)
 {
     using namespace brindlex;
@@ -80,15 +82,18 @@ int main(int count, char** arguments)
     const PosixClock clock;
     X11InputStream stream(mainThread, clock);
     X11EventTapping tapping(stream);
-    X11EventPermissions permissions(stream);
+    SimulatedUserDefaults defaults;
+    X11EventPermissions permissions(stream, defaults);
     SimulatedProgramActivation activation;
 
     GlobalEventTap tap(tapping, permissions, activation);
     const auto interest = interestOf(count > 1 ? arguments[1] : "");
+    const bool isQuiet = count > 2 && std::string(arguments[2]) == "quiet";
     tap.subscribe(
         interest.mask,
-        [](const Event& event) {
-            std::printf("%u\n", static_cast<unsigned>(event.type));
+        [isQuiet](const Event& event) {
+            if (!isQuiet)
+                std::printf("%u\n", static_cast<unsigned>(event.type));
             if (isMouseDown(event.type)
                 && event.value(EventField::mouseEventButtonNumber) == forwardButton)
                 hangUntil(SIGUSR1);

@@ -122,7 +122,10 @@ std::vector<std::string> VirtualDesktop::displayServerCommand(const Options& opt
     if (options.server == Server::withoutHardware) {
         const auto screen
             = std::to_string(options.width) + "x" + std::to_string(options.height) + "x24";
-        return {"Xvfb", "-screen", "0", screen, "-dpi", "96"};
+        std::vector<std::string> command{"Xvfb", "-screen", "0", screen, "-dpi", "96"};
+        if (!options.disabledExtension.empty())
+            command.insert(command.end(), {"-extension", options.disabledExtension});
+        return command;
     }
     const auto configuration = runtimeFolder() / "xorg.conf";
     write(configuration, displayServerConfiguration(options));

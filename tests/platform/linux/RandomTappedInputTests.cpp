@@ -205,8 +205,8 @@ protected:
         input.desktop.settle();
         const auto& lines = window.lines();
         EXPECT_GT(lines.size(), static_cast<std::size_t>(steps) / 10);
-        EXPECT_GT(input.seen, steps / 10);
-        EXPECT_GT(input.swallowed, steps / 50);
+        EXPECT_GT(input.seen, steps / 50);
+        EXPECT_GT(input.swallowed, steps / 250);
         EXPECT_TRUE(isEven(lines));
     }
 };

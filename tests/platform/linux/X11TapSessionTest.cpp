@@ -28,6 +28,13 @@ EventInterest controlA() { return {keys, EventTriggers{.keys = {{keyA, eventFlag
 
 class X11TapSessionTest : public testing::Test {
 protected:
+    X11TapSessionTest()
+    {
+        // With acceleration the way of the cursor would depend on the time.
+        xcb_change_pointer_control(server_.get(), 1, 1, 0, true, true);
+        server_.sync();
+    }
+
     /// A tap that is switched on, and notes the types of what it sees.
     void tap(EventInterest interest, EventVerdict verdict = EventVerdict::pass)
     {
@@ -192,9 +199,6 @@ TEST_F(X11TapSessionTest, holdsAButtonUntilTheLastOfTwoMiceLetsGo)
 
 TEST_F(X11TapSessionTest, movesTheCursorAsFarAsTheMouseDoesByItself)
 {
-    // With acceleration the way would depend on the time.
-    xcb_change_pointer_control(server_.get(), 1, 1, 0, true, true);
-    server_.sync();
     const auto play = [this] {
         desktop_.window.movePointer({640, 400});
         for (int step = 0; step < 40; ++step) {
