@@ -1,7 +1,8 @@
 // How long the program takes from selecting an input source to the source being selected, against
 // the bare call of the same program that switches sources there, and what an activation costs.
-// Runs on the desktop that the environment names, with whichever input method runs there, and needs
-// two sources and two windows; `bench_select 500` does 500 rounds.
+// Measures on one virtual desktop after the other: with XKB layouts alone, with IBus, with Fcitx 5;
+// `bench_select 500` does 500 rounds. `bench_select 500 here` measures on the desktop that the
+// environment names, with whichever input method runs there.
 //
 // "bare" is the daemon's own call over a connection that is kept, or the server's own request, and
 // the answer to it. "select" is the call of the program's interface, by which the source is
@@ -12,6 +13,12 @@
 #include "platform/linux/X11RunningApplications.h"
 #include "platform/linux/X11WindowReading.h"
 #include "platform/linux/XkbProtocol.h"
+#include "support/ChildProcess.h"
+#include "support/DesktopWindows.h"
+#include "support/FcitxDaemon.h"
+#include "support/IBusDaemon.h"
+#include "support/TypingWindow.h"
+#include "support/VirtualDesktop.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -165,18 +172,59 @@ void benchApplications(X11Connection& connection, int rounds)
     }));
 }
 
+bool benchHere(int rounds)
+{
+    X11Connection connection;
+    if (!connection.isAlive()) {
+        std::fputs("There is no X server.\n", stderr);
+        return false;
+    }
+    benchSelection(connection, rounds);
+    benchApplications(connection, rounds);
+    return true;
+}
+
+/// Runs this program again, on the desktop that has just been made.
+void benchOnDesktop(const VirtualDesktop& desktop, const char* program, const char* rounds)
+{
+    const XConnection server;
+    const DesktopWindows windows(server);
+    const TypingWindow alpha(windows, "Alpha");
+    const TypingWindow beta(windows, "Beta");
+    const ChildProcess::Start start{
+        .command = {program, rounds, "here"}, .output = desktop.outputFolder() / "bench_select"};
+    run(start, std::chrono::minutes(2));
+    std::printf("%s\n", contentOf(start.output).c_str());
+}
+
+void benchEachBackend(const char* program, const char* rounds)
+{
+    {
+        const VirtualDesktop desktop({.keyboardLayouts = "us,de"});
+        benchOnDesktop(desktop, program, rounds);
+    }
+    {
+        VirtualDesktop desktop({.keyboardLayouts = "us"});
+        const IBusDaemon daemon(desktop, {"xkb:us::eng", "libpinyin"});
+        benchOnDesktop(desktop, program, rounds);
+    }
+    {
+        VirtualDesktop desktop({.keyboardLayouts = "us"});
+        const FcitxDaemon daemon(desktop, {"keyboard-us", "pinyin"});
+        benchOnDesktop(desktop, program, rounds);
+    }
+}
+
 } // namespace
 } // namespace brindlex
 
 int main(int count, char** arguments)
 {
-    const QCoreApplication application(count, arguments);
-    const int rounds = count > 1 ? std::max(2, std::atoi(arguments[1])) : 500;
-    brindlex::X11Connection connection;
-    if (!connection.isAlive()) {
-        std::fputs("There is no X server.\n", stderr);
-        return 1;
+    const auto* rounds = count > 1 ? arguments[1] : "500";
+    if (count < 3) {
+        brindlex::benchEachBackend(arguments[0], rounds);
+        return 0;
     }
-    brindlex::benchSelection(connection, rounds);
-    brindlex::benchApplications(connection, rounds);
+    const QCoreApplication application(count, arguments);
+    return brindlex::benchHere(std::max(2, std::atoi(rounds))) ? 0 : 1;
 }
