@@ -34,9 +34,9 @@ void MouseActionDispatcher::perform(const MouseAction::Any& action)
         },
         [&](const MouseActionEffect::SwitchSpace& effect) { spaces_.start(effect.right); },
         [&](const MouseActionEffect::LaunchProcess& effect) {
-            const auto launched = processes_.launch(effect.executable, effect.arguments);
-            if (!launched)
-                Log::error("runShell failed: " + launched.error(), logCategory::mouse);
+            processes_.launch(effect.executable, effect.arguments, [](const std::string& reason) {
+                Log::error("runShell failed: " + reason, logCategory::mouse);
+            });
         });
 }
 

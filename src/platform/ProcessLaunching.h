@@ -1,8 +1,7 @@
 #pragma once
 
-#include "foundation/Result.h"
-
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -13,11 +12,15 @@ class ProcessLaunching {
 public:
     virtual ~ProcessLaunching() = default;
 
-    /// Starts the executable with these arguments and the program's own standard streams, and
-    /// returns without waiting for it, or says in the system's words why it cannot be started. The
-    /// process outlives the program and leaves nothing behind when it ends.
-    virtual Result<Done, std::string> launch(
-        const std::filesystem::path& executable, const std::vector<std::string>& arguments)
+    /// Told in the system's words why a program could not be started.
+    using Failed = std::function<void(const std::string& reason)>;
+
+    /// Starts the executable with these arguments and the program's own standard streams. Returns
+    /// at once: starting takes long on a busy computer, and input waits for the main thread. What
+    /// cannot be started is told on the main thread, maybe inside this call. The process outlives
+    /// the program and leaves nothing behind when it ends.
+    virtual void launch(const std::filesystem::path& executable,
+        const std::vector<std::string>& arguments, Failed failed)
         = 0;
 };
 

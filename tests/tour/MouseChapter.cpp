@@ -56,7 +56,11 @@ public:
         desk_.mouse.click(middleButton);
         report_.check(
             eventually([&] { return contentOf(trace()) == "done\n"; }), "The command has run.");
-        report_.check(desk_.receives(window, {}), "The window gets nothing of the click.");
+        const bool isQuiet = desk_.receives(window, {});
+        std::string arrived;
+        for (const auto& line : window.lines())
+            arrived += " " + line + ";";
+        report_.check(isQuiet, "The window gets nothing of the click." + arrived);
     }
 
     void wheel()

@@ -30,7 +30,9 @@ public:
     bool start()
     {
         report_.tell("Brindlex is started.");
-        return report_.check(desk_.startProgram(), "It says in its log: Brindlex launched");
+        return report_.check(desk_.startProgram(), "It says in its log: Brindlex launched")
+            && report_.check(eventually([&] { return desk_.ibus.current() == pinyin; }),
+                "Notes is in front, where a rule says Pinyin: Pinyin is selected.");
     }
 
     void rulesOfApplications()

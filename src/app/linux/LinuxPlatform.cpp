@@ -21,7 +21,7 @@ LinuxPlatform::LinuxPlatform(
       overlayPanel_(display_), input_(mainThread_, clock), eventPermissions_(input_, defaults_),
       eventTapping_(input_), eventPosting_(input_, mainThread_, clock),
       displayLink_(display_, mainThread_, clock), cursor_(display_), elementQueue_("Brindlex.Elem"),
-      accessibility_(display_, elementQueue_), windows_(display_),
+      accessibility_(display_, elementQueue_), windows_(display_), processes_(mainThread_),
       opening_(display_), abilities_{mainThread_, clock, defaults_, userFolders, container,
                               notifications_, instances_, applications_, bundles_, inputSources_,
                               browserPages_, overlayPanel_, activation_, eventPermissions_,

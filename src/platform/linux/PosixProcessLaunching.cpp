@@ -1,6 +1,7 @@
 #include "platform/linux/PosixProcessLaunching.h"
 
 #include "foundation/FileHandle.h"
+#include "foundation/Result.h"
 
 #include <array>
 #include <cerrno>
@@ -11,6 +12,7 @@
 #include <linux/close_range.h>
 #include <sys/wait.h>
 #include <unistd.h>
+#include <utility>
 
 namespace brindlex {
 namespace {
@@ -69,13 +71,8 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts)
     _exit(0);
 }
 
-} // namespace
-
-Result<Done, std::string> PosixProcessLaunching::launch(
-    const std::filesystem::path& executable, const std::vector<std::string>& arguments)
+Result<Done, std::string> start(std::vector<std::string> command)
 {
-    std::vector<std::string> command{shellFor(executable).string()};
-    command.insert(command.end(), arguments.begin(), arguments.end());
     const auto pointers = pointersTo(command);
     std::array<int, 2> ends{};
     if (pipe2(ends.data(), O_CLOEXEC) != 0)
@@ -94,6 +91,23 @@ Result<Done, std::string> PosixProcessLaunching::launch(
     if (read(reading.descriptor(), &error, sizeof(error)) == sizeof(error))
         return fail(std::string(std::strerror(error)));
     return Done{};
+}
+
+} // namespace
+
+void PosixProcessLaunching::launch(const std::filesystem::path& executable,
+    const std::vector<std::string>& arguments, Failed failed)
+{
+    std::vector<std::string> command{shellFor(executable).string()};
+    command.insert(command.end(), arguments.begin(), arguments.end());
+    if (!queue_)
+        queue_.emplace("Brindlex.Launch");
+    queue_->post(
+        [&mainThread = mainThread_, command = std::move(command), failed = std::move(failed)] {
+            const auto started = start(command);
+            if (!started)
+                mainThread.post([failed, reason = started.error()] { failed(reason); });
+        });
 }
 
 } // namespace brindlex

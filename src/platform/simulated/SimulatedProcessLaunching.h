@@ -17,13 +17,13 @@ public:
         bool operator==(const Launch&) const = default;
     };
 
-    Result<Done, std::string> launch(
-        const std::filesystem::path& executable, const std::vector<std::string>& arguments) override
+    void launch(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
+        Failed failed) override
     {
         if (refusal)
-            return fail(*refusal);
-        launches.push_back({executable, arguments});
-        return Done{};
+            failed(*refusal);
+        else
+            launches.push_back({executable, arguments});
     }
 
     std::vector<Launch> launches{};
