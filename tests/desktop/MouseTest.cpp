@@ -271,6 +271,7 @@ TEST_F(Mouse, worksByDefaultsWhereItsSettingsAreDamaged)
 
     EXPECT_TRUE(
         desk.program->logs("The preference \"mouseConfig\" cannot be read; the default applies"));
+    desk.settle();
     desk.mouse.click(backButton);
     desk.mouse.turnWheel(1);
     EXPECT_TRUE(receives(window, {"press 8", "release 8", "press 5", "release 5"}));
