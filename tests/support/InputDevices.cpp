@@ -2,6 +2,7 @@
 
 #include "foundation/FatalError.h"
 
+#include <array>
 #include <functional>
 #include <xcb/xinput.h>
 
@@ -51,9 +52,10 @@ std::vector<std::string> floatingDevices(const XConnection& server)
 
 void setDevicePresent(const XConnection& server, const std::string& name, bool isPresent)
 {
-    const std::uint8_t value = isPresent ? 1 : 0;
+    // The library sends the padding behind a value along, up to the next four bytes.
+    const std::array<std::uint8_t, 4> value{static_cast<std::uint8_t>(isPresent)};
     xcb_input_xi_change_property(server.get(), deviceWithName(server, name), XCB_PROP_MODE_REPLACE,
-        8, server.atom("Device Enabled"), XCB_ATOM_INTEGER, 1, &value);
+        8, server.atom("Device Enabled"), XCB_ATOM_INTEGER, 1, value.data());
     server.sync();
 }
 
