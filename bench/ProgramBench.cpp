@@ -6,6 +6,7 @@
 // "ready" is the line "Brindlex launched" in the log. "activation" is from the window manager
 // naming the window to the server's keyboard having the group, seen by one other client.
 
+#include "Distribution.h"
 #include "platform/linux/XkbProtocol.h"
 #include "support/DesktopWindows.h"
 #include "support/Eventually.h"
@@ -22,7 +23,6 @@
 #include <unistd.h>
 #include <xcb/xcb.h>
 
-#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
@@ -44,12 +44,9 @@ double millisecondsSince(Clock::time_point start)
 
 void report(const char* what, std::vector<double> values, const char* unit)
 {
-    std::sort(values.begin(), values.end());
-    const auto at = [&](double share) {
-        return values[static_cast<std::size_t>(share * static_cast<double>(values.size() - 1))];
-    };
-    std::printf("%-44s median %8.3f  p99 %8.3f  min %8.3f  max %8.3f  %s, n %zu\n", what, at(0.5),
-        at(0.99), values.front(), values.back(), unit, values.size());
+    const auto all = distributionOf(std::move(values));
+    std::printf("%-44s median %8.3f  p99 %8.3f  min %8.3f  max %8.3f  %s, n %zu\n", what,
+        all.median, all.worstOfHundred, all.least, all.most, unit, all.count);
 }
 
 /// The number behind a key in one of the process's files under /proc.

@@ -1,16 +1,15 @@
 #include "platform/linux/PosixProcessLaunching.h"
 
-#include "foundation/FileHandle.h"
+#include "app/Log.h"
 #include "foundation/Result.h"
 
-#include <array>
-#include <cerrno>
 #include <csignal>
 #include <cstdlib>
 #include <cstring>
-#include <fcntl.h>
-#include <linux/close_range.h>
+#include <spawn.h>
 #include <sys/wait.h>
+#include <system_error>
+#include <thread>
 #include <unistd.h>
 #include <utility>
 
@@ -40,56 +39,65 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts)
     return pointers;
 }
 
-/// In the new process, where only calls that are safe after `fork` are allowed. Tells the reason of
-/// a failure through the pipe, which a success closes.
-[[noreturn]] void become(char* const* command, int report)
-{
-    sigset_t none;
-    sigemptyset(&none);
-    sigprocmask(SIG_SETMASK, &none, nullptr);
-    for (int signal = 1; signal < NSIG; ++signal)
-        std::signal(signal, SIG_DFL);
-    close_range(STDERR_FILENO + 1, ~0U, CLOSE_RANGE_CLOEXEC);
-    execv(command[0], command);
-    const int error = errno;
-    (void)!write(report, &error, sizeof(error));
-    _exit(127);
-}
-
-/// The process between leaves at once, so that the new one belongs to nobody and leaves nothing
-/// behind.
-[[noreturn]] void detach(char* const* command, int report)
-{
-    setsid();
-    const auto process = fork();
-    if (process == 0)
-        become(command, report);
-    if (process < 0) {
-        const int error = errno;
-        (void)!write(report, &error, sizeof(error));
+/// How a process starts: in a session of its own, with the signals as a new process has them and
+/// with the standard streams alone.
+class FreshStart {
+public:
+    FreshStart()
+    {
+        sigset_t none;
+        sigemptyset(&none);
+        sigset_t all;
+        sigfillset(&all);
+        posix_spawnattr_init(&attributes_);
+        posix_spawnattr_setsigmask(&attributes_, &none);
+        posix_spawnattr_setsigdefault(&attributes_, &all);
+        posix_spawnattr_setflags(
+            &attributes_, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
+        posix_spawn_file_actions_init(&actions_);
+        posix_spawn_file_actions_addclosefrom_np(&actions_, STDERR_FILENO + 1);
     }
-    _exit(0);
+    ~FreshStart()
+    {
+        posix_spawn_file_actions_destroy(&actions_);
+        posix_spawnattr_destroy(&attributes_);
+    }
+    FreshStart(const FreshStart&) = delete;
+    FreshStart& operator=(const FreshStart&) = delete;
+
+    Result<pid_t, std::string> run(char* const* command) const
+    {
+        pid_t process = -1;
+        const int error
+            = posix_spawn(&process, command[0], &actions_, &attributes_, command, environ);
+        if (error != 0)
+            return fail(std::string(std::strerror(error)));
+        return process;
+    }
+
+private:
+    posix_spawnattr_t attributes_{};
+    posix_spawn_file_actions_t actions_{};
+};
+
+/// Somebody has to wait for a process, or it stays in the table of processes.
+void takeFromTableWhenEnded(pid_t process)
+{
+    try {
+        std::thread([process] { waitpid(process, nullptr, 0); }).detach();
+    } catch (const std::system_error& noThread) {
+        Log::warn(std::string("Waiting for a process: ") + noThread.what(), logCategory::mouse);
+    }
 }
 
+/// Never by `fork`: to copy the memory map of a program with windows takes longer than all else
+/// between a click and its command.
 Result<Done, std::string> start(std::vector<std::string> command)
 {
-    const auto pointers = pointersTo(command);
-    std::array<int, 2> ends{};
-    if (pipe2(ends.data(), O_CLOEXEC) != 0)
-        return fail(std::string(std::strerror(errno)));
-    const FileHandle reading(ends[0]);
-    FileHandle writing(ends[1]);
-
-    const auto between = fork();
-    if (between < 0)
-        return fail(std::string(std::strerror(errno)));
-    if (between == 0)
-        detach(pointers.data(), writing.descriptor());
-    writing.close();
-    waitpid(between, nullptr, 0);
-    int error = 0;
-    if (read(reading.descriptor(), &error, sizeof(error)) == sizeof(error))
-        return fail(std::string(std::strerror(error)));
+    const auto process = FreshStart().run(pointersTo(command).data());
+    if (!process)
+        return fail(process.error());
+    takeFromTableWhenEnded(*process);
     return Done{};
 }
 
