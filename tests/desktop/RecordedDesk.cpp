@@ -225,4 +225,11 @@ void RecordedDesk::stroke(std::uint8_t key)
     desk.settle();
 }
 
+void RecordedDesk::waitForTyped(const std::string& text) const { terminal.receives(text); }
+
+void RecordedDesk::waitForSelected(const std::string& text) const
+{
+    eventually([&] { return selectedText() == text; });
+}
+
 } // namespace brindlex

@@ -28,6 +28,11 @@ public:
     void click(int button, int times = 1);
     void stroke(std::uint8_t key);
 
+    /// Waits until the terminal has got exactly this text, or until that text is selected. What
+    /// never comes shows in the next note.
+    void waitForTyped(const std::string& text) const;
+    void waitForSelected(const std::string& text) const;
+
     MouseDesk desk;
     EventLogWindow one{"One", {100, 100, 300, 200}};
     EventLogWindow two{"Two", {300, 250, 300, 200}};

@@ -115,10 +115,12 @@ const std::vector<Habit> habits{
             on.desk.windows.activate(on.terminal.window());
             for (int letter = 0; letter < 8; ++letter)
                 on.stroke(keyA);
+            on.waitForTyped("aaaaaaaa");
             on.note("typed");
             const auto area = on.desk.windows.areaOf(on.terminal.window());
             on.movePointer(area.x + 4, area.y + 8);
             on.drag(leftButton, 150, 0);
+            on.waitForSelected("aaaaaaaa");
             on.note("selected");
         },
         "selected: aaaaaaaa"},
@@ -127,10 +129,12 @@ const std::vector<Habit> habits{
             on.desk.windows.activate(on.terminal.window());
             for (int letter = 0; letter < 8; ++letter)
                 on.stroke(keyA);
+            on.waitForTyped("aaaaaaaa");
             on.note("typed");
             const auto area = on.desk.windows.areaOf(on.terminal.window());
             on.movePointer(area.x + 14, area.y + 8);
             on.click(leftButton, 2);
+            on.waitForSelected("aaaaaaaa");
             on.note("selected");
         },
         "selected: aaaaaaaa"},
@@ -139,12 +143,15 @@ const std::vector<Habit> habits{
             on.desk.windows.activate(on.terminal.window());
             for (int letter = 0; letter < 3; ++letter)
                 on.stroke(keyA);
+            on.waitForTyped("aaa");
             on.note("typed");
             const auto area = on.desk.windows.areaOf(on.terminal.window());
             on.movePointer(area.x + 10, area.y + 8);
             on.click(leftButton, 2);
+            on.waitForSelected("aaa");
             on.note("selected");
             on.click(middleButton);
+            on.waitForTyped("aaaaaa");
             on.note("pasted");
         },
         "selected: aaa"},
@@ -167,6 +174,7 @@ const std::vector<Habit> habits{
             on.stroke(shiftKey);
             on.desk.keyboard.release(altKey);
             on.stroke(keyY);
+            on.waitForTyped("yz");
             on.note("typed");
         },
         "244x134 yz"},

@@ -22,11 +22,11 @@ LinuxPlatform::LinuxPlatform(
       eventTapping_(input_), eventPosting_(input_, mainThread_, clock),
       displayLink_(display_, mainThread_, clock), cursor_(display_), elementQueue_("Brindlex.Elem"),
       accessibility_(display_, elementQueue_), windows_(display_), processes_(mainThread_),
-      opening_(display_), abilities_{mainThread_, clock, defaults_, userFolders, container,
-                              notifications_, instances_, applications_, bundles_, inputSources_,
-                              browserPages_, overlayPanel_, activation_, eventPermissions_,
-                              eventTapping_, eventPosting_, displayLink_, cursor_, accessibility_,
-                              windows_, processes_, opening_}
+      opening_(display_, activeWindow_, applications_),
+      abilities_{mainThread_, clock, defaults_, userFolders, container, notifications_, instances_,
+          applications_, bundles_, inputSources_, browserPages_, overlayPanel_, activation_,
+          eventPermissions_, eventTapping_, eventPosting_, displayLink_, cursor_, accessibility_,
+          windows_, processes_, opening_}
 {
 }
 

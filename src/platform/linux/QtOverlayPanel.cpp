@@ -2,8 +2,8 @@
 
 #include "platform/linux/ActiveScreen.h"
 #include "platform/linux/PillHUDView.h"
+#include "platform/linux/RoundedRegion.h"
 
-#include <QBitmap>
 #include <QGuiApplication>
 #include <QImage>
 #include <QPainter>
@@ -21,19 +21,6 @@ constexpr int fadeInMilliseconds = 120;
 constexpr int fadeOutMilliseconds = 250;
 /// Leaves a part of the screen at both sides of a long text.
 constexpr double mostShareOfScreen = 0.8;
-
-QRegion roundedRegion(const QSize& size)
-{
-    QBitmap shape(size);
-    shape.fill(Qt::color0);
-    QPainter painter(&shape);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(Qt::color1);
-    painter.drawRoundedRect(
-        QRect({0, 0}, size), PillHUDView::cornerRadius, PillHUDView::cornerRadius);
-    painter.end();
-    return QRegion(shape);
-}
 
 } // namespace
 
@@ -82,7 +69,7 @@ public:
         area.moveCenter(space.center());
         setGeometry(area);
         const bool fades = fill_ == PillHUDView::Fill::translucent;
-        setMask(fades ? QRegion() : roundedRegion(area.size()));
+        setMask(fades ? QRegion() : roundedRegion(area.size(), PillHUDView::cornerRadius));
         setOpacity(fades ? 0 : 1);
         QRasterWindow::show();
         raise();

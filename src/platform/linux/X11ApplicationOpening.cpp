@@ -1,6 +1,10 @@
 #include "platform/linux/X11ApplicationOpening.h"
 
-#include "platform/linux/VirtualDesktops.h"
+#include "app/Log.h"
+#include "platform/linux/WindowChoice.h"
+#include "platform/linux/X11OpenWindows.h"
+#include "platform/linux/X11WindowActivation.h"
+#include "platform/linux/X11WindowReading.h"
 
 #include <QDBusConnection>
 #include <QDBusConnectionInterface>
@@ -47,12 +51,35 @@ bool showOverview()
 
 } // namespace
 
+X11ApplicationOpening::X11ApplicationOpening(X11Connection& connection,
+    X11ActiveWindow& activeWindow, const X11RunningApplications& applications)
+    : connection_(connection), applications_(applications),
+      chooser_(connection, [this](std::uint32_t window) { activateWindow(connection_, window); })
+{
+    recent_.note(activeWindow.window());
+    windowChanges_
+        = activeWindow.observe([this, &activeWindow] { recent_.note(activeWindow.window()); });
+}
+
 void X11ApplicationOpening::open(const std::filesystem::path& application)
 {
-    if (application.filename() != "Mission Control.app")
+    if (application.filename() != "Mission Control.app" || showOverview())
         return;
-    if (!showOverview())
-        toggleShowingDesktop(connection_);
+    QMetaObject::invokeMethod(
+        &later_, [this] { toggleWindows(); }, Qt::QueuedConnection);
+}
+
+void X11ApplicationOpening::toggleWindows()
+{
+    if (chooser_.isShown())
+        return chooser_.close();
+    const auto active = activeWindow(connection_);
+    recent_.note(active);
+    const auto windows = openWindows(connection_, applications_, recent_);
+    if (windows.empty())
+        return Log::info("Mission Control: no window is open", logCategory::mouse);
+    const bool worksInFirst = windows.front().window == active;
+    chooser_.show(windows, rowToBeginWith(windows.size(), worksInFirst));
 }
 
 } // namespace brindlex

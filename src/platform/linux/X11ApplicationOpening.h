@@ -1,24 +1,40 @@
 #pragma once
 
+#include "foundation/Subscription.h"
 #include "platform/ApplicationOpening.h"
+#include "platform/linux/QtWindowChooser.h"
+#include "platform/linux/RecentWindows.h"
+#include "platform/linux/X11ActiveWindow.h"
 #include "platform/linux/X11Connection.h"
+#include "platform/linux/X11RunningApplications.h"
+
+#include <QObject>
 
 namespace brindlex {
 
 /// Opens what the program asks for by the path that it has on a Mac.
 ///
 /// Mission Control is the overview of the desktop: that of GNOME or KDE where one of them answers
-/// on the session bus. A desktop without an overview shows its windows side by side in no form at
-/// all; there the empty desktop is shown, and the windows again with the next time. Other
-/// applications have no such path here, and nothing happens.
+/// on the session bus. Elsewhere it is a list of the open windows of all virtual desktops, and the
+/// next time closes it; it comes from the loop, so that an event that asked for it goes on at once.
+/// Where no window is open only the log says so. Other applications have no such path here, and
+/// nothing happens.
 class X11ApplicationOpening : public ApplicationOpening {
 public:
-    explicit X11ApplicationOpening(X11Connection& connection) : connection_(connection) { }
+    X11ApplicationOpening(X11Connection& connection, X11ActiveWindow& activeWindow,
+        const X11RunningApplications& applications);
 
     void open(const std::filesystem::path& application) override;
 
 private:
+    void toggleWindows();
+
     X11Connection& connection_;
+    const X11RunningApplications& applications_;
+    RecentWindows recent_;
+    QtWindowChooser chooser_;
+    Subscription windowChanges_;
+    QObject later_;
 };
 
 } // namespace brindlex

@@ -26,8 +26,10 @@ public:
     std::vector<RunningApplication> running() const override;
     Subscription observeActivation(ActivationHandler handler) override;
 
-private:
+    /// The application of a window that says this of itself; costs no round trip.
     RunningApplication applicationOf(const X11WindowDescription& description) const;
+
+private:
     RunningApplication identify(const X11WindowDescription& description) const;
     void readFrontmost();
 

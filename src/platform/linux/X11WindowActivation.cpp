@@ -25,24 +25,33 @@ void tellWindowManager(
         connection.get(), false, connection.root(), mask, reinterpret_cast<const char*>(&event));
 }
 
+void bringToFront(X11Connection& connection, xcb_window_t window)
+{
+    const auto desktop = X11PropertyRequest(connection, window, "_NET_WM_DESKTOP", 4).values();
+    if (desktop && !desktop->empty() && desktop->front() != onAllDesktops)
+        tellWindowManager(connection, connection.root(), "_NET_CURRENT_DESKTOP", desktop->front());
+    tellWindowManager(connection, window, "_NET_ACTIVE_WINDOW", sourceIsPager);
+}
+
+/// A round trip, so that the process may end at once.
+void waitForServer(X11Connection& connection) { activeWindow(connection); }
+
 } // namespace
+
+void activateWindow(X11Connection& connection, xcb_window_t window)
+{
+    bringToFront(connection, window);
+    waitForServer(connection);
+}
 
 void activateWindowsOf(X11Connection& connection, std::int64_t processIdentifier)
 {
     const auto windows = managedWindows(connection);
     const auto descriptions = describe(connection, windows);
-    for (std::size_t index = 0; index < windows.size(); ++index) {
-        if (!descriptions[index] || descriptions[index]->processIdentifier != processIdentifier)
-            continue;
-        const auto desktop
-            = X11PropertyRequest(connection, windows[index], "_NET_WM_DESKTOP", 4).values();
-        if (desktop && !desktop->empty() && desktop->front() != onAllDesktops)
-            tellWindowManager(
-                connection, connection.root(), "_NET_CURRENT_DESKTOP", desktop->front());
-        tellWindowManager(connection, windows[index], "_NET_ACTIVE_WINDOW", sourceIsPager);
-    }
-    // A round trip, so that the process may end at once.
-    activeWindow(connection);
+    for (std::size_t index = 0; index < windows.size(); ++index)
+        if (descriptions[index] && descriptions[index]->processIdentifier == processIdentifier)
+            bringToFront(connection, windows[index]);
+    waitForServer(connection);
 }
 
 } // namespace brindlex

@@ -71,6 +71,24 @@ std::optional<X11WindowDescription> description(DescriptionRequest& request)
     return result;
 }
 
+struct TitleRequest {
+    X11PropertyRequest modern;
+    X11PropertyRequest old;
+
+    TitleRequest(X11Connection& connection, xcb_window_t window)
+        : modern(connection, window, "_NET_WM_NAME", titleLimit),
+          old(connection, window, "WM_NAME", titleLimit)
+    {
+    }
+};
+
+std::string title(TitleRequest& request)
+{
+    const auto modern = request.modern.bytes();
+    const auto old = request.old.bytes();
+    return wellFormed(upToNull(modern && !modern->empty() ? *modern : old.value_or("")));
+}
+
 } // namespace
 
 xcb_window_t activeWindow(X11Connection& connection)
@@ -103,10 +121,21 @@ std::vector<std::optional<X11WindowDescription>> describe(
 
 std::string windowTitle(X11Connection& connection, xcb_window_t window)
 {
-    X11PropertyRequest modern(connection, window, "_NET_WM_NAME", titleLimit);
-    X11PropertyRequest old(connection, window, "WM_NAME", titleLimit);
-    const auto title = modern.bytes();
-    return wellFormed(upToNull(title && !title->empty() ? *title : old.bytes().value_or("")));
+    return windowTitles(connection, {window}).front();
+}
+
+std::vector<std::string> windowTitles(
+    X11Connection& connection, const std::vector<xcb_window_t>& windows)
+{
+    std::vector<TitleRequest> requests;
+    requests.reserve(windows.size());
+    for (const auto window : windows)
+        requests.emplace_back(connection, window);
+    std::vector<std::string> titles;
+    titles.reserve(windows.size());
+    for (auto& request : requests)
+        titles.push_back(title(request));
+    return titles;
 }
 
 } // namespace brindlex

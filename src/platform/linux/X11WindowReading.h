@@ -36,4 +36,8 @@ std::vector<std::optional<X11WindowDescription>> describe(
 /// The title of the window; empty when it has none or has gone.
 std::string windowTitle(X11Connection& connection, xcb_window_t window);
 
+/// The titles of the windows, in their order, at the price of one round trip for all.
+std::vector<std::string> windowTitles(
+    X11Connection& connection, const std::vector<xcb_window_t>& windows);
+
 } // namespace brindlex

@@ -1,0 +1,275 @@
+#include "desktop/MouseDesk.h"
+#include "support/PlainWindow.h"
+#include "support/Screenshot.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <memory>
+
+namespace brindlex {
+namespace {
+
+// Keys as X counts them.
+constexpr std::uint8_t escapeKey = 9;
+constexpr std::uint8_t tabKey = 23;
+constexpr std::uint8_t returnKey = 36;
+constexpr std::uint8_t keyA = 38;
+constexpr std::uint8_t upKey = 111;
+constexpr std::uint8_t downKey = 116;
+
+/// The rows of the list, as a user sees them.
+constexpr int rowHeight = 44;
+constexpr int padding = 10;
+
+/// A desktop without an overview, on which the middle button asks for one.
+class WindowChooser : public testing::Test {
+protected:
+    WindowChooser()
+    {
+        auto config = everything();
+        config.click.bindings
+            = {brindlex::click(MouseButton::button3, {}, MouseAction::MissionControl{})};
+        desk.start(config);
+    }
+
+    /// Opens a window and leaves it the active one.
+    const PlainWindow& open(const std::string& title, const std::string& className = "Editor")
+    {
+        opened.push_back(std::make_unique<PlainWindow>(
+            desk.server, PlainWindow::Claims{.wmClass = wmClass(className), .title = title}));
+        EXPECT_TRUE(desk.windows.activate(opened.back()->window()));
+        return *opened.back();
+    }
+
+    std::optional<xcb_window_t> list() const
+    {
+        const auto own = desk.windows.unmanagedOf(desk.program->process());
+        return own.empty() ? std::nullopt : std::optional(own.front());
+    }
+
+    /// Asks for the list and waits until it has the keys.
+    testing::AssertionResult opens()
+    {
+        desk.mouse.click(middleButton);
+        if (!eventually([&] { return list().has_value(); }))
+            return testing::AssertionFailure() << desk.program->report();
+        desk.settle();
+        return testing::AssertionSuccess();
+    }
+
+    bool isGone() const
+    {
+        return eventually([&] { return !list(); });
+    }
+    bool isActive(const PlainWindow& window) const
+    {
+        return eventually([&] { return desk.windows.active() == window.window(); });
+    }
+
+    void movePointer(int x, int y) const
+    {
+        xcb_warp_pointer(desk.server.get(), XCB_WINDOW_NONE, desk.server.root(), 0, 0, 0, 0,
+            static_cast<std::int16_t>(x), static_cast<std::int16_t>(y));
+        desk.server.sync();
+        desk.mouse.move(1, 0);
+        desk.settle();
+    }
+
+    void stroke(std::uint8_t key) const
+    {
+        desk.keyboard.stroke(key);
+        desk.settle();
+    }
+
+    MouseDesk desk;
+    std::vector<std::unique_ptr<PlainWindow>> opened;
+};
+
+TEST_F(WindowChooser, liesInTheMiddleWithARowForEachWindow)
+{
+    open("Letter");
+    open("季度报告.odt - 文档");
+    ASSERT_TRUE(opens());
+
+    const auto area = desk.windows.areaOf(*list());
+
+    const auto& screen = desk.server.screen();
+    EXPECT_LE(std::abs(area.centreX() - screen.width_in_pixels / 2), 1);
+    EXPECT_LE(std::abs(area.centreY() - screen.height_in_pixels / 2), 1);
+    EXPECT_EQ(area.height, 2 * rowHeight + 2 * padding);
+}
+
+TEST_F(WindowChooser, beginsWithTheWindowBefore)
+{
+    const auto& first = open("First");
+    open("Second");
+    ASSERT_TRUE(opens());
+
+    stroke(returnKey);
+
+    EXPECT_TRUE(isGone());
+    EXPECT_TRUE(isActive(first));
+}
+
+TEST_F(WindowChooser, followsTheKeysThroughTheWindowsInTheOrderOfTheirUse)
+{
+    const auto& first = open("First");
+    const auto& second = open("Second");
+    const auto& third = open("Third");
+    ASSERT_TRUE(desk.windows.activate(first.window()));
+    // first, third, second: it begins with the third.
+    ASSERT_TRUE(opens());
+    stroke(downKey);
+    stroke(returnKey);
+    EXPECT_TRUE(isActive(second));
+
+    // second, first, third
+    ASSERT_TRUE(opens());
+    stroke(tabKey);
+    stroke(returnKey);
+    EXPECT_TRUE(isActive(third));
+
+    // third, second, first
+    ASSERT_TRUE(opens());
+    stroke(upKey);
+    stroke(upKey);
+    stroke(returnKey);
+    EXPECT_TRUE(isActive(first));
+}
+
+TEST_F(WindowChooser, changesToTheDesktopOfTheWindow)
+{
+    const auto& here = open("Here");
+    desk.server.ask(desk.server.root(), "_NET_CURRENT_DESKTOP", {1, XCB_CURRENT_TIME});
+    ASSERT_TRUE(desk.showsDesktop(1));
+    open("There");
+    ASSERT_TRUE(opens());
+
+    stroke(returnKey);
+
+    EXPECT_TRUE(desk.showsDesktop(0));
+    EXPECT_TRUE(isActive(here));
+}
+
+TEST_F(WindowChooser, bringsBackAMinimisedWindow)
+{
+    const auto& hidden = open("Hidden");
+    open("Shown");
+    constexpr std::uint32_t iconic = 3;
+    desk.server.ask(hidden.window(), "WM_CHANGE_STATE", {iconic});
+    ASSERT_TRUE(eventually([&] { return !desk.windows.isOnScreen(hidden.window()); }));
+    ASSERT_TRUE(opens());
+
+    stroke(returnKey);
+
+    EXPECT_TRUE(isActive(hidden));
+    EXPECT_TRUE(eventually([&] { return desk.windows.isOnScreen(hidden.window()); }));
+}
+
+TEST_F(WindowChooser, takesTheRowThatIsClicked)
+{
+    const auto& first = open("First");
+    open("Second");
+    open("Third");
+    ASSERT_TRUE(opens());
+    const auto area = desk.windows.areaOf(*list());
+
+    movePointer(area.centreX(), area.y + padding + 2 * rowHeight + rowHeight / 2);
+    desk.mouse.click(leftButton);
+
+    EXPECT_TRUE(isGone());
+    EXPECT_TRUE(isActive(first));
+}
+
+TEST_F(WindowChooser, closesByEscapeByAClickElsewhereAndByTheNextTime)
+{
+    open("First");
+    const auto& second = open("Second");
+
+    ASSERT_TRUE(opens());
+    stroke(escapeKey);
+    EXPECT_TRUE(isGone());
+
+    ASSERT_TRUE(opens());
+    movePointer(1200, 700);
+    desk.mouse.click(leftButton);
+    EXPECT_TRUE(isGone());
+
+    ASSERT_TRUE(opens());
+    desk.mouse.click(middleButton);
+    EXPECT_TRUE(isGone());
+    EXPECT_TRUE(isActive(second));
+}
+
+TEST_F(WindowChooser, keepsToItselfWhatIsTypedAndClickedIntoIt)
+{
+    EventLogWindow window("Log", {100, 100, 300, 200});
+    ASSERT_TRUE(opens());
+    window.forget();
+    stroke(keyA);
+    stroke(escapeKey);
+    ASSERT_TRUE(isGone());
+    ASSERT_TRUE(opens());
+    movePointer(110, 130);
+    desk.mouse.click(leftButton);
+    ASSERT_TRUE(isGone());
+    stroke(keyA);
+
+    const auto input = [&] {
+        MouseDesk::Lines lines;
+        for (const auto& line : window.lines())
+            if (line.starts_with("key") || line.starts_with("press") || line.starts_with("release"))
+                lines.push_back(line);
+        return lines;
+    };
+    const MouseDesk::Lines expected{"key 38 down", "key 38 up"};
+    EXPECT_TRUE(eventually([&] { return input() == expected; })) << testing::PrintToString(input());
+    EXPECT_EQ(window.held(), MouseDesk::Lines{});
+}
+
+TEST_F(WindowChooser, isNotShownWithoutWindows)
+{
+    desk.mouse.click(middleButton);
+
+    EXPECT_TRUE(desk.program->logs("Mission Control: no window is open")) << desk.program->report();
+    EXPECT_FALSE(list());
+}
+
+TEST_F(WindowChooser, scrollsThroughManyWindows)
+{
+    const auto& first = open("First");
+    desk.settle();
+    for (int number = 1; number < 40; ++number)
+        open("Window " + std::to_string(number));
+    ASSERT_TRUE(desk.windows.activate(first.window()));
+    desk.settle();
+    ASSERT_TRUE(desk.windows.activate(opened[7]->window()));
+    desk.settle();
+    ASSERT_TRUE(opens());
+    EXPECT_LT(desk.windows.areaOf(*list()).height, desk.server.screen().height_in_pixels);
+
+    constexpr std::uint8_t endKey = 115;
+    stroke(endKey);
+    stroke(downKey);
+    stroke(downKey);
+    stroke(returnKey);
+
+    EXPECT_TRUE(isActive(first));
+}
+
+TEST_F(WindowChooser, isReadOverABrightWindow)
+{
+    open("Letter");
+    open("Invoice");
+    ASSERT_TRUE(opens());
+    const Screenshot picture(desk.server, desk.windows.areaOf(*list()));
+
+    // The ground of the first row is dark, that of the chosen one blue.
+    EXPECT_EQ(picture.at(picture.width() / 2, padding + 6), (Screenshot::Pixel{44, 44, 46}));
+    EXPECT_EQ(picture.at(picture.width() / 2, padding + rowHeight + 6),
+        (Screenshot::Pixel{10, 100, 220}));
+}
+
+} // namespace
+} // namespace brindlex
