@@ -82,8 +82,10 @@ TYPED_TEST(InputMethodSwitching, letsTheUsersChoiceStandUntilTheContextChanges)
     ASSERT_TRUE(this->selects(TypeParam::chinese)) << program.report();
 
     // No hand is faster than the look that makes sure of the selection.
-    ASSERT_TRUE(throughout(std::chrono::milliseconds{400},
-        [&] { return this->daemon_.current() == TypeParam::chinese; }));
+    ASSERT_TRUE(eventually([&] {
+        return throughout(std::chrono::milliseconds{400},
+            [&] { return this->daemon_.current() == TypeParam::chinese; });
+    })) << program.report();
     ASSERT_TRUE(this->daemon_.select(TypeParam::latin));
     ASSERT_TRUE(desk.windows.activate(gamma.window()));
     ASSERT_TRUE(desk.windows.activate(alpha.window()));
