@@ -61,8 +61,7 @@ void printAbsence(const std::string& program, const char* reason)
 void endProgram(MouseDesk& desk)
 {
     for (const auto& message : desk.program->messages())
-        if (message.find("disabled") != std::string::npos
-            || message.find("watchdog") != std::string::npos)
+        if (message.starts_with("GlobalEventTap: ") || message.starts_with("Input watchdog: "))
             std::printf("  the log says: %s\n", message.c_str());
     desk.program->quit();
     desk.program.reset();
@@ -366,7 +365,8 @@ void measureSmoothness(MouseDesk& desk, const TargetWindow& target)
 
 // Motion.
 
-void measureMotion(const std::string& name, const MouseDesk& desk, const TargetWindow& target)
+void measureMotion(
+    const std::string& name, const MouseDesk& desk, const TargetWindow& target, double distance = 3)
 {
     constexpr int motions = 3000;
     const auto server = processOfServer(desk.server);
@@ -375,7 +375,8 @@ void measureMotion(const std::string& name, const MouseDesk& desk, const TargetW
     const auto processBefore = desk.program ? secondsUsedBy(process) : 0;
     const auto begin = Clock::now();
     for (int motion = 0; motion < motions; ++motion) {
-        desk.mouse.move(motion % 2 ? 3 : -3, 0);
+        if (distance != 0)
+            desk.mouse.move(motion % 2 ? distance : -distance, 0);
         std::this_thread::sleep_until(begin + (motion + 1) * 1ms);
     }
     desk.mouse.settle();
@@ -403,6 +404,7 @@ void measureMotions(MouseDesk& desk, const TargetWindow& target)
              std::pair{"a gesture of the left button", leftGesture()},
              std::pair{"a smooth wheel", smoothWheel()}}) {
         desk.start(config);
+        measureMotion(std::string(name) + ", mouse at rest", desk, target, 0);
         measureMotion(name, desk, target);
         endProgram(desk);
     }

@@ -50,12 +50,17 @@ void X11TappedInput::receive(const X11InputEvent::Button& event)
         held.erase(number);
 
     const auto type = event.isPress ? downTypeOf(number) : upTypeOf(number);
-    const auto verdict = takesDevice ? taps_.offer({type, event.location, event.flags, fields})
-                                     : offer(type, fields);
-    if (event.isPress)
+    if (takesDevice) {
+        const auto verdict = taps_.offer({type, event.location, event.flags, fields});
         pressed(event.device, Kind::button, event.button, verdict);
-    else
+    } else if (event.isPress) {
+        pressed(event.device, Kind::button, event.button, offer(type, fields));
+    } else {
+        // Its way is decided, so that the application need not wait for the question where the
+        // cursor is.
         released(event.device, Kind::button, event.button);
+        offer(type, fields);
+    }
     hooks_.eventDone();
 }
 

@@ -16,9 +16,9 @@ namespace brindlex {
 /// What lies between taken devices and the applications: shows the taps what the devices send and
 /// plays what they let pass, in the order in which it came.
 ///
-/// A release goes where its press went, whatever the taps say to it. Motion always moves the
-/// cursor. The server repeats a held key that was played to it by itself, so that repeats are
-/// shown and not played. Main thread only.
+/// A release goes where its press went, whatever the taps say to it; that of a button goes before
+/// they see it. Motion always moves the cursor. The server repeats a held key that was played to it
+/// by itself, so that repeats are shown and not played. Main thread only.
 class X11TappedInput {
 public:
     struct Hooks {

@@ -1,5 +1,6 @@
 #include "platform/linux/X11TapSession.h"
 
+#include "support/Eventually.h"
 #include "support/InputDevices.h"
 #include "support/KeyboardGroup.h"
 #include "support/PlayedInput.h"
@@ -97,6 +98,26 @@ TEST_F(X11TapSessionTest, takesAMouseFromTheTriggerToTheLastReleaseAndNothingEls
 
     EXPECT_EQ(floatingDevices(server_), Lines{});
     EXPECT_TRUE(desktop_.receives({"press 2", "press 1", "release 2", "release 1"}));
+}
+
+TEST_F(X11TapSessionTest, holdsNoReleaseOfAButtonUpForTheTaps)
+{
+    bool cameFirst = false;
+    const auto interest = middleButton();
+    tap_ = desktop_.tapping.createTap(interest.mask, {interest}, [&](const Event& event) {
+        if (event.type == EventType::otherMouseUp)
+            cameFirst = eventually([&] {
+                return desktop_.window.lines() == Lines{"press 2", "release 2"};
+            });
+        return EventVerdict::pass;
+    });
+    ASSERT_NE(tap_, nullptr);
+    tap_->setEnabled(true);
+    desktop_.settle();
+
+    desktop_.mouse.click(2);
+    EXPECT_TRUE(desktop_.receives({"press 2", "release 2"}));
+    EXPECT_TRUE(loopUntil([&] { return cameFirst; }));
 }
 
 TEST_F(X11TapSessionTest, takesAKeyboardOnlyWhileAHotkeyIsHeld)
