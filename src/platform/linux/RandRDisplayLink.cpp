@@ -1,5 +1,6 @@
 #include "platform/linux/RandRDisplayLink.h"
 
+#include <algorithm>
 #include <cmath>
 #include <memory>
 #include <utility>
@@ -12,6 +13,9 @@ constexpr double usualRate = 60;
 /// What lies beyond is a mode without timing, as servers without a screen have.
 constexpr double lowestRate = 10;
 constexpr double highestRate = 1000;
+/// X moves a page by whole notches. More frames make no finer steps of them, but the last pixels of
+/// each motion so small that a notch turned alone would come to nothing.
+constexpr double mostFramesPerSecond = 60;
 
 using Resources = X11Message<xcb_randr_get_screen_resources_current_reply_t>;
 using Output = X11Message<xcb_randr_get_output_info_reply_t>;
@@ -62,7 +66,9 @@ public:
     void waitForNext()
     {
         const auto now = clock_.continuousTime();
-        const auto next = (std::floor((now - start_) / interval_) + 1) * interval_ + start_;
+        // A frame that is due now, but for the rounding of its time, is the one before.
+        const auto frame = std::floor((now - start_) / interval_ + 1e-3) + 1;
+        const auto next = frame * interval_ + start_;
         timer_ = mainThread_.after(next - now, [self = weak_from_this()] {
             if (const auto timer = self.lock())
                 timer->fire();
@@ -124,7 +130,7 @@ Subscription RandRDisplayLink::onEachFrame(
     if (!own)
         return Subscription([] {});
     // More frames than the screen shows are of no use to anybody.
-    const auto rate = std::min(framesPerSecond.value_or(*own), *own);
+    const auto rate = std::min({framesPerSecond.value_or(*own), *own, mostFramesPerSecond});
     const auto timer = std::make_shared<FrameTimer>(
         mainThread_, clock_, 1 / std::max(rate, lowestRate), std::move(handler));
     timer->waitForNext();
