@@ -215,8 +215,12 @@ void RecordedDesk::drag(int button, int x, int y)
 
 void RecordedDesk::click(int button, int times)
 {
-    for (int time = 0; time < times; ++time)
+    for (int time = 0; time < times; ++time) {
         desk.mouse.click(button);
+        // A terminal takes a press in the very millisecond of the release before for one that came
+        // weeks later.
+        waitUntilStill();
+    }
 }
 
 void RecordedDesk::stroke(std::uint8_t key)
@@ -227,9 +231,9 @@ void RecordedDesk::stroke(std::uint8_t key)
 
 void RecordedDesk::waitForTyped(const std::string& text) const { terminal.receives(text); }
 
-void RecordedDesk::waitForSelected(const std::string& text) const
+void RecordedDesk::waitForLine(const std::string& line)
 {
-    eventually([&] { return selectedText() == text; });
+    eventually([&] { return ("\n" + state()).find("\n" + line + "\n") != std::string::npos; });
 }
 
 } // namespace brindlex

@@ -28,10 +28,10 @@ public:
     void click(int button, int times = 1);
     void stroke(std::uint8_t key);
 
-    /// Waits until the terminal has got exactly this text, or until that text is selected. What
-    /// never comes shows in the next note.
+    /// Waits until the terminal has got exactly this text, or until there is this line to note.
+    /// What never comes shows in the next note.
     void waitForTyped(const std::string& text) const;
-    void waitForSelected(const std::string& text) const;
+    void waitForLine(const std::string& line);
 
     MouseDesk desk;
     EventLogWindow one{"One", {100, 100, 300, 200}};

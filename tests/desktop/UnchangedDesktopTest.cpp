@@ -69,12 +69,15 @@ const std::vector<Habit> habits{
         [](RecordedDesk& on) {
             on.desk.keyboard.press(altKey);
             on.stroke(tabKey);
+            on.waitForLine("on screen: 352,317 320x134");
             on.note("next window");
             on.desk.keyboard.release(altKey);
+            on.waitForLine("front: Two");
             on.note("chosen");
             on.desk.keyboard.press(controlKey);
             on.desk.keyboard.press(altKey);
             on.stroke(rightKey);
+            on.waitForLine("desktop: 1");
             on.note("next desktop, the keys still held");
             on.desk.keyboard.release(altKey);
             on.desk.keyboard.release(controlKey);
@@ -120,7 +123,7 @@ const std::vector<Habit> habits{
             const auto area = on.desk.windows.areaOf(on.terminal.window());
             on.movePointer(area.x + 4, area.y + 8);
             on.drag(leftButton, 150, 0);
-            on.waitForSelected("aaaaaaaa");
+            on.waitForLine("selected: aaaaaaaa");
             on.note("selected");
         },
         "selected: aaaaaaaa"},
@@ -134,7 +137,7 @@ const std::vector<Habit> habits{
             const auto area = on.desk.windows.areaOf(on.terminal.window());
             on.movePointer(area.x + 14, area.y + 8);
             on.click(leftButton, 2);
-            on.waitForSelected("aaaaaaaa");
+            on.waitForLine("selected: aaaaaaaa");
             on.note("selected");
         },
         "selected: aaaaaaaa"},
@@ -148,7 +151,7 @@ const std::vector<Habit> habits{
             const auto area = on.desk.windows.areaOf(on.terminal.window());
             on.movePointer(area.x + 10, area.y + 8);
             on.click(leftButton, 2);
-            on.waitForSelected("aaa");
+            on.waitForLine("selected: aaa");
             on.note("selected");
             on.click(middleButton);
             on.waitForTyped("aaaaaa");

@@ -45,7 +45,8 @@ double drawElided(QPainter& painter, const QRectF& area, Qt::AlignmentFlag side,
         = metrics.elidedText(QString::fromStdString(text), Qt::ElideRight, area.width());
     painter.setFont(font);
     // Titles of all scripts begin at the same side, as the columns do.
-    painter.drawText(area, side | Qt::AlignAbsolute | Qt::AlignVCenter | Qt::TextSingleLine, shown);
+    const auto place = Qt::Alignment(side) | Qt::AlignAbsolute | Qt::AlignVCenter;
+    painter.drawText(area, static_cast<int>(place.toInt()) | Qt::TextSingleLine, shown);
     return std::min(metrics.horizontalAdvance(shown), area.width());
 }
 
