@@ -53,6 +53,9 @@ public:
     {
         report_.tell("The user clicks the middle button, to which a command is bound.");
         EventLogWindow window;
+        // The focus may still be on its way from the window before.
+        desk_.settle();
+        window.forget();
         desk_.mouse.click(middleButton);
         report_.check(
             eventually([&] { return contentOf(trace()) == "done\n"; }), "The command has run.");
@@ -68,6 +71,8 @@ public:
         constexpr std::size_t notches = 5;
         report_.tell("The user turns the wheel down by five notches at once; scrolling is smooth.");
         EventLogWindow window;
+        desk_.settle();
+        window.forget();
         const auto before = std::chrono::steady_clock::now();
         desk_.mouse.turnWheel(notches);
         Lines expected;
