@@ -179,9 +179,11 @@ TEST(DesktopInputSources, findsIBusAgainAfterItWasKilled)
     for (const auto& line : log.lines())
         if (line.find("cannot be used") == line.npos && line.find("did not") == line.npos)
             lines.push_back(line);
+    // Said only where the bus tells of the end before the connection does.
+    std::erase(lines, "WARN [input-method] IBus has gone");
     EXPECT_EQ(lines,
         (std::vector<std::string>{"INFO [input-method] Input sources come from XKB",
-            "INFO [input-method] Input sources come from IBus", "WARN [input-method] IBus has gone",
+            "INFO [input-method] Input sources come from IBus",
             "INFO [input-method] Input sources come from XKB",
             "INFO [input-method] Input sources come from IBus"}));
 }
