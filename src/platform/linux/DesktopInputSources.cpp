@@ -160,21 +160,22 @@ void DesktopInputSources::takeIBus(bool isRunning, DBusDeadline deadline)
 
 void DesktopInputSources::dropFcitx()
 {
-    drop(fcitx_.get());
+    leave(fcitx_.get());
     fcitxChanges_.reset();
     fcitx_.reset();
+    settleSoon_.start();
 }
 
 void DesktopInputSources::dropIBus()
 {
-    drop(ibus_.get());
+    leave(ibus_.get());
     ibusChanges_.reset();
     ibus_.reset();
+    settleSoon_.start();
 }
 
-void DesktopInputSources::drop(const InputSourceBackend* backend)
+void DesktopInputSources::leave(const InputSourceBackend* backend)
 {
-    settleSoon_.start();
     if (!backend || backend != backend_)
         return;
     Log::warn(std::string(backend->name()) + " has gone", logCategory::inputMethod);
@@ -207,6 +208,9 @@ void DesktopInputSources::tryAgainLater()
 
 void DesktopInputSources::settle()
 {
+    // Its connection may end before the bus tells that its name has no owner any more.
+    if (ibus_ && !ibus_->hasAnswered())
+        leave(ibus_.get());
     announce(bestBackend());
     tryAgainLater();
     tell();

@@ -45,7 +45,8 @@ private:
     void takeIBus(bool isRunning, DBusDeadline deadline);
     void dropFcitx();
     void dropIBus();
-    void drop(const InputSourceBackend* backend);
+    /// Says that the backend has gone, and goes on with the server's groups, if it is in use.
+    void leave(const InputSourceBackend* backend);
     void settle();
     void announce(InputSourceBackend& backend);
     void tell();
