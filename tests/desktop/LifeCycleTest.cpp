@@ -134,9 +134,8 @@ TEST(LifeCycle, endsInOrderWhenTheScreenGoes)
     ASSERT_TRUE(end) << program.report();
     EXPECT_EQ(end->signal, std::nullopt) << program.report();
     const auto messages = program.messages();
-    ASSERT_FALSE(messages.empty());
-    EXPECT_EQ(std::count(messages.begin(), messages.end(), "Brindlex will terminate"), 1)
-        << program.report();
+    ASSERT_GE(messages.size(), 2u) << program.report();
+    EXPECT_EQ(messages[messages.size() - 2], "Brindlex will terminate") << program.report();
     EXPECT_EQ(messages.back(), "The X server has gone away; Brindlex has ended");
 }
 

@@ -20,13 +20,18 @@ public:
     {
     }
 
-    bool isAccessibilityTrusted() override { return isAllowed("allowsAccessibility") && canTap(); }
-    bool canListenToEvents() override { return isAllowed("allowsInputMonitoring") && canTap(); }
+    bool isAccessibilityTrusted() override
+    {
+        return isAllowed("allowsAccessibility") && stream_.isTappable();
+    }
+    bool canListenToEvents() override
+    {
+        return isAllowed("allowsInputMonitoring") && stream_.isTappable();
+    }
     Subscription observeAccessibilityChanges(std::function<void()> handler) override;
 
 private:
     bool isAllowed(const std::string& preference) const;
-    bool canTap() { return stream_.session() != nullptr; }
 
     X11InputStream& stream_;
     UserDefaults& defaults_;

@@ -16,7 +16,7 @@ public:
     std::unique_ptr<EventTap> createTap(
         EventMask mask, std::vector<EventInterest> interests, Handler handler) override
     {
-        if (!stream_.session())
+        if (!stream_.isTappable())
             return nullptr;
         return stream_.taps().add(mask, std::move(interests), std::move(handler),
             [&stream = stream_] { stream.wantsChanged(); });

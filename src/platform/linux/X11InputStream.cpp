@@ -32,7 +32,7 @@ X11TapSession* X11InputStream::session()
         X11TapSession::Hooks{.eventDone = [this] { runWaiting(); },
             .grabsMayChange = [this] { wantsChanged(); },
             .ended
-            = [this] { nextReconnection_ = mainThread_.after(0, [this] { sessionEnded(); }); }});
+            = [this] { nextReconnection_ = mainThread_.after(0, [this] { reconnect(); }); }});
     if (session->isUsable()) {
         session_ = std::move(session);
         ++sessionCount_;
@@ -78,15 +78,18 @@ void X11InputStream::runWaiting()
     isRunningWaiting_ = false;
 }
 
-void X11InputStream::sessionEnded()
+void X11InputStream::reconnect()
 {
-    session_.reset();
-    watchdog_.rest();
+    // Whoever needed the input meanwhile may have connected anew.
     if (!session()) {
-        nextReconnection_ = mainThread_.after(timeToReconnect, [this] { sessionEnded(); });
-        return;
+        session_.reset();
+        watchdog_.rest();
     }
-    taps_.switchOff(EventType::tapDisabledByTimeout);
+    isReconnecting_ = session() == nullptr;
+    if (isReconnecting_)
+        nextReconnection_ = mainThread_.after(timeToReconnect, [this] { reconnect(); });
+    else
+        taps_.switchOff(EventType::tapDisabledByTimeout);
 }
 
 } // namespace brindlex

@@ -41,8 +41,11 @@ public:
     /// Says that the taps want something else now.
     void wantsChanged();
 
-    /// The connection to the input; null when it cannot be tapped.
+    /// The connection to the input; null when it cannot be tapped, or was cut.
     X11TapSession* session();
+
+    /// Whether the input can be tapped, be it only when the connection that was cut is back.
+    bool isTappable() { return session_ || isReconnecting_ || session(); }
 
     /// How many connections there have been.
     int sessionCount() const { return sessionCount_; }
@@ -53,12 +56,13 @@ public:
 private:
     void applyWants();
     void runWaiting();
-    void sessionEnded();
+    void reconnect();
 
     MainThread& mainThread_;
     Options options_;
     TapChain taps_;
     std::unique_ptr<X11TapSession> session_;
+    bool isReconnecting_ = false;
     int sessionCount_ = 0;
     TapWatchdog watchdog_;
     std::deque<std::function<void()>> waiting_;

@@ -1,14 +1,19 @@
 #include "platform/linux/X11EventPermissions.h"
 
+#include "platform/linux/QtMainThread.h"
+#include "platform/linux/X11EventTapping.h"
 #include "platform/posix/PosixClock.h"
 #include "platform/simulated/SimulatedMainThread.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
+#include "support/LoopUntil.h"
 #include "support/VirtualDesktop.h"
 
 #include <gtest/gtest.h>
 
 namespace brindlex {
 namespace {
+
+using namespace std::chrono_literals;
 
 TEST(X11EventPermissions, areMissingWithoutAServer)
 {
@@ -21,6 +26,25 @@ TEST(X11EventPermissions, areMissingWithoutAServer)
     X11EventPermissions permissions(stream, defaults);
 
     EXPECT_EQ(EventPermissionState::ask(permissions), (EventPermissionState{false, false}));
+}
+
+TEST(X11EventPermissions, areKeptWhileAConnectionThatWasCutIsMadeAnew)
+{
+    VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    QtMainThread mainThread;
+    const PosixClock clock;
+    SimulatedUserDefaults defaults;
+    X11InputStream stream(mainThread, clock);
+    X11EventPermissions permissions(stream, defaults);
+    X11EventTapping tapping(stream);
+    ASSERT_EQ(EventPermissionState::ask(permissions), (EventPermissionState{true, true}));
+
+    desktop.endDisplayServer();
+
+    EXPECT_TRUE(loopUntil([&] { return !stream.session(); }));
+    EXPECT_EQ(EventPermissionState::ask(permissions), (EventPermissionState{true, true}));
+    EXPECT_NE(tapping.createTap(0, {}, [](const Event&) { return EventVerdict::pass; }), nullptr);
+    EXPECT_TRUE(loopThroughout(100ms, [&] { return permissions.isAccessibilityTrusted(); }));
 }
 
 TEST(X11EventPermissions, areForbiddenByNothingButTheWordFalse)
