@@ -93,12 +93,17 @@ void InputMethodSwitchCoordinator::installObservers()
     if (!inputSourceChangeToken_.isActive())
         inputSourceChangeToken_ = abilities_.inputSources.observeSelectionChanges(
             [this] { dispatch(SwitchEvent::InputSourceChanged{}); });
+    // An input method that starts later than the application in front may be what its rule is for.
+    if (!enabledSourcesToken_.isActive())
+        enabledSourcesToken_ = abilities_.inputSources.observeEnabledSourcesChanges(
+            [this] { dispatch(SwitchEvent::Start{}); });
 }
 
 void InputMethodSwitchCoordinator::removeObservers()
 {
     appActivationToken_.reset();
     inputSourceChangeToken_.reset();
+    enabledSourcesToken_.reset();
 }
 
 void InputMethodSwitchCoordinator::startBrowserPolling()

@@ -72,6 +72,7 @@ private:
     bool isDispatching_ = false;
     Subscription appActivationToken_;
     Subscription inputSourceChangeToken_;
+    Subscription enabledSourcesToken_;
     Subscription browserPollTimer_;
     Subscription browserPageToken_;
     Subscription enabledCancellable_;

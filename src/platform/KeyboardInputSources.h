@@ -53,6 +53,10 @@ public:
 
     /// Tells, never from inside `select`, that the selected source has changed, whoever changed it.
     virtual Subscription observeSelectionChanges(std::function<void()> handler) = 0;
+
+    /// Tells, before it tells of a selection that came of it, that other sources can be selected
+    /// now: one was added or removed, or an input method has started or ended.
+    virtual Subscription observeEnabledSourcesChanges(std::function<void()> handler) = 0;
 };
 
 } // namespace brindlex

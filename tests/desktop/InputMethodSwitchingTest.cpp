@@ -1,6 +1,7 @@
 #include "desktop/ProgramDesk.h"
 #include "support/FcitxDaemon.h"
 #include "support/IBusDaemon.h"
+#include "support/PlainWindow.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -130,6 +131,23 @@ TYPED_TEST(InputMethodSwitching, outlivesTheDaemon)
     EXPECT_TRUE(program.logs(std::string("Failed to select ") + TypeParam::chineseSource))
         << program.report();
     EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
+}
+
+TEST(InputMethodStartingLate, carriesOutTheRuleOfTheFrontOnceTheDaemonHasStarted)
+{
+    ProgramDesk desk({.keyboardLayouts = "us"});
+    desk.applyRules({{"Alpha", IBus::chineseSource}});
+    IBusDaemon daemon(desk.desktop, {IBus::latin, IBus::chinese});
+    daemon.stop();
+    const PlainWindow alpha(desk.server, {.wmClass = wmClass("Alpha"), .title = "Alpha"});
+    ASSERT_TRUE(desk.windows.activate(alpha.window()));
+    const RunningProgram program(desk.desktop);
+    ASSERT_TRUE(program.logs("Failed to select ibus:libpinyin for com.example.Alpha"))
+        << program.report();
+
+    daemon.start();
+
+    EXPECT_TRUE(eventually([&] { return daemon.current() == IBus::chinese; })) << program.report();
 }
 
 } // namespace

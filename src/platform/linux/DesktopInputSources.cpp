@@ -68,7 +68,8 @@ DesktopInputSources::DesktopInputSources(X11Connection& connection, QDBusConnect
         findDaemons(std::chrono::steady_clock::now() + startWait);
     }
     announce(bestBackend());
-    told_ = backend_->current();
+    toldSources_ = backend_->sources();
+    toldSelection_ = backend_->current();
 }
 
 DesktopInputSources::~DesktopInputSources() = default;
@@ -105,7 +106,12 @@ int DesktopInputSources::select(const InputSourceProperties& source)
 
 Subscription DesktopInputSources::observeSelectionChanges(std::function<void()> handler)
 {
-    return observers_.add(std::move(handler));
+    return selectionObservers_.add(std::move(handler));
+}
+
+Subscription DesktopInputSources::observeEnabledSourcesChanges(std::function<void()> handler)
+{
+    return enabledSourcesObservers_.add(std::move(handler));
 }
 
 void DesktopInputSources::findDaemons(DBusDeadline deadline)
@@ -213,7 +219,8 @@ void DesktopInputSources::settle()
         leave(ibus_.get());
     announce(bestBackend());
     tryAgainLater();
-    tell();
+    tellOfSources();
+    tellOfSelection();
 }
 
 void DesktopInputSources::announce(InputSourceBackend& backend)
@@ -224,13 +231,21 @@ void DesktopInputSources::announce(InputSourceBackend& backend)
             "Input sources come from " + std::string(backend.name()), logCategory::inputMethod);
 }
 
-void DesktopInputSources::tell()
+void DesktopInputSources::tellOfSources()
+{
+    if (!backend_->isUsable() || backend_->sources() == toldSources_)
+        return;
+    toldSources_ = backend_->sources();
+    enabledSourcesObservers_.notify();
+}
+
+void DesktopInputSources::tellOfSelection()
 {
     auto now = backend_->current();
-    if (!now || now == told_)
+    if (!now || now == toldSelection_)
         return;
-    told_ = std::move(now);
-    observers_.notify();
+    toldSelection_ = std::move(now);
+    selectionObservers_.notify();
 }
 
 } // namespace brindlex

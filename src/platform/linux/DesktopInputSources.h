@@ -35,6 +35,7 @@ public:
         const InputSourceFilter& filter) override;
     int select(const InputSourceProperties& source) override;
     Subscription observeSelectionChanges(std::function<void()> handler) override;
+    Subscription observeEnabledSourcesChanges(std::function<void()> handler) override;
 
     /// The name of the program that switches now.
     std::string_view backendName() const { return backend_->name(); }
@@ -49,7 +50,8 @@ private:
     void leave(const InputSourceBackend* backend);
     void settle();
     void announce(InputSourceBackend& backend);
-    void tell();
+    void tellOfSources();
+    void tellOfSelection();
     void tryAgainLater();
     InputSourceBackend& bestBackend();
 
@@ -60,7 +62,8 @@ private:
     std::unique_ptr<IBusInputSources> ibus_;
     std::unique_ptr<Fcitx5InputSources> fcitx_;
     InputSourceBackend* backend_;
-    std::optional<std::string> told_;
+    std::vector<InputSource> toldSources_;
+    std::optional<std::string> toldSelection_;
     QTimer settleSoon_;
     QTimer retry_;
     std::size_t retries_ = 0;
@@ -68,7 +71,8 @@ private:
     std::string lastProblem_;
     bool isFcitxRunning_ = false;
     bool isIBusRunning_ = false;
-    Subscribers<std::function<void()>> observers_;
+    Subscribers<std::function<void()>> selectionObservers_;
+    Subscribers<std::function<void()>> enabledSourcesObservers_;
     std::vector<std::unique_ptr<DBusSignal>> signals_;
     Subscription xkbChanges_;
     Subscription ibusChanges_;

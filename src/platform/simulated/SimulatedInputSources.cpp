@@ -58,7 +58,12 @@ int SimulatedInputSources::select(const InputSourceProperties& source)
 
 Subscription SimulatedInputSources::observeSelectionChanges(std::function<void()> handler)
 {
-    return observers_.add(std::move(handler));
+    return selectionObservers_.add(std::move(handler));
+}
+
+Subscription SimulatedInputSources::observeEnabledSourcesChanges(std::function<void()> handler)
+{
+    return enabledSourcesObservers_.add(std::move(handler));
 }
 
 InputSourceProperties SimulatedInputSources::keyboard(
@@ -72,11 +77,13 @@ void SimulatedInputSources::install(const InputSourceProperties& source)
     sources_.push_back(source);
     if (!selected_ && source.id)
         selected_ = source.id;
+    tellOfSources();
 }
 
 void SimulatedInputSources::remove(const std::string& id)
 {
     std::erase_if(sources_, [&](const InputSourceProperties& source) { return source.id == id; });
+    tellOfSources();
     if (selected_ == id && !sources_.empty() && sources_.front().id)
         become(*sources_.front().id);
 }
@@ -100,11 +107,18 @@ const InputSourceProperties* SimulatedInputSources::find(const std::string& id) 
     return found == sources_.end() ? nullptr : &*found;
 }
 
+void SimulatedInputSources::tellOfSources()
+{
+    // Who comes later is not told of what was there before.
+    if (!enabledSourcesObservers_.isEmpty())
+        mainThread_.post([this] { enabledSourcesObservers_.notify(); });
+}
+
 void SimulatedInputSources::become(const std::string& id)
 {
     if (std::exchange(selected_, id) == id)
         return;
-    const auto tell = [this] { observers_.notify(); };
+    const auto tell = [this] { selectionObservers_.notify(); };
     if (delay_ > 0)
         delayed_.push_back(mainThread_.after(delay_, tell));
     else

@@ -23,6 +23,7 @@ public:
         const InputSourceFilter& filter) override;
     int select(const InputSourceProperties& source) override;
     Subscription observeSelectionChanges(std::function<void()> handler) override;
+    Subscription observeEnabledSourcesChanges(std::function<void()> handler) override;
 
     /// A keyboard layout that can be selected.
     static InputSourceProperties keyboard(const std::string& id, const std::string& name);
@@ -50,6 +51,7 @@ public:
 
 private:
     const InputSourceProperties* find(const std::string& id) const;
+    void tellOfSources();
     void become(const std::string& id);
 
     MainThread& mainThread_;
@@ -60,7 +62,8 @@ private:
     int failureStatus_ = 0;
     Seconds delay_ = 0;
     bool answers_ = true;
-    Subscribers<std::function<void()>> observers_;
+    Subscribers<std::function<void()>> selectionObservers_;
+    Subscribers<std::function<void()>> enabledSourcesObservers_;
     std::vector<Subscription> delayed_;
 };
 

@@ -1,0 +1,94 @@
+#include "inputmethod/InputMethodSwitchCoordinator.h"
+
+#include "inputmethod/CoordinatedDesktop.h"
+
+namespace brindlex {
+namespace {
+
+const std::string pinyin = "fcitx5:pinyin";
+
+/// A user whose input method comes and goes beside the two layouts.
+class InputMethodSwitchCoordinatorSources : public CoordinatedDesktop {
+protected:
+    InputMethodSwitchCoordinatorSources()
+    {
+        change([](auto& config) { config.rules = {rule("editor", pinyin)}; });
+    }
+
+    void inputMethodStarts()
+    {
+        desktop.inputSources.install(SimulatedInputSources::keyboard(pinyin, "Pinyin"));
+        desktop.mainThread.runUntilIdle();
+    }
+};
+
+TEST_F(InputMethodSwitchCoordinatorSources, carriesOutTheRuleOnceItsInputMethodHasStarted)
+{
+    start();
+    ASSERT_EQ(selected(), us);
+
+    inputMethodStarts();
+
+    EXPECT_EQ(selected(), pinyin);
+    EXPECT_EQ(labels, std::vector<std::string>{"Pinyin"});
+    EXPECT_TRUE(stats().empty());
+}
+
+TEST_F(InputMethodSwitchCoordinatorSources, leavesTheUsersChoiceAlone)
+{
+    inputMethodStarts();
+    start();
+    ASSERT_EQ(selected(), pinyin);
+    desktop.inputSources.userSelects(german);
+    desktop.mainThread.runUntilIdle();
+
+    desktop.inputSources.install(SimulatedInputSources::keyboard("xkb:ru::rus", "Russian"));
+    desktop.mainThread.runUntilIdle();
+
+    EXPECT_EQ(selected(), german);
+    ASSERT_EQ(stats().size(), 1u);
+    EXPECT_EQ(stats()[0].samples.size(), 1u);
+}
+
+TEST_F(InputMethodSwitchCoordinatorSources, learnsNothingFromAnInputMethodThatEnds)
+{
+    inputMethodStarts();
+    desktop.applications.bringToFront(application(2, "mail"));
+    start();
+    desktop.inputSources.userSelects(pinyin);
+    desktop.mainThread.runUntilIdle();
+    const auto before = stats();
+
+    desktop.inputSources.remove(pinyin);
+    desktop.mainThread.runUntilIdle();
+
+    EXPECT_EQ(selected(), us);
+    EXPECT_EQ(stats(), before);
+}
+
+TEST_F(InputMethodSwitchCoordinatorSources, hearsNothingMoreAfterStop)
+{
+    start();
+    const auto attempts = desktop.inputSources.attempts();
+
+    coordinator->dispatch(SwitchEvent::Stop{});
+    inputMethodStarts();
+
+    EXPECT_EQ(selected(), us);
+    EXPECT_EQ(desktop.inputSources.attempts(), attempts);
+    EXPECT_EQ(coordinator->state().lifecycle, SwitchState::Lifecycle::stopped);
+}
+
+TEST_F(InputMethodSwitchCoordinatorSources, changeNothingWhileSwitchingIsOff)
+{
+    start();
+    change([](auto& config) { config.enabled = false; });
+
+    inputMethodStarts();
+
+    EXPECT_EQ(selected(), us);
+    EXPECT_EQ(coordinator->state().lifecycle, SwitchState::Lifecycle::stopped);
+}
+
+} // namespace
+} // namespace brindlex
