@@ -68,8 +68,11 @@ std::string FcitxDaemon::current() const
 
 bool FcitxDaemon::select(const std::string& inputMethod)
 {
-    return static_cast<bool>(
-        BusConnection().call(name, path, interface, "SetCurrentIM", {inputMethod}));
+    // While no window has the keyboard yet, the daemon says yes and does nothing.
+    return eventually([&] {
+        return BusConnection().call(name, path, interface, "SetCurrentIM", {inputMethod})
+            && eventually([&] { return current() == inputMethod; }, 300ms);
+    });
 }
 
 } // namespace brindlex

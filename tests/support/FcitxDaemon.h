@@ -18,7 +18,8 @@ public:
 
     /// The selected input method; empty when none is, or the daemon does not answer.
     std::string current() const;
-    /// Selects an input method, as the user does in the daemon's menu; false when that failed.
+    /// Selects an input method, as the user does in the daemon's menu, again while nothing comes of
+    /// it; false when nothing did.
     bool select(const std::string& inputMethod);
 
     /// Starts the daemon that was stopped.
