@@ -3,6 +3,7 @@
 #include "app/Log.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -53,18 +54,35 @@ std::optional<std::filesystem::path> PosixAppGroupContainer::appGroupContainerUR
         refuse(Problem::isNotTheUsers, "belongs to another user");
     else if ((status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
         refuse(Problem::isOpenToOthers, "may be written to by others");
-    else
+    else {
+        warnWhereItIsReadOnly();
         return folder_;
+    }
     return {};
 }
 
-/// The log asks for the container itself: the problem counts as logged before it is.
 void PosixAppGroupContainer::refuse(Problem problem, const std::string& words)
 {
-    if (isLogged_[static_cast<std::size_t>(problem)].exchange(true))
+    if (isNew(problem))
+        Log::error("App Group container refused: " + folder_.string() + " " + words,
+            logCategory::lifecycle);
+}
+
+void PosixAppGroupContainer::warnWhereItIsReadOnly()
+{
+    if (::faccessat(AT_FDCWD, folder_.c_str(), W_OK, AT_EACCESS) == 0)
         return;
-    Log::error(
-        "App Group container refused: " + folder_.string() + " " + words, logCategory::lifecycle);
+    const int error = errno;
+    if (isNew(Problem::isReadOnly))
+        Log::warn("App Group container cannot be written to: " + folder_.string() + ": "
+                + std::generic_category().message(error),
+            logCategory::lifecycle);
+}
+
+/// The log asks for the container itself: the problem counts as logged before it is.
+bool PosixAppGroupContainer::isNew(Problem problem)
+{
+    return !isLogged_[static_cast<std::size_t>(problem)].exchange(true);
 }
 
 } // namespace brindlex
