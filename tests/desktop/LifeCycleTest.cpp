@@ -190,7 +190,9 @@ TEST(LifeCycle, saysWhyItCannotStartWithoutAScreen)
     ASSERT_TRUE(end) << program.report();
     EXPECT_EQ(end->signal, std::nullopt) << program.report();
     EXPECT_NE(end->code, 0) << program.report();
-    EXPECT_NE(program.child().output(), "");
+    const std::string words = "No X server can be reached; DISPLAY has to name one";
+    EXPECT_EQ(program.child().output(), "brindlex: " + words + "\n");
+    EXPECT_EQ(program.messages(), std::vector{words});
 }
 
 } // namespace
