@@ -162,6 +162,9 @@ TEST(LifeCycle, worksWithoutASessionBus)
     RunningProgram program(desk.desktop);
     ASSERT_TRUE(program.launches()) << program.report();
 
+    for (const auto* loss : {"No session bus: other instances are not known",
+             "No session bus: notifications of other processes are not heard"})
+        EXPECT_TRUE(program.logs(loss)) << program.report();
     const TypingWindow alpha(desk.windows, "Alpha");
     ASSERT_TRUE(desk.windows.activate(alpha.window()));
 
