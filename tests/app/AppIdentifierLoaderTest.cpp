@@ -43,6 +43,12 @@ TEST_F(AppIdentifierLoaderTest, takesTheFileNameWithoutAnyName)
     EXPECT_EQ(loader.load("/apps/Other.app/").value().displayName, "Other");
 }
 
+TEST_F(AppIdentifierLoaderTest, replacesBytesOfAFileNameThatAreNotText)
+{
+    bundles.install("/apps/P\xFF.app", {.identifier = "org.example.Pad"});
+    EXPECT_EQ(loader.load("/apps/P\xFF.app").value().displayName, "P\uFFFD");
+}
+
 TEST_F(AppIdentifierLoaderTest, takesTheBundlesOwnIcon)
 {
     const auto app = load({.identifier = "org.example.Pad",

@@ -150,7 +150,8 @@ TEST(LogFileName, endsInLogOrInLogAndANumber)
 {
     for (const auto* name : {".log", "a.log", "a.log.1", "a.log.0123456789", "a.log.log.5"})
         EXPECT_TRUE(isLogFileName(name)) << name;
-    for (const auto* name : {"", "log", "a.log.", "a.log.1.", "a.log1", "a.logs.1", "1", "a.1.txt"})
+    for (const auto* name :
+        {"", "log", "a.log.", "a.log.1.", "a.log1", "a.logs.1", "alog.1", "1", "a.1.txt"})
         EXPECT_FALSE(isLogFileName(name)) << name;
 }
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <ostream>
 #include <unistd.h>
 
 namespace brindlex {
@@ -90,11 +91,22 @@ TEST_F(DamagedFiles, includeAContainerThatGoesWhileTheProgramRuns)
     EXPECT_EQ(desk.files.logMessages(), std::vector<std::string>{"Brindlex will terminate"});
 }
 
-class DamagedPreferences : public DamagedFiles, public testing::WithParamInterface<std::string> { };
+/// What stands in the file, and how the line that tells of it begins.
+struct Damage {
+    std::string content;
+    std::string logged = "Preferences set aside as ";
+
+    friend void PrintTo(const Damage& damage, std::ostream* stream)
+    {
+        *stream << testing::PrintToString(damage.content);
+    }
+};
+
+class DamagedPreferences : public DamagedFiles, public testing::WithParamInterface<Damage> { };
 
 TEST_P(DamagedPreferences, areLikeNone)
 {
-    write(desk.files.preferences(), GetParam());
+    write(desk.files.preferences(), GetParam().content);
     RunningProgram program(desk.desktop);
 
     ASSERT_TRUE(program.launches()) << program.report();
@@ -103,14 +115,18 @@ TEST_P(DamagedPreferences, areLikeNone)
         const auto preferences = desk.files.readPreferences();
         return preferences.is_object() && preferences.contains("inputMethodConfig");
     })) << contentOf(desk.files.preferences());
+    EXPECT_TRUE(program.logs(GetParam().logged)) << program.report();
     EXPECT_TRUE(desk.keepsGroup(usGroup));
     EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
 }
 
 INSTANTIATE_TEST_SUITE_P(OfManyKinds, DamagedPreferences,
-    testing::Values("", "{", "null", "[1,2,3]", std::string("\0\0\0\0", 4), "\xff\xfe{}",
-        std::string(100'000, '['), R"({"inputMethodConfig":7,"smartInputMethodConfig":[]})",
-        R"({"inputMethodConfig":"{\"enabled\":"})"));
+    testing::Values(Damage{""}, Damage{"{"}, Damage{"null"}, Damage{"[1,2,3]"},
+        Damage{std::string("\0\0\0\0", 4)}, Damage{"\xff\xfe{}"}, Damage{std::string(100'000, '[')},
+        Damage{R"({"inputMethodConfig":7,"smartInputMethodConfig":[]})",
+            "The preference \"inputMethodConfig\" cannot be read; the default applies"},
+        Damage{R"({"inputMethodConfig":"{\"enabled\":"})",
+            "The preference \"inputMethodConfig\" cannot be read; the default applies"}));
 
 TEST_F(DamagedFiles, includeAFolderWhereThePreferencesBelong)
 {

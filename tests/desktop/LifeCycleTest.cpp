@@ -161,6 +161,9 @@ TEST(LifeCycle, worksWithoutASessionBus)
     RunningProgram program(desk.desktop);
     ASSERT_TRUE(program.launches()) << program.report();
 
+    for (const auto* loss : {"No session bus: other instances are not known",
+             "No session bus: notifications of other processes are not heard"})
+        EXPECT_TRUE(program.logs(loss)) << program.report();
     const TypingWindow alpha(desk.windows, "Alpha");
     ASSERT_TRUE(desk.windows.activate(alpha.window()));
 
@@ -189,7 +192,9 @@ TEST(LifeCycle, saysWhyItCannotStartWithoutAScreen)
     ASSERT_TRUE(end) << program.report();
     EXPECT_EQ(end->signal, std::nullopt) << program.report();
     EXPECT_NE(end->code, 0) << program.report();
-    EXPECT_NE(program.child().output(), "");
+    const std::string words = "No X server can be reached; DISPLAY has to name one";
+    EXPECT_EQ(program.child().output(), "brindlex: " + words + "\n");
+    EXPECT_EQ(program.messages(), std::vector{words});
 }
 
 } // namespace

@@ -1,6 +1,4 @@
-#include "inputmethod/InputMethodSwitchCoordinator.h"
-
-#include "inputmethod/CoordinatedDesktop.h"
+#include "inputmethod/InputMethodSwitchCoordinatorFixture.h"
 
 namespace brindlex {
 namespace {
@@ -8,7 +6,7 @@ namespace {
 const std::string pinyin = "fcitx5:pinyin";
 
 /// A user whose input method comes and goes beside the two layouts.
-class InputMethodSwitchCoordinatorSources : public CoordinatedDesktop {
+class InputMethodSwitchCoordinatorSources : public InputMethodSwitchCoordinatorTest {
 protected:
     InputMethodSwitchCoordinatorSources()
     {

@@ -1,13 +1,7 @@
-#include "inputmethod/InputMethodSwitchCoordinator.h"
-
-#include "inputmethod/CoordinatedDesktop.h"
+#include "inputmethod/InputMethodSwitchCoordinatorFixture.h"
 
 namespace brindlex {
 namespace {
-
-const std::string browser = "org.chromium.Chromium";
-
-using InputMethodSwitchCoordinatorTest = CoordinatedDesktop;
 
 TEST_F(InputMethodSwitchCoordinatorTest, observesAndHandlesTheFrontFromItsConstructionOn)
 {
@@ -17,6 +11,25 @@ TEST_F(InputMethodSwitchCoordinatorTest, observesAndHandlesTheFrontFromItsConstr
 
     EXPECT_EQ(coordinator->state().lifecycle, SwitchState::Lifecycle::observing);
     EXPECT_EQ(desktop.inputSources.attempts(), std::vector<std::string>{german});
+}
+
+TEST_F(InputMethodSwitchCoordinatorTest, handlesBothSettingsDuringItsConstruction)
+{
+    makeCoordinator();
+
+    const auto& writes = desktop.defaults.writes();
+    ASSERT_EQ(writes.size(), 4u) << "two for each of two events";
+    for (const auto& [key, object] : writes)
+        EXPECT_EQ(key, "smartInputMethodConfig");
+}
+
+TEST_F(InputMethodSwitchCoordinatorTest, tellsTheMachineOfAnActivationWithoutAnApplication)
+{
+    start();
+
+    desktop.applications.bringToFront({2, {}, {}, "nameless"});
+
+    EXPECT_EQ(coordinator->state().frontmostBundleID, std::nullopt);
 }
 
 TEST_F(InputMethodSwitchCoordinatorTest, startOnlyRepeatsTheHandlingOfTheFront)
@@ -56,36 +69,6 @@ TEST_F(InputMethodSwitchCoordinatorTest, learnsAManualChangeAndKeepsIt)
     EXPECT_EQ(SmartInputMethodConfigStore(desktop.defaults).config().value().appStats, stats());
 }
 
-TEST_F(InputMethodSwitchCoordinatorTest, takesTheNameOfAnApplicationFromItsBundle)
-{
-    desktop.bundles.install("/apps/mail.desktop", {"mail", "Mail & News", "Mail", {}});
-    auto mail = application(2, "mail");
-    mail.bundlePath = "/apps/mail.desktop";
-    desktop.applications.bringToFront(mail);
-    start();
-
-    desktop.inputSources.userSelects(german);
-    desktop.mainThread.runUntilIdle();
-
-    ASSERT_EQ(stats().size(), 1u);
-    EXPECT_EQ(stats()[0].app, (AppIdentifier{"mail", "Mail & News", {}}));
-}
-
-TEST_F(InputMethodSwitchCoordinatorTest, fallsBackToWhatTheRunningApplicationSays)
-{
-    auto broken = application(2, "broken");
-    broken.bundlePath = "/apps/gone.desktop";
-    broken.localizedName = {};
-    desktop.applications.bringToFront(broken);
-    start();
-
-    desktop.inputSources.userSelects(german);
-    desktop.mainThread.runUntilIdle();
-
-    ASSERT_EQ(stats().size(), 1u);
-    EXPECT_EQ(stats()[0].app, (AppIdentifier{"broken", "broken", {}}));
-}
-
 TEST_F(InputMethodSwitchCoordinatorTest, handlesAnEventFromInsideAnEffectAfterTheList)
 {
     change([](auto& config) { config.rules = {rule("mail", german), rule("editor", us)}; });
@@ -111,12 +94,16 @@ TEST_F(InputMethodSwitchCoordinatorTest, hearsNothingMoreAfterStop)
     start();
 
     coordinator->dispatch(SwitchEvent::Stop{});
+    const auto state = coordinator->state();
+    const auto writes = desktop.defaults.writes().size();
     desktop.applications.bringToFront(application(2, "mail"));
     desktop.inputSources.userSelects(german);
     desktop.mainThread.runUntilIdle();
 
     EXPECT_EQ(desktop.inputSources.attempts(), std::vector<std::string>{});
     EXPECT_TRUE(stats().empty());
+    EXPECT_EQ(coordinator->state(), state);
+    EXPECT_EQ(desktop.defaults.writes().size(), writes) << "each event writes";
     EXPECT_EQ(desktop.mainThread.timers(), 0u);
 }
 
@@ -173,52 +160,6 @@ TEST_F(InputMethodSwitchCoordinatorTest, warnsInTheLogWhenASelectionFails)
     EXPECT_EQ(log.lines(),
         std::vector<std::string>{"WARN [input-method] Failed to select gone for mail"});
     EXPECT_TRUE(labels.empty());
-}
-
-TEST_F(InputMethodSwitchCoordinatorTest, pollsABrowserEvery800MillisecondsWhileItIsInFront)
-{
-    change([](auto& config) {
-        config.domainRulesEnabled = true;
-        config.domainRules = {{Uuid::random(), "example.de", german}};
-    });
-    start();
-    EXPECT_EQ(desktop.mainThread.timers(), 0u);
-
-    desktop.applications.bringToFront(application(2, browser));
-    desktop.mainThread.advance(0.01);
-    EXPECT_EQ(desktop.mainThread.timers(), 1u);
-    EXPECT_EQ(selected(), us);
-
-    desktop.browserPages.setPage(browser, "https://www.example.de/seite");
-    desktop.mainThread.advance(0.78);
-    EXPECT_EQ(selected(), us);
-    desktop.mainThread.advance(0.02);
-    EXPECT_EQ(selected(), german);
-
-    coordinator->dispatch(SwitchEvent::AppActivated{browser});
-    desktop.mainThread.advance(0.01);
-    EXPECT_EQ(desktop.mainThread.timers(), 1u) << "a live timer is kept";
-
-    desktop.applications.bringToFront(application(1, "editor"));
-    desktop.mainThread.advance(0.01);
-    EXPECT_EQ(desktop.mainThread.timers(), 0u);
-}
-
-TEST_F(InputMethodSwitchCoordinatorTest, looksAtOnceWhenAPageHasBeenReadBesideTheMainThread)
-{
-    change([](auto& config) {
-        config.domainRulesEnabled = true;
-        config.domainRules = {{Uuid::random(), "example.de", german}};
-    });
-    desktop.browserPages.setPage(browser, "https://example.de/");
-    start();
-
-    desktop.applications.bringToFront(application(2, browser));
-    desktop.mainThread.runUntilIdle();
-    EXPECT_EQ(selected(), us) << "a page that was not read yet is an unknown one";
-    desktop.mainThread.advance(0.002);
-
-    EXPECT_EQ(selected(), german);
 }
 
 TEST_F(InputMethodSwitchCoordinatorTest, writesTheLearningRecordTwiceForEveryEvent)

@@ -201,6 +201,8 @@ TEST_F(SwitchReducer, learnsForTheApplicationOfTheSession)
     reduce(Event::AppActivated{});
     userSelects(german);
     EXPECT_EQ(learned(mail), Texts{german});
+    EXPECT_EQ(smartConfig.appActivations,
+        (std::map<std::string, std::vector<Date>>{{mail, {computer.systemTime}}}));
 }
 
 TEST_F(SwitchReducer, learnsForTheBrowserWhateverItsPage)
@@ -238,6 +240,15 @@ TEST_F(SwitchReducer, learnsARuleFromTenChanges)
     }
     computer.inputSourceID = english;
     EXPECT_EQ(activate(mail), Effects({Effect::FireHUD{"Deutsch"}}));
+}
+
+TEST_F(SwitchReducer, notesTheSourceThatItFindsAtAnActivation)
+{
+    begin();
+    computer.inputSourceID = french;
+    activate(mail);
+    EXPECT_EQ(state.lastInputSourceID, french);
+    EXPECT_EQ(state.learning->lastObservedInputSourceID, french);
 }
 
 TEST_F(SwitchReducer, changesNothingOnAChangeButWhatItLearned)

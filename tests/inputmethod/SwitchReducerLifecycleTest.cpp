@@ -51,6 +51,21 @@ TEST_F(SwitchReducer, doesNotInstallObserversTwice)
     EXPECT_EQ(state.lifecycle, Lifecycle::observing);
 }
 
+TEST_F(SwitchReducer, goesOnPollingAtAStartWithTheBrowserInFront)
+{
+    config.domainRulesEnabled = true;
+    computer.frontmostBundleID = browser;
+    for (const SwitchEvent::Any& event :
+        {SwitchEvent::Any(Event::Start{}), SwitchEvent::Any(Event::ConfigEnabledChanged{})}) {
+        begin(Lifecycle::observingWithBrowserPolling);
+        EXPECT_EQ(reduce(event), Effects()) << text(event);
+        EXPECT_EQ(state.lifecycle, Lifecycle::observingWithBrowserPolling) << text(event);
+    }
+    computer.frontmostBundleID = mail;
+    EXPECT_EQ(reduce(Event::Start{}), Effects({Effect::StopBrowserPolling{}}));
+    EXPECT_EQ(state.lifecycle, Lifecycle::observing);
+}
+
 TEST_F(SwitchReducer, startsWhenSwitchingIsTurnedOn)
 {
     EXPECT_EQ(reduce(Event::ConfigEnabledChanged{}), Effects({Effect::InstallObservers{}}));

@@ -140,6 +140,21 @@ TEST_F(TextInputSourceServiceTest, failsWithoutAWordForASourceThatIsGoneOrDisabl
     EXPECT_TRUE(log.lines().empty());
 }
 
+TEST_F(TextInputSourceServiceTest, failsWithoutAWordForASourceThatIsNoSelectableKeyboard)
+{
+    system.install(keyboard("a", "A"));
+    system.install(palette("palette"));
+    auto unselectable = keyboard("unselectable", "Unselectable");
+    unselectable.isSelectCapable = false;
+    system.install(unselectable);
+
+    EXPECT_FALSE(service.selectInputSource("palette"));
+    EXPECT_FALSE(service.selectInputSource("unselectable"));
+
+    EXPECT_TRUE(system.attempts().empty());
+    EXPECT_TRUE(log.lines().empty());
+}
+
 TEST_F(TextInputSourceServiceTest, triesOnceMoreAfterAFailureAndWarns)
 {
     system.install(keyboard("a", "A"));
@@ -152,6 +167,20 @@ TEST_F(TextInputSourceServiceTest, triesOnceMoreAfterAFailureAndWarns)
     EXPECT_EQ(log.lines(),
         std::vector<std::string>{"WARN [input-method] TISSelectInputSource(b) failed with OSStatus "
                                  "-9; retrying once"});
+}
+
+TEST_F(TextInputSourceServiceTest, takesAnyStatusButZeroForAFailure)
+{
+    system.install(keyboard("a", "A"));
+    system.install(keyboard("b", "B"));
+    system.failSelections(2, 1);
+
+    EXPECT_FALSE(service.selectInputSource("b"));
+
+    EXPECT_EQ(system.attempts(), (std::vector<std::string>{"b", "b"}));
+    EXPECT_EQ(log.lines(),
+        std::vector<std::string>{"WARN [input-method] TISSelectInputSource(b) failed with OSStatus "
+                                 "1; retrying once"});
 }
 
 TEST_F(TextInputSourceServiceTest, givesUpAfterTheSecondFailureWithOneWarning)

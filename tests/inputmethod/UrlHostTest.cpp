@@ -71,6 +71,7 @@ TEST(UrlHost, isAbsentWhenTheSchemeIsNone)
 TEST(UrlHost, hasItsEscapesDecoded)
 {
     EXPECT_EQ(urlHost("https://ex%61mple%2Ecom/"), Host("example.com"));
+    EXPECT_EQ(urlHost("https://%6a%6f%4A%4F.example/"), Host("joJO.example"));
     EXPECT_EQ(urlHost("https://b%C3%BCcher.example/"),
         Host("b\xC3\xBC"
              "cher.example"));

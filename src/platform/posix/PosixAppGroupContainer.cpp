@@ -3,6 +3,7 @@
 #include "app/Log.h"
 
 #include <cerrno>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -54,17 +55,32 @@ std::optional<std::filesystem::path> PosixAppGroupContainer::appGroupContainerUR
     else if ((status.st_mode & (S_IWGRP | S_IWOTH)) != 0)
         refuse(Problem::isOpenToOthers, "may be written to by others");
     else
-        return folder_;
+        return usable();
     return {};
 }
 
-/// The log asks for the container itself: the problem counts as logged before it is.
 void PosixAppGroupContainer::refuse(Problem problem, const std::string& words)
 {
-    if (isLogged_[static_cast<std::size_t>(problem)].exchange(true))
-        return;
-    Log::error(
-        "App Group container refused: " + folder_.string() + " " + words, logCategory::lifecycle);
+    if (isNew(problem))
+        Log::error("App Group container refused: " + folder_.string() + " " + words,
+            logCategory::lifecycle);
+}
+
+std::filesystem::path PosixAppGroupContainer::usable()
+{
+    const bool isWritable = ::faccessat(AT_FDCWD, folder_.c_str(), W_OK, AT_EACCESS) == 0;
+    const int error = errno;
+    if (!isWritable && isNew(Problem::isReadOnly))
+        Log::warn("App Group container cannot be written to: " + folder_.string() + ": "
+                + std::generic_category().message(error),
+            logCategory::lifecycle);
+    return folder_;
+}
+
+/// The log asks for the container itself: the problem counts as logged before it is.
+bool PosixAppGroupContainer::isNew(Problem problem)
+{
+    return !isLogged_[static_cast<std::size_t>(problem)].exchange(true);
 }
 
 } // namespace brindlex

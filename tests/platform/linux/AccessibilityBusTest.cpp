@@ -90,6 +90,27 @@ TEST(AccessibilityBus, connectsOnceItIsThere)
     EXPECT_TRUE(eventually([&] { return bus.begin(); }));
 }
 
+TEST(AccessibilityBus, saysOnceThatProgramsOfferNothingWhileItIsOff)
+{
+    const VirtualDesktop desktop({.windowManager = false});
+    ASSERT_EQ(run({.command = {"dbus-send", "--session", "--print-reply", "--dest=org.a11y.Bus",
+                       "/org/a11y/bus", "org.a11y.Bus.GetAddress"}},
+                  usualDeadline),
+        (ProcessEnd{0, {}}));
+    const RecordedLog log;
+    AccessibilityBus bus(patience);
+
+    EXPECT_TRUE(eventually([&] { return bus.begin(); }));
+    EXPECT_TRUE(bus.begin());
+
+    const auto lines = log.lines();
+    EXPECT_EQ(std::count(lines.begin(), lines.end(),
+                  "INFO [input-method] Accessibility is off: the pages of browsers started "
+                  "meanwhile are unknown"),
+        1)
+        << testing::PrintToString(lines);
+}
+
 TEST(AccessibilityBus, connectsAgainAfterTheBusWasRestarted)
 {
     const VirtualDesktop desktop({.windowManager = false, .accessibility = true});

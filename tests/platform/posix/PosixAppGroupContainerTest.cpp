@@ -1,5 +1,6 @@
 #include "platform/posix/PosixAppGroupContainer.h"
 
+#include "support/OrdinaryUser.h"
 #include "support/RecordedLog.h"
 #include "support/TemporaryFolder.h"
 
@@ -108,6 +109,23 @@ TEST_F(PosixAppGroupContainerTest, isRefusedWhenItBelongsToAnotherUser)
         EXPECT_EQ(log.lines(),
             Lines{"ERROR [lifecycle] App Group container refused: /usr belongs to another user"});
     }
+}
+
+TEST_F(PosixAppGroupContainerTest, isHandedOutAndWarnedOfOnceWhenItMayOnlyBeRead)
+{
+    const OrdinaryUser user(folder.path());
+    fs::create_directories(path);
+    fs::permissions(path, fs::perms(0500));
+
+    for (int time = 0; time < 3; ++time)
+        EXPECT_EQ(container.appGroupContainerURL(), path);
+    EXPECT_EQ(log.takeLines(),
+        Lines{"WARN [lifecycle] App Group container cannot be written to: " + path.string()
+            + ": Permission denied"});
+
+    fs::permissions(path, fs::perms(0700));
+    EXPECT_EQ(container.appGroupContainerURL(), path);
+    EXPECT_EQ(log.lines(), Lines{});
 }
 
 TEST_F(PosixAppGroupContainerTest, logsEachKindOfProblemOnce)

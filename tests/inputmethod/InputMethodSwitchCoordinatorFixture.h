@@ -7,28 +7,27 @@
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <string>
-#include <vector>
 
 namespace brindlex {
 
-inline const std::string us = "xkb:us::eng";
-inline const std::string german = "xkb:de::deu";
-
-inline RunningApplication application(std::int64_t process, const std::string& id)
-{
-    return {process, id, {}, id + " name"};
-}
-
-inline InputMethodRule rule(const std::string& bundleID, const std::string& source)
-{
-    return {Uuid::random(), {bundleID, bundleID, {}}, source};
-}
-
 /// A coordinator on a simulated desktop with two layouts and an editor in front.
-class CoordinatedDesktop : public testing::Test {
+class InputMethodSwitchCoordinatorTest : public testing::Test {
 protected:
-    CoordinatedDesktop()
+    inline static const std::string us = "xkb:us::eng";
+    inline static const std::string german = "xkb:de::deu";
+    inline static const std::string browser = "org.chromium.Chromium";
+
+    static RunningApplication application(std::int64_t process, const std::string& id)
+    {
+        return {process, id, {}, id + " name"};
+    }
+
+    static InputMethodRule rule(const std::string& bundleID, const std::string& source)
+    {
+        return {Uuid::random(), {bundleID, bundleID, {}}, source};
+    }
+
+    InputMethodSwitchCoordinatorTest()
     {
         desktop.inputSources.install(SimulatedInputSources::keyboard(us, "English (US)"));
         desktop.inputSources.install(SimulatedInputSources::keyboard(german, "German"));
