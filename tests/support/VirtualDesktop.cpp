@@ -8,6 +8,7 @@
 
 #include <csignal>
 #include <cstdlib>
+#include <unistd.h>
 
 namespace brindlex {
 namespace {
@@ -43,6 +44,19 @@ void runOrFail(const std::vector<std::string>& command, const std::filesystem::p
 {
     if (run({.command = command, .output = output}, timeToStart) != ProcessEnd{0, {}})
         fatalError("Failed: " + command.front() + "\n" + contentOf(output));
+}
+
+/// A display that no other server has or had lately: a program that looks for a server that has
+/// ended must not find another one.
+std::string nextDisplay()
+{
+    constexpr int first = 100;
+    constexpr int processes = 7000;
+    constexpr int displaysOfProcess = 8;
+    static int count = 0;
+    return ":"
+        + std::to_string(
+            first + ::getpid() % processes * displaysOfProcess + count++ % displaysOfProcess);
 }
 
 } // namespace
@@ -100,19 +114,23 @@ void VirtualDesktop::makeFolders()
 
 void VirtualDesktop::startDisplayServer(const Options& options)
 {
-    DescriptorLine number;
-    auto command = displayServerCommand(options);
-    command.insert(command.end(),
-        {"-displayfd", std::to_string(number.writingEnd()), "-nolisten", "tcp", "-noreset"});
-    displayServer_ = std::make_unique<ChildProcess>(ChildProcess::Start{
-        .command = command,
-        .output = outputFolder() / "display-server",
-        .inherited = number.writingEnd(),
-    });
-    const auto line = number.read(timeToStart);
-    if (!line)
+    bool isReady = false;
+    for (int attempt = 0; attempt < 3 && !isReady; ++attempt) {
+        display_ = nextDisplay();
+        DescriptorLine number;
+        auto command = displayServerCommand(options);
+        command.insert(command.end(),
+            {display_, "-displayfd", std::to_string(number.writingEnd()), "-nolisten", "tcp",
+                "-noreset"});
+        displayServer_ = std::make_unique<ChildProcess>(ChildProcess::Start{
+            .command = command,
+            .output = outputFolder() / "display-server",
+            .inherited = number.writingEnd(),
+        });
+        isReady = number.read(timeToStart).has_value();
+    }
+    if (!isReady)
         fatalError("The X server did not start.\n" + displayServer_->output());
-    display_ = ":" + *line;
     setVariable("DISPLAY", display_);
     setKeyboardLayouts(options.keyboardLayouts);
 }
@@ -247,6 +265,9 @@ void VirtualDesktop::endDisplayServer()
 {
     displayServer_->signal(SIGKILL);
     displayServer_->waitForEnd(timeToStart);
+    // A server that is killed leaves this behind.
+    std::error_code ignored;
+    std::filesystem::remove("/tmp/.X11-unix/X" + display_.substr(1), ignored);
 }
 
 void VirtualDesktop::endSessionBus()

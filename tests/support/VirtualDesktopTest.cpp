@@ -98,5 +98,13 @@ TEST(VirtualDesktop, canLoseItsDisplayServer)
     EXPECT_FALSE(XConnection().isOpen());
 }
 
+TEST(VirtualDesktop, leavesTheNumberOfItsLostServerToNobody)
+{
+    VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    desktop.endDisplayServer();
+    const VirtualDesktop next({.windowManager = false, .sessionBus = false});
+    EXPECT_NE(next.display(), desktop.display());
+}
+
 } // namespace
 } // namespace brindlex
