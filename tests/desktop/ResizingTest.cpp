@@ -63,8 +63,8 @@ protected:
         desk.start(config);
     }
 
-    /// Drags with the left button from this point of the screen.
-    void dragFrom(Position start, double x, double y)
+    /// Drags with the left button from this point of the screen, and leaves it pressed.
+    void holdAndDrag(Position start, double x, double y)
     {
         window->movePointer(start);
         ASSERT_EQ(window->pointer(), start);
@@ -76,6 +76,10 @@ protected:
         for (int step = 0; step < 10; ++step)
             desk.mouse.move(x / 10, y / 10);
         desk.settle();
+    }
+    void dragFrom(Position start, double x, double y)
+    {
+        holdAndDrag(start, x, y);
         desk.mouse.release(leftButton);
         desk.settle();
     }
@@ -140,11 +144,20 @@ TEST_F(Resizing, ofAWindowByItsEdgeIsLeftToTheWindowManager)
     const auto before = area();
     const auto handle = at(200, before.height + 3);
 
-    dragFrom(handle, 0, 50);
-
+    holdAndDrag(handle, 0, 50);
     const ScreenArea grown{before.x, before.y, before.width, before.height + 50};
-    EXPECT_TRUE(eventually([&] { return area() == grown; }))
-        << area().height << desk.program->report();
+    // The hand goes on a little until what it drags has begun to follow.
+    const auto follows = [&] {
+        desk.mouse.move(1, 0);
+        desk.mouse.move(-1, 0);
+        desk.settle();
+        return area() == grown;
+    };
+    EXPECT_TRUE(eventually(follows)) << area().height << desk.program->report();
+    desk.mouse.release(leftButton);
+
+    EXPECT_TRUE(eventually([&] { return window->held() == Lines{}; }));
+    EXPECT_EQ(area(), grown);
     EXPECT_TRUE(decides("bypass reason=cursor", handle));
     EXPECT_TRUE(
         desk.program->logs("MouseGesture: bypass left gesture for resize cursor/window edge"));
