@@ -60,7 +60,10 @@ protected:
         for (const auto direction : allCases<MouseDirection>())
             config.gesture.bindings.push_back(
                 gesture(MouseButton::left, {}, direction, MouseAction::Forward{}));
+        // With the wheel the mouse is away as a whole, so that one can see when the tap is there.
+        config.scroll.smoothEnabled = true;
         desk.start(config);
+        EXPECT_TRUE(eventually([&] { return desk.isAnyDeviceTaken(); })) << desk.program->report();
     }
 
     /// Drags with the left button from this point of the screen, and leaves it pressed.
