@@ -19,9 +19,11 @@ constexpr auto restful = 40ms;
 
 } // namespace
 
-MouseDesk::MouseDesk(const std::string& keyboardLayouts)
-    : desktop(
-        {.keyboardLayouts = keyboardLayouts, .server = VirtualDesktop::Server::withPlayedHardware})
+MouseDesk::MouseDesk(VirtualDesktop::Options options)
+    : desktop([&] {
+          options.server = VirtualDesktop::Server::withPlayedHardware;
+          return options;
+      }())
 {
     const XReply<xcb_input_xi_query_version_reply_t> version(xcb_input_xi_query_version_reply(
         server.get(), xcb_input_xi_query_version(server.get(), 2, 2), nullptr));

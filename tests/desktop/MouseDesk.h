@@ -22,7 +22,8 @@ namespace brindlex {
 struct MouseDesk {
     using Lines = std::vector<std::string>;
 
-    explicit MouseDesk(const std::string& keyboardLayouts = "us,de");
+    /// The hardware is played whatever the options say.
+    explicit MouseDesk(VirtualDesktop::Options options = {});
 
     /// What the user has set about the mouse from now on; a running program notices by itself.
     void set(const MouseConfig& config) const;

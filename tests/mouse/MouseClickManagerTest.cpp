@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
+
 namespace brindlex {
 namespace {
 
@@ -50,6 +52,20 @@ TEST_F(MouseClickManagerTest, readsTheBindingsAtEachPress)
     EXPECT_EQ(mouse.press(3), EventVerdict::swallow);
 }
 
+TEST(MouseClickManager, takesFromTheDevicesWhatItsBindingsAreAboutNow)
+{
+    MouseSession session({}, SimulatedInput::TapPlace::devices);
+    session.clicks.start();
+    session.bindClick(MouseButton::button4, {}, MouseAction::Back{});
+
+    EXPECT_EQ(session.mouse.press(3), EventVerdict::swallow);
+    session.mouse.release(3);
+    session.edit([](MouseConfig& value) { value.click.bindings[0].button = MouseButton::button5; });
+    EXPECT_EQ(session.mouse.press(3), EventVerdict::pass);
+    EXPECT_EQ(session.mouse.press(4), EventVerdict::swallow);
+    EXPECT_EQ(session.input.tapsMade(), 1u);
+}
+
 TEST_F(MouseClickManagerTest, forgetsAHiddenPressWhenItIsTornDown)
 {
     bindClick(MouseButton::button4, {}, MouseAction::Back{});
@@ -71,6 +87,10 @@ TEST_F(MouseClickManagerTest, waitsForPermission)
     EXPECT_EQ(log.takeLines(),
         (Lines{"WARN [mouse] MouseClick: missing Accessibility or Input Monitoring permission; "
                "not starting"}));
+
+    EXPECT_EQ(input.tapsMade(), 0u);
+    mainThread.advance(2);
+    EXPECT_EQ(log.takeLines().size(), 1u);
 
     permissions.isTrusted = true;
     activation.becomeActive();
@@ -98,6 +118,21 @@ TEST_F(MouseClickManagerTest, performsOnceMoreForAClickThatAGestureGaveBack)
     EXPECT_EQ(types,
         (std::vector{EventType::keyDown, EventType::keyUp, EventType::otherMouseDown,
             EventType::otherMouseUp, EventType::keyDown, EventType::keyUp}));
+}
+
+TEST_F(MouseClickManagerTest, canGoWhileAnEventIsOnItsWay)
+{
+    auto second = std::make_unique<MouseClickManager>(config, environment, dispatcher);
+    bindClick(MouseButton::button4, {}, MouseAction::Back{});
+    tap.subscribe(0x6000000, [&](const Event&) {
+        second.reset();
+        return EventVerdict::pass;
+    });
+    second->start();
+
+    EXPECT_EQ(mouse.press(3), EventVerdict::pass);
+    EXPECT_EQ(second, nullptr);
+    EXPECT_EQ(log.lines(), Lines{});
 }
 
 } // namespace

@@ -46,6 +46,15 @@ TEST(MouseGestureDragState, countsADiagonalAsHorizontal)
         EXPECT_EQ(dragged(dx, dy).lockedDirection, direction) << dx << " " << dy;
 }
 
+TEST(MouseGestureDragState, tellsTheSidesApartByTheSignHoweverShortTheWay)
+{
+    constexpr double threshold = 0.25;
+    EXPECT_EQ(dragged(0, 0.25, threshold).lockedDirection, MouseDirection::down);
+    EXPECT_EQ(dragged(0, -0.25, threshold).lockedDirection, MouseDirection::up);
+    EXPECT_EQ(dragged(0.25, 0, threshold).lockedDirection, MouseDirection::right);
+    EXPECT_EQ(dragged(-0.25, 0, threshold).lockedDirection, MouseDirection::left);
+}
+
 TEST(MouseGestureDragState, remembersTheGreatestDistance)
 {
     auto press = dragged(3, 4);

@@ -109,6 +109,21 @@ TEST_F(MouseGestureManagerTest, staysAtItsPlaceWhenBindingsChangeWithinTheirButt
     EXPECT_EQ(log.lines().back(), "INFO [mouse] dispatch action: Back");
 }
 
+TEST(MouseGestureManager, takesFromTheDevicesWhatItsBindingsAreAboutNow)
+{
+    MouseSession session({}, SimulatedInput::TapPlace::devices);
+    session.bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    session.gestures.start();
+    session.bindGesture(MouseButton::button5, {}, MouseDirection::right, MouseAction::Back{});
+
+    EXPECT_EQ(session.mouse.press(4), EventVerdict::swallow);
+    session.mouse.release(4);
+    session.edit(
+        [](MouseConfig& value) { value.gesture.bindings.erase(value.gesture.bindings.begin()); });
+    EXPECT_EQ(session.mouse.press(3), EventVerdict::pass);
+    EXPECT_EQ(session.input.tapsMade(), 1u);
+}
+
 TEST_F(MouseGestureManagerTest, takesAnotherPlaceForOtherButtons)
 {
     bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
@@ -137,6 +152,38 @@ TEST_F(MouseGestureManagerTest, letsGoOfAPressWhenGesturesAreSwitchedOff)
     EXPECT_EQ(log.lines(), Lines{});
     edit([](MouseConfig& value) { value.gesture.enabled = true; });
     EXPECT_EQ(input.tapMasks(), Masks{0xE000000});
+}
+
+TEST_F(MouseGestureManagerTest, knowsNothingOfAPressFromBeforeItWasSwitchedOff)
+{
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    gestures.start();
+    mouse.press(3);
+    edit([](MouseConfig& value) { value.gesture.enabled = false; });
+    edit([](MouseConfig& value) { value.gesture.enabled = true; });
+    log.takeLines();
+
+    EXPECT_EQ(mouse.moveTo({300, 0}), EventVerdict::pass);
+    EXPECT_EQ(mouse.release(3), EventVerdict::pass);
+
+    EXPECT_EQ(log.lines(), (Lines{"INFO [mouse] MouseGesture: up without pending Side Back (4)"}));
+}
+
+TEST_F(MouseGestureManagerTest, givesUpItsPlaceWhenItMayNotTakeAnother)
+{
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    gestures.start();
+    permissions.canListen = false;
+
+    bindGesture(MouseButton::left, {}, MouseDirection::right, MouseAction::Forward{});
+
+    EXPECT_EQ(log.lines(),
+        (Lines{"WARN [mouse] MouseGesture: missing Accessibility or Input Monitoring permission; "
+               "not starting"}));
+    EXPECT_EQ(input.tapMasks(), Masks{});
+    permissions.canListen = true;
+    mainThread.advance(2);
+    EXPECT_EQ(input.tapMasks(), Masks{0xE000046});
 }
 
 TEST_F(MouseGestureManagerTest, waitsForPermission)

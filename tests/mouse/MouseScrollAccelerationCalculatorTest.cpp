@@ -26,6 +26,20 @@ TEST(MouseScrollAccelerationCalculator, takesAFirstNotchOfOneLineAsItIs)
     EXPECT_EQ(calculator, (Calculator{500, 0}));
 }
 
+TEST(MouseScrollAccelerationCalculator, takesNoNotchBeforeForOneLongAgo)
+{
+    Calculator atTheStart;
+    EXPECT_EQ(atTheStart.factor(-1, 0, -1, 1.0, 0.02), 1.0);
+    EXPECT_EQ(atTheStart, (Calculator{0.02, 0}));
+
+    Calculator withMomentum{0, 3};
+    EXPECT_EQ(withMomentum.factor(-1, 0, -1, 1.0, 500), 1.0);
+    EXPECT_EQ(withMomentum, (Calculator{500, 0}));
+
+    // One second after the start there was a notch: time term 0.75.
+    EXPECT_NEAR((Calculator{1, 0}).factor(-1, 0, -1, 1.0, 1.02), 1.625421442418055603, 1e-12);
+}
+
 TEST(MouseScrollAccelerationCalculator, gainsByNotchesInQuickSuccession)
 {
     Calculator calculator;

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <memory>
 #include <utility>
 #include <vector>
 
@@ -37,6 +38,20 @@ TEST_F(MouseScrollManagerTest, takesTheWheelWhateverIsSet)
     EXPECT_EQ(mouse.scroll(1), EventVerdict::swallow);
     EXPECT_EQ(mouse.scroll(-2, 1), EventVerdict::swallow);
     EXPECT_EQ(pixels(), (Pixels{{10, 0}, {-20, 10}}));
+}
+
+TEST(MouseScrollManager, takesTheWheelFromTheDevicesWhenANotchIsToBeAnother)
+{
+    MouseSession session({}, SimulatedInput::TapPlace::devices);
+    session.scrolling.start();
+    EXPECT_EQ(session.mouse.scroll(1), EventVerdict::pass);
+
+    session.edit([](MouseConfig& value) { value.scroll.speedMultiplier = 2; });
+    EXPECT_EQ(session.mouse.scroll(1), EventVerdict::swallow);
+
+    session.edit([](MouseConfig& value) { value.scroll.speedMultiplier = 1; });
+    EXPECT_EQ(session.mouse.scroll(1), EventVerdict::pass);
+    EXPECT_EQ(session.input.tapsMade(), 1u);
 }
 
 TEST_F(MouseScrollManagerTest, keepsTheFlagsOfTheNotch)
@@ -176,10 +191,29 @@ TEST_F(MouseScrollManagerTest, waitsForPermission)
         (Lines{"WARN [mouse] MouseScroll: missing Accessibility or Input Monitoring permission; "
                "not starting"}));
 
+    EXPECT_EQ(input.tapsMade(), 0u);
+    activation.becomeActive();
+    EXPECT_EQ(log.takeLines().size(), 1u);
+
     permissions.canListen = true;
     mainThread.advance(2);
 
     EXPECT_EQ(input.tapMasks(), Masks{0x400000});
+    EXPECT_EQ(mainThread.timers(), 0u);
+}
+
+TEST_F(MouseScrollManagerTest, canGoWhileAnEventIsOnItsWay)
+{
+    auto second = std::make_unique<MouseScrollManager>(config, environment,
+        MouseScrollManager::Abilities{input, applications, displayLink, clock});
+    tap.subscribe(0x400000, [&](const Event&) {
+        second.reset();
+        return EventVerdict::pass;
+    });
+    second->start();
+
+    EXPECT_EQ(mouse.scroll(3), EventVerdict::pass);
+    EXPECT_EQ(second, nullptr);
 }
 
 } // namespace

@@ -54,7 +54,10 @@ TEST_F(MouseScrollTest, multipliesBySpeedAndAcceleration)
 TEST_F(MouseScrollTest, goesSidewaysWhileShiftIsHeld)
 {
     EXPECT_EQ(scroll(notch(3, 0, eventFlag::shift)), (ScrollDistance{0, 30}));
+    EXPECT_EQ(scroll(notch(1, 0, eventFlag::shift)), (ScrollDistance{0, 10}));
+    EXPECT_EQ(scroll(notch(-1, 0, eventFlag::shift)), (ScrollDistance{0, -10}));
     EXPECT_EQ(scroll(notch(3, 1, eventFlag::shift)), (ScrollDistance{30, 10}));
+    EXPECT_EQ(scroll(notch(3, -1, eventFlag::shift)), (ScrollDistance{30, -10}));
     EXPECT_EQ(scroll(notch(0, 2, eventFlag::shift)), (ScrollDistance{0, 20}));
     EXPECT_EQ(scroll(notch(3, 0, eventFlag::option)), (ScrollDistance{30, 0}));
 }

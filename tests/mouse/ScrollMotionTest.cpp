@@ -77,6 +77,8 @@ TEST(ScrollMotion, takesALaterFrameForItsTime)
     const auto frame = motion.advance(0.51, 0.18);
 
     EXPECT_NEAR(frame.step->horizontal, 5.404053109323453711, 1e-12);
+    EXPECT_NEAR(motion.remainingX, 94.595946890676546289, 1e-12);
+    EXPECT_EQ(motion.remainingY, 0);
 }
 
 TEST(ScrollMotion, goesAlmostAllTheWayAtOnceWithoutADuration)

@@ -25,6 +25,12 @@ TEST(isNearEdge, holdsUpToTheMarginInsideAndOutside)
     EXPECT_FALSE(isNearEdge({300, 408.1}, window, 8));
 }
 
+TEST(isNearEdge, holdsForAMarginOfLessThanAPoint)
+{
+    EXPECT_TRUE(isNearEdge({100.25, 250}, window, 0.25));
+    EXPECT_FALSE(isNearEdge({100.5, 250}, window, 0.25));
+}
+
 TEST(isNearEdge, doesNotHoldOnTheLineOfAnEdgeFarAway)
 {
     EXPECT_FALSE(isNearEdge({100, 600}, window, 8));

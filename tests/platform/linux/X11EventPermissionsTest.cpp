@@ -47,6 +47,19 @@ TEST(X11EventPermissions, areKeptWhileAConnectionThatWasCutIsMadeAnew)
     EXPECT_TRUE(loopThroughout(100ms, [&] { return permissions.isAccessibilityTrusted(); }));
 }
 
+TEST(X11EventPermissions, areMissingOnAServerOnWhichNothingCanBePlayed)
+{
+    const VirtualDesktop desktop(
+        {.windowManager = false, .sessionBus = false, .disabledExtension = "XTEST"});
+    SimulatedClock time;
+    SimulatedMainThread mainThread(time);
+    SimulatedUserDefaults defaults;
+    X11InputStream stream(mainThread, time);
+    X11EventPermissions permissions(stream, defaults);
+
+    EXPECT_EQ(EventPermissionState::ask(permissions), (EventPermissionState{false, false}));
+}
+
 TEST(X11EventPermissions, areForbiddenByNothingButTheWordFalse)
 {
     const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
