@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/FileReading.h"
 #include "foundation/FileReplacement.h"
 #include "support/TemporaryFolder.h"
 

@@ -1,4 +1,8 @@
-#include "foundation/FileReplacementFixture.h"
+#include "foundation/FileReading.h"
+
+#include "support/TemporaryFolder.h"
+
+#include <gtest/gtest.h>
 
 #include <sys/socket.h>
 #include <sys/stat.h>
@@ -10,7 +14,14 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct FileReading : FileReplacement { };
+using Read = Result<std::optional<std::string>, FileProblem>;
+
+constexpr std::size_t oneMebibyte = 1 << 20;
+
+struct FileReading : testing::Test {
+    TemporaryFolder folder;
+    fs::path file = folder.path() / "config.json";
+};
 
 TEST_F(FileReading, answersNothingForAMissingFile)
 {
