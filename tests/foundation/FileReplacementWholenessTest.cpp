@@ -1,10 +1,10 @@
 #include "foundation/FileReplacementFixture.h"
+#include "support/FileSizeLimit.h"
 
 #include <atomic>
 #include <csignal>
 #include <fcntl.h>
 #include <sys/file.h>
-#include <sys/resource.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -14,46 +14,28 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// Runs the action in a child of its own and answers its exit status; 0 when the action answered
-/// true.
-template <typename Action>
-int inChild(Action action)
-{
-    const auto child = ::fork();
-    if (child == 0)
-        ::_exit(action() ? 0 : 1);
-    int status = -1;
-    ::waitpid(child, &status, 0);
-    return status;
-}
-
 TEST_F(FileReplacement, leavesTheOldFileWhenTheDiskIsFull)
 {
     write(file, "old");
 
-    const int status = inChild([&] {
-        ::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{4096, 4096};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-        return replaceFile(file, std::string(oneMebibyte, 'n'))
-            == Replaced(fail(FileProblem{file, "File too large"}));
-    });
+    {
+        const FileSizeLimit limit(4096);
+        EXPECT_EQ(replaceFile(file, std::string(oneMebibyte, 'n')),
+            fail(FileProblem{file, "File too large"}));
+    }
 
-    EXPECT_EQ(status, 0);
     EXPECT_EQ(contentOf(file), "old");
     EXPECT_EQ(namesIn(folder.path()), Names{"config.json"});
 }
 
 TEST_F(FileReplacement, leavesNoNewFileWhenTheDiskIsFull)
 {
-    const int status = inChild([&] {
-        ::signal(SIGXFSZ, SIG_IGN);
-        const rlimit limit{0, 0};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-        return !replaceFile(file, "new");
-    });
+    {
+        const FileSizeLimit limit(0);
+        const auto replaced = replaceFile(file, "new");
+        EXPECT_EQ(replaced, fail(FileProblem{file, "File too large"}));
+    }
 
-    EXPECT_EQ(status, 0);
     EXPECT_EQ(namesIn(folder.path()), Names{});
 }
 
