@@ -99,7 +99,15 @@ TEST(AppLifecycleCoordinator, stopsWithoutHavingStarted)
 
     process.lifecycle.stop();
 
-    EXPECT_EQ(process.journal.entries.front(), "log NOTICE [lifecycle] Brindlex will terminate");
+    EXPECT_EQ(process.journal.entries,
+        (std::vector<std::string>{
+            "log NOTICE [lifecycle] Brindlex will terminate",
+            // The switching observes from its first use on, which is this one.
+            "set smartInputMethodConfig",
+            "observe activations",
+            "set smartInputMethodConfig",
+            "observe activations no more",
+        }));
     EXPECT_FALSE(process.shared.globalEventTap().isLive());
 }
 
