@@ -3,7 +3,6 @@
 #include "foundation/FileHandle.h"
 #include "foundation/Uuid.h"
 
-#include <algorithm>
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
@@ -13,13 +12,6 @@
 
 namespace brindlex {
 namespace {
-
-constexpr const char* notARegularFile = "Is not a regular file";
-
-Failure<FileProblem> failure(const std::filesystem::path& path, int error)
-{
-    return fail(FileProblem{path, std::generic_category().message(error)});
-}
 
 /// The file that the name leads to in the end; where the links lead in a circle, the system's own
 /// refusal follows from the use of the answer.
@@ -129,70 +121,30 @@ Result<Done, FileProblem> replaceFile(
     const auto folderPath = target.has_parent_path() ? target.parent_path() : ".";
     const FileHandle folder(::open(folderPath.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
     if (!folder)
-        return failure(file, errno);
+        return fail(FileProblem::ofSystem(file, errno));
 
     struct stat old = {};
     const bool isNew = ::fstatat(folder.descriptor(), name.c_str(), &old, AT_SYMLINK_NOFOLLOW) != 0;
     if (isNew && errno != ENOENT)
-        return failure(file, errno);
+        return fail(FileProblem::ofSystem(file, errno));
     if (!isNew && !S_ISREG(old.st_mode))
-        return fail(FileProblem{file, notARegularFile});
+        return fail(FileProblem::notARegularFile(file));
 
     TemporaryFile temporary(folder, name);
     if (!temporary)
-        return failure(file, errno);
+        return fail(FileProblem::ofSystem(file, errno));
     const int made = temporary.handle().descriptor();
     if (!temporary.handle().writeAll(content) || ::fsync(made) != 0)
-        return failure(file, errno);
+        return fail(FileProblem::ofSystem(file, errno));
     // Last, as a temporary file that may not be written to could not be taken over.
     const bool hasPermissions
         = isNew ? ::fchmod(made, static_cast<mode_t>(permissions)) == 0 : takeAfter(old, made);
     if (!hasPermissions || !temporary.become(name))
-        return failure(file, errno);
+        return fail(FileProblem::ofSystem(file, errno));
     // Without this a loss of power may bring back the old content, which is whole as well; not
     // every file system can do it.
     ::fsync(folder.descriptor());
     return Done{};
-}
-
-Result<std::optional<std::string>, FileProblem> readFile(
-    const std::filesystem::path& file, std::size_t limit)
-{
-    const FileHandle handle(::open(file.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
-    if (!handle && errno == ENOENT)
-        return std::optional<std::string>{};
-    struct stat status = {};
-    if (!handle || ::fstat(handle.descriptor(), &status) != 0)
-        return failure(file, errno);
-    if (!S_ISREG(status.st_mode))
-        return fail(FileProblem{file, notARegularFile});
-
-    const auto mostBytes = std::min(limit, std::string().max_size() - 1);
-    const auto tooLarge = [&] {
-        return fail(FileProblem{file, "Is larger than " + std::to_string(limit) + " bytes"});
-    };
-    // The size is a hint: files of the kernel report 0, and the file may grow.
-    const auto expected = static_cast<std::size_t>(status.st_size);
-    if (expected > mostBytes)
-        return tooLarge();
-    std::string content;
-    std::size_t length = 0;
-    for (;;) {
-        content.resize(std::min(std::max(expected, length + 4096) + 1, mostBytes + 1));
-        const auto count
-            = ::read(handle.descriptor(), content.data() + length, content.size() - length);
-        if (count < 0 && errno == EINTR)
-            continue;
-        if (count < 0)
-            return failure(file, errno);
-        length += static_cast<std::size_t>(count);
-        if (length > mostBytes)
-            return tooLarge();
-        if (count == 0)
-            break;
-    }
-    content.resize(length);
-    return std::optional<std::string>(std::move(content));
 }
 
 } // namespace brindlex

@@ -1,22 +1,12 @@
 #pragma once
 
+#include "foundation/FileProblem.h"
 #include "foundation/Result.h"
 
-#include <cstddef>
 #include <filesystem>
-#include <optional>
-#include <string>
 #include <string_view>
 
 namespace brindlex {
-
-/// What went wrong with a file, in the system's words.
-struct FileProblem {
-    std::filesystem::path path{};
-    std::string reason{};
-
-    bool operator==(const FileProblem&) const = default;
-};
 
 /// Replaces the content of a file in one step.
 ///
@@ -32,12 +22,5 @@ struct FileProblem {
 Result<Done, FileProblem> replaceFile(const std::filesystem::path& file, std::string_view content,
     std::filesystem::perms permissions
     = std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
-
-/// The whole content of a regular file; nothing when there is no such file.
-///
-/// More than `limit` bytes are a problem, and so is a folder, a device or a pipe, which is never
-/// waited for.
-Result<std::optional<std::string>, FileProblem> readFile(
-    const std::filesystem::path& file, std::size_t limit);
 
 } // namespace brindlex

@@ -4,7 +4,13 @@ namespace brindlex {
 
 MouseClickManager::MouseClickManager(const Observable<MouseConfig>& config,
     const TapEnvironment& environment, MouseActionDispatcher& dispatcher)
-    : config_(config), dispatcher_(dispatcher), client_(environment, "MouseClick")
+    : config_(config), dispatcher_(dispatcher),
+      client_(environment,
+          {.name = "MouseClick",
+              .start = [this] { start(); },
+              .reset = [this] { state_ = {}; },
+              .receive = [this](const Event& event) { return receive(event); }},
+          config.stream().map([](const MouseConfig& value) { return eventTriggers(value.click); }))
 {
     enabledObserver_ = config.stream()
                            .map([](const MouseConfig& value) { return value.click.enabled; })
@@ -16,34 +22,6 @@ MouseClickManager::MouseClickManager(const Observable<MouseConfig>& config,
                                else
                                    tearDown();
                            });
-    triggersObserver_
-        = config.stream()
-              .map([](const MouseConfig& value) { return eventTriggers(value.click); })
-              .withoutRepeats()
-              .withoutFirst()
-              .subscribe([this](const EventTriggers& triggers) { client_.setTriggers(triggers); });
-}
-
-void MouseClickManager::start()
-{
-    if (client_.isSubscribed())
-        return;
-    if (!client_.hasPermission()) {
-        tearDown();
-        client_.retryLater([this] { start(); });
-        return;
-    }
-    client_.subscribe(
-        mouseClickEventMask,
-        [this, alive = lifetime_.watch()](
-            const Event& event) { return alive.expired() ? EventVerdict::pass : receive(event); },
-        eventTriggers(config_.value().click));
-}
-
-void MouseClickManager::tearDown()
-{
-    client_.unsubscribe();
-    state_ = {};
 }
 
 EventVerdict MouseClickManager::receive(const Event& event)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/Lifetime.h"
 #include "foundation/Observable.h"
 #include "mouse/MouseActionDispatcher.h"
 #include "mouse/MouseClick.h"
@@ -19,20 +18,18 @@ public:
         MouseActionDispatcher& dispatcher);
 
     /// Without permission it tries again every 2 seconds.
-    void start();
+    void start() { client_.subscribe(mouseClickEventMask); }
 
-    void tearDown();
+    void tearDown() { client_.unsubscribe(); }
 
 private:
     EventVerdict receive(const Event& event);
 
     const Observable<MouseConfig>& config_;
     MouseActionDispatcher& dispatcher_;
-    Lifetime lifetime_;
     TapClient client_;
     MouseClickState state_;
     Subscription enabledObserver_;
-    Subscription triggersObserver_;
 };
 
 } // namespace brindlex

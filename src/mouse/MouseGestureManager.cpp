@@ -6,7 +6,14 @@ namespace brindlex {
 
 MouseGestureManager::MouseGestureManager(const Observable<MouseConfig>& config,
     const TapEnvironment& environment, const Abilities& abilities)
-    : config_(config), abilities_(abilities), client_(environment, "MouseGesture"),
+    : config_(config), abilities_(abilities),
+      client_(environment,
+          {.name = "MouseGesture",
+              .start = [this] { start(); },
+              .reset = [this] { state_ = {}; },
+              .receive = [this](const Event& event) { return receive(event); }},
+          config.stream().map(
+              [](const MouseConfig& value) { return eventTriggers(value.gesture); })),
       decide_([this](Point point) { return abilities_.resizeDetector.decide(point); })
 {
     enabledObserver_ = config.stream()
@@ -16,12 +23,6 @@ MouseGestureManager::MouseGestureManager(const Observable<MouseConfig>& config,
                            .withoutRepeats()
                            .withoutFirst()
                            .subscribe([this](EventMask mask) { install(mask); });
-    triggersObserver_
-        = config.stream()
-              .map([](const MouseConfig& value) { return eventTriggers(value.gesture); })
-              .withoutRepeats()
-              .withoutFirst()
-              .subscribe([this](const EventTriggers& triggers) { client_.setTriggers(triggers); });
 }
 
 EventMask MouseGestureManager::currentMask() const
@@ -32,32 +33,10 @@ EventMask MouseGestureManager::currentMask() const
 
 void MouseGestureManager::install(EventMask mask)
 {
-    if (mask == 0) {
+    if (mask == 0)
         tearDown();
-        return;
-    }
-    if (client_.isSubscribed() && currentEventMask_ == mask)
-        return;
-    if (!client_.hasPermission()) {
-        tearDown();
-        client_.retryLater([this] { start(); });
-        return;
-    }
-    if (client_.isSubscribed())
-        state_ = {};
-    currentEventMask_ = mask;
-    client_.subscribe(
-        mask,
-        [this, alive = lifetime_.watch()](
-            const Event& event) { return alive.expired() ? EventVerdict::pass : receive(event); },
-        eventTriggers(config_.value().gesture));
-}
-
-void MouseGestureManager::tearDown()
-{
-    client_.unsubscribe();
-    currentEventMask_ = 0;
-    state_ = {};
+    else
+        client_.subscribe(mask);
 }
 
 EventVerdict MouseGestureManager::receive(const Event& event)

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/Lifetime.h"
 #include "foundation/Observable.h"
 #include "mouse/MouseActionDispatcher.h"
 #include "mouse/MouseConfig.h"
@@ -36,7 +35,7 @@ public:
     /// every 2 seconds.
     void install(EventMask mask);
 
-    void tearDown();
+    void tearDown() { client_.unsubscribe(); }
 
 private:
     EventMask currentMask() const;
@@ -46,13 +45,10 @@ private:
 
     const Observable<MouseConfig>& config_;
     Abilities abilities_;
-    Lifetime lifetime_;
     TapClient client_;
-    EventMask currentEventMask_ = 0;
     MouseGestureState state_;
     std::function<MouseResizeDragDecision(Point)> decide_;
     Subscription enabledObserver_;
-    Subscription triggersObserver_;
 };
 
 } // namespace brindlex

@@ -11,7 +11,12 @@ MouseScrollManager::MouseScrollManager(const Observable<MouseConfig>& config,
       smoother_(
           driver_, [this] { return config_.value().scroll.smoothDuration; },
           [this](std::uint64_t flags, ScrollDistance distance) { post(flags, distance); }),
-      client_(environment, "MouseScroll")
+      client_(environment,
+          {.name = "MouseScroll",
+              .start = [this] { start(); },
+              .reset = [this] { reset(); },
+              .receive = [this](const Event& event) { return receive(event); }},
+          config.stream().map([](const MouseConfig& value) { return eventTriggers(value.scroll); }))
 {
     enabledObserver_ = config.stream()
                            .map([](const MouseConfig& value) {
@@ -27,33 +32,10 @@ MouseScrollManager::MouseScrollManager(const Observable<MouseConfig>& config,
                                else
                                    start();
                            });
-    triggersObserver_
-        = config.stream()
-              .map([](const MouseConfig& value) { return eventTriggers(value.scroll); })
-              .withoutRepeats()
-              .withoutFirst()
-              .subscribe([this](const EventTriggers& triggers) { client_.setTriggers(triggers); });
 }
 
-void MouseScrollManager::start()
+void MouseScrollManager::reset()
 {
-    if (client_.isSubscribed())
-        return;
-    if (!client_.hasPermission()) {
-        tearDown();
-        client_.retryLater([this] { start(); });
-        return;
-    }
-    client_.subscribe(
-        mouseScrollEventMask,
-        [this, alive = lifetime_.watch()](
-            const Event& event) { return alive.expired() ? EventVerdict::pass : receive(event); },
-        eventTriggers(config_.value().scroll));
-}
-
-void MouseScrollManager::tearDown()
-{
-    client_.unsubscribe();
     smoother_.reset();
     accelerationCalculator_ = {};
 }

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "foundation/Lifetime.h"
 #include "foundation/Observable.h"
 #include "mouse/MouseConfig.h"
 #include "mouse/ScrollSmoother.h"
@@ -30,24 +29,23 @@ public:
         const Abilities& abilities);
 
     /// Without permission it tries again every 2 seconds.
-    void start();
+    void start() { client_.subscribe(mouseScrollEventMask); }
 
-    void tearDown();
+    void tearDown() { client_.unsubscribe(); }
 
 private:
+    void reset();
     EventVerdict receive(const Event& event);
     std::optional<std::string> frontmostBundleID() const;
     void post(std::uint64_t flags, ScrollDistance distance);
 
     const Observable<MouseConfig>& config_;
     Abilities abilities_;
-    Lifetime lifetime_;
     FrameDriver driver_;
     ScrollSmoother smoother_;
     MouseScrollAccelerationCalculator accelerationCalculator_;
     TapClient client_;
     Subscription enabledObserver_;
-    Subscription triggersObserver_;
 };
 
 } // namespace brindlex

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <csignal>
 #include <string>
 #include <sys/resource.h>
@@ -33,10 +32,9 @@ protected:
 
     Names names() const
     {
-        Names names;
-        for (const auto& entry : fs::directory_iterator(folder.path()))
-            names.push_back(entry.path().filename().string().substr(fileName.size()));
-        std::sort(names.begin(), names.end());
+        auto names = namesIn(folder.path());
+        for (auto& name : names)
+            name.erase(0, fileName.size());
         return names;
     }
 

@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <chrono>
 #include <string>
 #include <vector>
@@ -34,14 +33,7 @@ protected:
         fs::last_write_time(folder.path() / name, std::chrono::file_clock::from_sys(time));
     }
 
-    Names names() const
-    {
-        Names names;
-        for (const auto& entry : fs::directory_iterator(folder.path()))
-            names.push_back(entry.path().filename().string());
-        std::sort(names.begin(), names.end());
-        return names;
-    }
+    Names names() const { return namesIn(folder.path()); }
 
     void prune(Date at)
     {

@@ -1,18 +1,17 @@
 #include "inputmethod/SwitchReducer.h"
 
-#include "support/SwitchComputer.h"
+#include "inputmethod/SwitchReducerProperties.h"
 #include "support/SwitchRecords.h"
 #include "support/SwitchText.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
+#include <initializer_list>
 #include <random>
 
 namespace brindlex {
 namespace {
 
-using Effects = std::vector<SwitchEffect::Any>;
 using Lifecycle = SwitchState::Lifecycle;
 
 /// A user, a computer and settings that all do anything at any time.
@@ -44,12 +43,8 @@ public:
             history_ += text(effect) + "\n";
         SCOPED_TRACE(history_);
 
-        checkSelections(effects, sourceBefore);
-        checkOrder(effects);
-        checkLifecycle(event, before, effects);
-        checkWindow(event, before);
-        checkMemory();
-        checkLearning(event, before, smartBefore);
+        expectProperties({event, before, smartBefore, sourceBefore, effects, state_, smartConfig_,
+            config_, computer_, isOrderly_});
         selectionsMade_ += computer_.selections.size();
         samplesMade_ += smartConfig_ != smartBefore;
     }
@@ -142,132 +137,6 @@ private:
         default:
             return SwitchEvent::Stop{};
         }
-    }
-
-    template <typename Effect>
-    static std::ptrdiff_t count(const Effects& effects)
-    {
-        return std::count_if(effects.begin(), effects.end(),
-            [](const auto& effect) { return std::holds_alternative<Effect>(effect); });
-    }
-
-    /// At most one selection, never of the source that is selected, and told of exactly once.
-    void checkSelections(const Effects& effects, const std::optional<std::string>& sourceBefore)
-    {
-        const auto hud = count<SwitchEffect::FireHUD>(effects);
-        const auto warnings = count<SwitchEffect::LogWarning>(effects);
-        ASSERT_LE(computer_.selections.size(), 1u);
-        if (computer_.selections.empty()) {
-            EXPECT_EQ(hud + warnings, 0);
-            return;
-        }
-        const auto& selected = computer_.selections[0];
-        const bool failed = computer_.refusedSources.contains(selected);
-        EXPECT_TRUE(config_.enabled);
-        EXPECT_NE(selected, sourceBefore);
-        EXPECT_EQ(warnings, failed ? 1 : 0);
-        EXPECT_EQ(hud, !failed && config_.showHUD ? 1 : 0);
-    }
-
-    /// Effects on observers and polling come first, the overlay or the warning last.
-    static void checkOrder(const Effects& effects)
-    {
-        for (std::size_t at = 0; at + 1 < effects.size(); ++at) {
-            EXPECT_FALSE(std::holds_alternative<SwitchEffect::FireHUD>(effects[at]));
-            EXPECT_FALSE(std::holds_alternative<SwitchEffect::LogWarning>(effects[at]));
-        }
-    }
-
-    /// Polling and observers are begun and ended in turn, as the lifecycle says.
-    void checkLifecycle(
-        const SwitchEvent::Any& event, const SwitchState& before, const Effects& effects)
-    {
-        const auto polls = [](Lifecycle lifecycle) {
-            return lifecycle == Lifecycle::observingWithBrowserPolling;
-        };
-        EXPECT_EQ(count<SwitchEffect::StartBrowserPolling>(effects)
-                - count<SwitchEffect::StopBrowserPolling>(effects),
-            polls(state_.lifecycle) - polls(before.lifecycle));
-        EXPECT_LE(count<SwitchEffect::StartBrowserPolling>(effects), 1);
-        EXPECT_LE(count<SwitchEffect::StopBrowserPolling>(effects), 1);
-        const bool changesNothing = std::holds_alternative<SwitchEvent::InputSourceChanged>(event);
-        if (changesNothing) {
-            EXPECT_TRUE(effects.empty());
-            EXPECT_EQ(state_.lifecycle, before.lifecycle);
-        }
-        if (isOrderly_) {
-            EXPECT_EQ(count<SwitchEffect::InstallObservers>(effects)
-                    - count<SwitchEffect::RemoveObservers>(effects),
-                (state_.lifecycle != Lifecycle::stopped)
-                    - (before.lifecycle != Lifecycle::stopped));
-        }
-        if (polls(state_.lifecycle) && !changesNothing) {
-            EXPECT_TRUE(config_.enabled && config_.domainRulesEnabled);
-            EXPECT_EQ(state_.frontmostBundleID, "browser");
-        }
-        if (state_.lifecycle == Lifecycle::stopped && before.lifecycle != Lifecycle::stopped) {
-            EXPECT_EQ(state_.learning, std::nullopt);
-            EXPECT_EQ(state_.ignoreWindow, SwitchState::IgnoreWindow{});
-        }
-    }
-
-    /// A window is opened by a successful selection only, for one second.
-    void checkWindow(const SwitchEvent::Any& event, const SwitchState& before)
-    {
-        EXPECT_EQ(state_.ignoreWindow.inputSourceID.has_value(),
-            state_.ignoreWindow.deadline.has_value());
-        const bool succeeded = !computer_.selections.empty()
-            && !computer_.refusedSources.contains(computer_.selections[0]);
-        if (succeeded) {
-            EXPECT_EQ(state_.ignoreWindow,
-                (SwitchState::IgnoreWindow{computer_.selections[0], computer_.now + 1.0}));
-        } else if (state_.ignoreWindow.inputSourceID) {
-            EXPECT_EQ(state_.ignoreWindow, before.ignoreWindow);
-        } else if (before.ignoreWindow.inputSourceID) {
-            const bool mayClose = !computer_.selections.empty()
-                || state_.lifecycle == Lifecycle::stopped
-                || std::holds_alternative<SwitchEvent::InputSourceChanged>(event);
-            EXPECT_TRUE(mayClose);
-        }
-    }
-
-    /// A switch that is remembered is one of the place visited last.
-    void checkMemory()
-    {
-        const auto& memory = state_.override;
-        EXPECT_EQ(
-            memory.lastAutomaticContext.has_value(), memory.lastAutomaticInputSourceID.has_value());
-        if (memory.lastAutomaticContext) {
-            EXPECT_EQ(memory.lastAutomaticContext, memory.lastVisitedContext);
-        }
-    }
-
-    /// Only a change of the source is learned from, once, and within all bounds.
-    void checkLearning(const SwitchEvent::Any& event, const SwitchState& before,
-        const SmartInputMethodConfig& smartBefore)
-    {
-        const auto window = static_cast<std::size_t>(storedValue(smartConfig_.windowSize));
-        for (const auto& stats : smartConfig_.appStats)
-            EXPECT_LE(stats.samples.size(), window);
-        for (const auto& [bundleID, dates] : smartConfig_.appActivations)
-            EXPECT_LE(dates.size(), 500u);
-        if (smartConfig_ == smartBefore)
-            return;
-        ASSERT_TRUE(before.learning);
-        const auto app = before.learning->app.bundleID;
-        EXPECT_TRUE(std::holds_alternative<SwitchEvent::InputSourceChanged>(event));
-        EXPECT_TRUE(config_.enabled && smartBefore.learningEnabled);
-        EXPECT_NE(before.learning->lastObservedInputSourceID, computer_.inputSourceID);
-        EXPECT_EQ(smartConfig_.appActivations.at(app).back(), computer_.systemTime);
-        auto expected = smartBefore;
-        expected.recordActivation(app, computer_.systemTime);
-        EXPECT_EQ(smartConfig_.appActivations, expected.appActivations);
-        const auto stats = std::find_if(smartConfig_.appStats.begin(), smartConfig_.appStats.end(),
-            [&](const auto& entry) { return entry.app.bundleID == app; });
-        ASSERT_NE(stats, smartConfig_.appStats.end());
-        EXPECT_EQ(stats->samples.back().inputSourceID, computer_.inputSourceID);
-        EXPECT_EQ(stats->samples.back().recordedAt, computer_.systemTime);
-        EXPECT_EQ(stats->lastRecordedAt, computer_.systemTime);
     }
 
     std::mt19937 random_;

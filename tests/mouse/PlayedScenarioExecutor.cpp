@@ -74,20 +74,12 @@ PlayedScenarioExecutor::Session::Session(const MouseConfig& config)
     server.sync();
 }
 
-void PlayedScenarioExecutor::setUp(const Words& words)
-{
-    if (!scenarioWords::change(initialConfig_, words))
-        initialArrangement_.push_back(words);
-}
-
 void PlayedScenarioExecutor::start()
 {
     if (session_)
         return;
-    session_ = std::make_unique<Session>(initialConfig_);
-    for (const auto& words : initialArrangement_)
-        session_->stage.carryOut(words);
-    session_->stage.start();
+    session_ = std::make_unique<Session>(preparation_.config());
+    preparation_.begin(session_->stage);
     session_->desktop.settle();
 }
 

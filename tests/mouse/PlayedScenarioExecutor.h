@@ -4,6 +4,7 @@
 #include "mouse/MouseSubsystem.h"
 #include "mouse/RecordedInput.h"
 #include "mouse/Scenario.h"
+#include "mouse/ScenarioPreparation.h"
 #include "mouse/ScenarioStage.h"
 #include "mouse/ScenarioWords.h"
 #include "support/TappedDesktop.h"
@@ -22,7 +23,7 @@ namespace brindlex {
 /// answered as `arrived ...` and so differs from what is written.
 class PlayedScenarioExecutor : public ScenarioExecutor {
 public:
-    void setUp(const Words& words) override;
+    void setUp(const Words& words) override { preparation_.add(words); }
     std::vector<std::string> run(Seconds at, const Words& words) override;
 
     /// Lets go of the modifiers; what then is down all the same.
@@ -50,8 +51,7 @@ private:
     std::vector<std::string> takePosted(bool isWheel);
     std::vector<std::string> takeSurprises();
 
-    MouseConfig initialConfig_;
-    std::vector<Words> initialArrangement_;
+    ScenarioPreparation preparation_;
     std::unique_ptr<Session> session_;
     ExpectedArrivals expected_;
     std::uint64_t heldFlags_ = 0;

@@ -6,20 +6,12 @@ namespace brindlex {
 
 using Words = ScenarioExecutor::Words;
 
-void SimulatedScenarioExecutor::setUp(const Words& words)
-{
-    if (!scenarioWords::change(initialConfig_, words))
-        initialArrangement_.push_back(words);
-}
-
 void SimulatedScenarioExecutor::start()
 {
     if (session_)
         return;
-    session_ = std::make_unique<Session>(initialConfig_);
-    for (const auto& words : initialArrangement_)
-        session_->stage.carryOut(words);
-    session_->stage.start();
+    session_ = std::make_unique<Session>(preparation_.config());
+    preparation_.begin(session_->stage);
 }
 
 std::vector<std::string> SimulatedScenarioExecutor::run(Seconds at, const Words& words)

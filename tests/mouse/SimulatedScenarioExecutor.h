@@ -2,6 +2,7 @@
 
 #include "mouse/MouseSession.h"
 #include "mouse/Scenario.h"
+#include "mouse/ScenarioPreparation.h"
 #include "mouse/ScenarioStage.h"
 
 #include <memory>
@@ -14,7 +15,7 @@ namespace brindlex {
 /// Plays a scenario in memory, with time of its own.
 class SimulatedScenarioExecutor : public ScenarioExecutor {
 public:
-    void setUp(const Words& words) override;
+    void setUp(const Words& words) override { preparation_.add(words); }
     std::vector<std::string> run(Seconds at, const Words& words) override;
 
 private:
@@ -30,8 +31,7 @@ private:
     std::optional<EventVerdict> play(SimulatedMouse& mouse, const Words& words);
     std::vector<std::string> takeSeen();
 
-    MouseConfig initialConfig_;
-    std::vector<Words> initialArrangement_;
+    ScenarioPreparation preparation_;
     /// Absent until something happens.
     std::unique_ptr<Session> session_;
 };

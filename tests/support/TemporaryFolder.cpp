@@ -1,5 +1,6 @@
 #include "support/TemporaryFolder.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <sstream>
@@ -25,6 +26,15 @@ std::string contentOf(const std::filesystem::path& file)
     std::ostringstream content;
     content << stream.rdbuf();
     return std::move(content).str();
+}
+
+std::vector<std::string> namesIn(const std::filesystem::path& folder)
+{
+    std::vector<std::string> names;
+    for (const auto& entry : std::filesystem::directory_iterator(folder))
+        names.push_back(entry.path().filename().string());
+    std::ranges::sort(names);
+    return names;
 }
 
 void write(const std::filesystem::path& file, const std::string& content)

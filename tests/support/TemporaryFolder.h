@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <string>
+#include <vector>
 
 namespace brindlex {
 
@@ -21,6 +22,9 @@ private:
 
 /// The whole content of a file; empty when there is none.
 std::string contentOf(const std::filesystem::path& file);
+
+/// The names of all that is in a folder, in order.
+std::vector<std::string> namesIn(const std::filesystem::path& folder);
 
 /// Makes the file have exactly this content.
 void write(const std::filesystem::path& file, const std::string& content);

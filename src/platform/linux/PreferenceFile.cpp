@@ -1,6 +1,7 @@
 #include "platform/linux/PreferenceFile.h"
 
 #include "app/Log.h"
+#include "foundation/FileReading.h"
 #include "foundation/FileReplacement.h"
 #include "platform/linux/FolderLock.h"
 

@@ -1,6 +1,6 @@
 #include "platform/linux/XdgUserFolders.h"
 
-#include "foundation/FileReplacement.h"
+#include "foundation/FileReading.h"
 #include "foundation/Text.h"
 
 #include <array>

@@ -1,0 +1,116 @@
+#include "MouseFigures.h"
+#include "MouseMeasuring.h"
+#include "mouse/ScrollMotion.h"
+#include "platform/linux/QtMainThread.h"
+#include "platform/linux/RandRDisplayLink.h"
+#include "platform/linux/WheelTicks.h"
+#include "platform/posix/PosixClock.h"
+
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <stop_token>
+#include <thread>
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+constexpr int notchesOfTurn = 20;
+constexpr Seconds timeOfNotch = 0.005;
+
+/// What the program takes as the frames of the screen.
+double framesPerSecond()
+{
+    QtMainThread mainThread;
+    const PosixClock clock;
+    X11Connection connection;
+    return RandRDisplayLink(connection, mainThread, clock).maximumFramesPerSecond().value_or(60);
+}
+
+/// How many notches the smooth motion of one turn posts in all, by its own arithmetic, when all
+/// frames come in time.
+double notchesPosted(double frameRate)
+{
+    const double duration = MouseScrollConfig{}.smoothDuration;
+    ScrollMotion motion;
+    double pixels = 0;
+    int turned = 0;
+    for (int frame = 1;; ++frame) {
+        const double now = frame / frameRate;
+        for (; turned < notchesOfTurn && turned * timeOfNotch < now; ++turned)
+            motion.add(0, 0, WheelTicks::pixelsPerNotch);
+        const auto advance = motion.advance(now, duration);
+        if (advance.step)
+            pixels += std::round(advance.step->vertical);
+        if (advance.isDrained && turned == notchesOfTurn)
+            return pixels / WheelTicks::pixelsPerNotch;
+    }
+}
+
+/// When the notches of one quick turn came.
+std::vector<Clock::time_point> turnQuickly(const MouseDesk& desk, const TargetWindow& target)
+{
+    std::vector<Clock::time_point> came;
+    target.forget();
+    const auto begin = Clock::now();
+    constexpr std::chrono::duration<double> interval{timeOfNotch};
+    for (int notch = 0; notch < notchesOfTurn; ++notch) {
+        const auto nextNotch
+            = begin + std::chrono::duration_cast<Clock::duration>((notch + 1) * interval);
+        desk.mouse.turnWheel(1);
+        while (const auto event = target.next(XCB_BUTTON_PRESS, nextNotch))
+            came.push_back(*event);
+        desk.mouse.settle();
+    }
+    while (const auto event = target.next(XCB_BUTTON_PRESS))
+        came.push_back(*event);
+    return came;
+}
+
+void measureScrolls(const std::string& name, const MouseDesk& desk, const TargetWindow& target)
+{
+    const double frameRate = framesPerSecond();
+    const double frame = 1000 / frameRate;
+    // Notches of one frame follow each other as fast as the application takes them.
+    const double sameFrame = frame / 4;
+    std::vector<double> intervals;
+    std::vector<double> strays;
+    std::vector<double> distances;
+    for (int round = 0; round < 12; ++round) {
+        const auto came = turnQuickly(desk, target);
+        distances.push_back(std::abs(static_cast<double>(came.size()) - notchesPosted(frameRate)));
+        for (std::size_t index = 1; index < came.size(); ++index) {
+            const double interval = milliseconds(came[index] - came[index - 1]);
+            if (interval < sameFrame)
+                continue;
+            intervals.push_back(interval);
+            strays.push_back(std::abs(interval - frame * std::round(interval / frame)));
+        }
+    }
+    print(name + ": between steps, ms", distributionOf(std::move(intervals)));
+    print(name + ": off the beat of the frames, ms", distributionOf(std::move(strays)));
+    print(name + ": arrived against posted, notches", distributionOf(std::move(distances)));
+}
+
+} // namespace
+
+void measureSmoothness(MouseDesk& desk, const TargetWindow& target)
+{
+    printHeading("one smooth scroll of 20 notches");
+    std::printf("%-52s %9.3f\n", "a frame of the screen, ms", 1000 / framesPerSecond());
+    desk.start(smoothWheel());
+    measureScrolls("idle", desk, target);
+    {
+        const std::jthread busy([](const std::stop_token& stop) {
+            while (!stop.stop_requested())
+                continue;
+        });
+        measureScrolls("one core busy", desk, target);
+    }
+    endProgram(desk);
+}
+
+} // namespace brindlex

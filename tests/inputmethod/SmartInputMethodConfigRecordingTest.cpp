@@ -1,0 +1,154 @@
+#include "inputmethod/SmartInputMethodConfig.h"
+
+#include "support/SwitchRecords.h"
+#include "support/SwitchText.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <map>
+#include <string>
+#include <vector>
+
+namespace brindlex {
+namespace {
+
+using Config = SmartInputMethodConfig;
+
+const std::string editor = "com.example.Editor";
+const AppIdentifier editorApp{editor, "Editor"};
+constexpr Date now{800'000'000};
+constexpr Seconds days180 = 15'552'000;
+
+TEST(SmartInputMethodConfig, makesAnEntryAtTheFirstSample)
+{
+    Config config;
+    config.recordSample("german", editorApp, now);
+
+    ASSERT_EQ(config.appStats.size(), 1u);
+    SmartInputMethodAppStats expected;
+    expected.id = config.appStats[0].id;
+    expected.app = editorApp;
+    expected.samples = {{config.appStats[0].samples.at(0).id, "german", now}};
+    expected.recommendedInputSourceID = "german";
+    expected.recommendationPercent = 100;
+    expected.lastRecordedAt = now;
+    EXPECT_EQ(config.appStats[0], expected);
+    EXPECT_NE(expected.id, Uuid{});
+    EXPECT_NE(expected.samples[0].id, Uuid{});
+    EXPECT_NE(expected.samples[0].id, expected.id);
+    EXPECT_TRUE(config.appActivations.empty());
+}
+
+TEST(SmartInputMethodConfig, appendsEntriesInTheOrderOfTheFirstSample)
+{
+    Config config;
+    config.recordSample("german", {"z", "Z"}, now);
+    config.recordSample("german", {"a", "A"}, now);
+    config.recordSample("german", {"z", "Z"}, now);
+    ASSERT_EQ(config.appStats.size(), 2u);
+    EXPECT_EQ(config.appStats[0].app.bundleID, "z");
+    EXPECT_EQ(config.appStats[0].samples.size(), 2u);
+    EXPECT_EQ(config.appStats[1].app.bundleID, "a");
+}
+
+TEST(SmartInputMethodConfig, keepsTheNewestSamplesOfTheWindow)
+{
+    Config config;
+    for (int number = 0; number < 11; ++number)
+        config.recordSample(
+            number < 3 ? "english" : "german", editorApp, Date{static_cast<double>(number)});
+
+    const auto& stats = config.appStats.at(0);
+    EXPECT_EQ(sourcesOf(stats.samples),
+        (std::vector<std::string>{"english", "english", "german", "german", "german", "german",
+            "german", "german", "german", "german"}));
+    EXPECT_EQ(stats.samples.front().recordedAt, Date{1});
+    EXPECT_EQ(stats.lastRecordedAt, Date{10});
+    EXPECT_EQ(stats.recommendedInputSourceID, "german");
+    EXPECT_EQ(stats.recommendationPercent, 80);
+    EXPECT_TRUE(stats.isActive);
+}
+
+TEST(SmartInputMethodConfig, keepsTheApplicationAsItWasFirstSeen)
+{
+    Config config;
+    config.recordSample("german", editorApp, now);
+    config.recordSample("german", {editor, "Renamed", "/icon.png"}, now);
+    EXPECT_EQ(config.appStats.at(0).app, editorApp);
+    EXPECT_EQ(config.appStats.at(0).samples.size(), 2u);
+}
+
+TEST(SmartInputMethodConfig, recordsInTheFirstOfSeveralEntries)
+{
+    Config config;
+    config.appStats = {statsOf(editor, {}), statsOf(editor, {})};
+    config.recordSample("german", editorApp, now);
+    EXPECT_EQ(config.appStats[0].samples.size(), 1u);
+    EXPECT_TRUE(config.appStats[1].samples.empty());
+}
+
+TEST(SmartInputMethodConfig, notesATimeThatWentBackwards)
+{
+    Config config;
+    config.recordSample("german", editorApp, Date{100});
+    config.recordSample("german", editorApp, Date{50});
+    EXPECT_EQ(config.appStats.at(0).samples.at(1).recordedAt, Date{50});
+    EXPECT_EQ(config.appStats.at(0).lastRecordedAt, Date{50});
+}
+
+TEST(SmartInputMethodConfig, notesManualSwitchesInOrder)
+{
+    Config config;
+    config.recordActivation(editor, now);
+    config.recordActivation("a", now);
+    config.recordActivation(editor, now + 1);
+    EXPECT_EQ(config.appActivations,
+        (std::map<std::string, std::vector<Date>>{{editor, {now, now + 1}}, {"a", {now}}}));
+    EXPECT_TRUE(config.appStats.empty());
+}
+
+TEST(SmartInputMethodConfig, dropsTheOldestOf501ManualSwitches)
+{
+    Config config;
+    for (int number = 0; number < 500; ++number)
+        config.recordActivation(editor, now + number);
+    EXPECT_EQ(config.appActivations[editor].size(), 500u);
+    EXPECT_EQ(config.appActivations[editor].front(), now);
+
+    config.recordActivation(editor, now + 500);
+    EXPECT_EQ(config.appActivations[editor].size(), 500u);
+    EXPECT_EQ(config.appActivations[editor].front(), now + 1);
+    EXPECT_EQ(config.appActivations[editor].back(), now + 500);
+}
+
+TEST(SmartInputMethodConfig, dropsDownTo500FromAnOverlongRecord)
+{
+    Config config;
+    config.appActivations[editor] = std::vector<Date>(2000, now);
+    config.recordActivation(editor, now + 1);
+    EXPECT_EQ(config.appActivations[editor].size(), 500u);
+    EXPECT_EQ(config.appActivations[editor].back(), now + 1);
+}
+
+TEST(SmartInputMethodConfig, forgetsManualSwitchesOlderThan180Days)
+{
+    Config config;
+    const Date justOld{std::nextafter((now - days180).secondsSinceReferenceDate, 0.0)};
+    config.appActivations[editor] = {justOld, now - days180, now - days180 - 1, now - 1};
+    config.appActivations["other"] = {justOld};
+    config.recordActivation(editor, now);
+    EXPECT_EQ(config.appActivations[editor], (std::vector<Date>{now - days180, now - 1, now}));
+    EXPECT_EQ(config.appActivations["other"], std::vector<Date>{justOld});
+}
+
+TEST(SmartInputMethodConfig, keepsManualSwitchesFromTheFuture)
+{
+    Config config;
+    config.recordActivation(editor, now);
+    config.recordActivation(editor, now - 3600);
+    EXPECT_EQ(config.appActivations[editor], (std::vector<Date>{now, now - 3600}));
+}
+
+} // namespace
+} // namespace brindlex
