@@ -1,4 +1,5 @@
 #include "desktop/MouseDesk.h"
+#include "support/Keycodes.h"
 
 #include <gtest/gtest.h>
 
@@ -6,11 +7,6 @@ namespace brindlex {
 namespace {
 
 using Lines = MouseDesk::Lines;
-
-// Keys as X counts them.
-constexpr std::uint8_t shiftKey = 50;
-constexpr std::uint8_t keyA = 38;
-constexpr std::uint8_t superKey = 133;
 
 const Lines forwardStroke{
     "key 64 down", "key 114 down (alt)", "key 114 up (alt)", "key 64 up (alt)"};
@@ -109,11 +105,11 @@ TEST_F(Mouse, sendsAKeystrokeWithItsOwnModifiersAlone)
     desk.start(config);
     EventLogWindow window;
 
-    desk.keyboard.press(shiftKey);
+    desk.keyboard.press(keycode::shift);
     desk.keyboard.settle();
     desk.mouse.click(middleButton);
     desk.settle();
-    desk.keyboard.release(shiftKey);
+    desk.keyboard.release(keycode::shift);
 
     const auto strokes = [&] {
         Lines lines;
@@ -158,16 +154,15 @@ TEST_F(Mouse, turnsTheWheelAround)
 
 TEST_F(Mouse, movesThePointerAsFarAsTheHandWhateverIsHeld)
 {
-    constexpr std::uint8_t altKey = 64;
     EventLogWindow window;
     const auto dragged = [&] {
         const auto before = window.pointer();
-        desk.keyboard.press(altKey);
+        desk.keyboard.press(keycode::alt);
         desk.keyboard.settle();
         drag(leftButton, 60, 40);
         desk.mouse.release(leftButton);
         desk.settle();
-        desk.keyboard.release(altKey);
+        desk.keyboard.release(keycode::alt);
         const auto after = window.pointer();
         window.movePointer(before);
         return std::pair{after.x - before.x, after.y - before.y};
@@ -193,7 +188,7 @@ TEST_F(Mouse, leavesAllDevicesAloneWithoutBindings)
 
     desk.mouse.click(backButton);
     desk.mouse.turnWheel(1);
-    desk.keyboard.stroke(keyA);
+    desk.keyboard.stroke(keycode::a);
     desk.keyboard.settle();
 
     EXPECT_TRUE(receives(
@@ -285,8 +280,8 @@ TEST_P(MouseAtTheEnd, leavesNothingTakenOrStuck)
 {
     desk.start(everything());
     EventLogWindow window;
-    desk.keyboard.press(superKey);
-    desk.keyboard.press(keyA);
+    desk.keyboard.press(keycode::super);
+    desk.keyboard.press(keycode::a);
     desk.keyboard.settle();
     desk.mouse.press(leftButton);
     drag(backButton, 10, 0);
@@ -297,15 +292,15 @@ TEST_P(MouseAtTheEnd, leavesNothingTakenOrStuck)
     EXPECT_TRUE(desk.givesDevicesBack());
     desk.mouse.release(backButton);
     desk.mouse.release(leftButton);
-    desk.keyboard.release(keyA);
-    desk.keyboard.release(superKey);
+    desk.keyboard.release(keycode::a);
+    desk.keyboard.release(keycode::super);
     desk.settle();
     EXPECT_TRUE(eventually([&] { return window.held() == Lines{}; }))
         << testing::PrintToString(window.held());
     window.forget();
     desk.mouse.click(backButton);
     desk.mouse.turnWheel(1);
-    desk.keyboard.stroke(keyA);
+    desk.keyboard.stroke(keycode::a);
     desk.keyboard.settle();
     EXPECT_TRUE(receives(
         window, {"press 8", "release 8", "press 5", "release 5", "key 38 down", "key 38 up"}));
@@ -343,7 +338,7 @@ TEST_P(MouseWithoutSense, endsTheProgramWithItsReasonAndFreesTheInput)
 {
     desk.start(GetParam().config);
     EventLogWindow window;
-    desk.keyboard.press(keyA);
+    desk.keyboard.press(keycode::a);
     desk.keyboard.settle();
 
     desk.mouse.press(middleButton);
@@ -354,7 +349,7 @@ TEST_P(MouseWithoutSense, endsTheProgramWithItsReasonAndFreesTheInput)
         << desk.program->report();
     EXPECT_TRUE(desk.givesDevicesBack());
     desk.mouse.release(middleButton);
-    desk.keyboard.release(keyA);
+    desk.keyboard.release(keycode::a);
     EXPECT_TRUE(eventually([&] { return window.held() == Lines{}; }))
         << testing::PrintToString(window.held());
 }

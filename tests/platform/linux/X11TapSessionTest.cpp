@@ -3,6 +3,7 @@
 #include "support/Eventually.h"
 #include "support/InputDevices.h"
 #include "support/KeyboardGroup.h"
+#include "support/Keycodes.h"
 #include "support/PlayedInput.h"
 #include "support/TappedDesktop.h"
 
@@ -17,11 +18,6 @@ constexpr EventMask buttonsAndDrags = 0xE0000DE;
 constexpr EventMask wheel = eventMask(EventType::scrollWheel);
 constexpr EventMask keys = 0xC00;
 constexpr std::int64_t keyA = 0;
-constexpr std::uint8_t controlKey = 37;
-constexpr std::uint8_t aKey = 38;
-constexpr std::uint8_t qKey = 24;
-constexpr std::uint8_t numLockKey = 77;
-constexpr std::uint8_t capsLockKey = 66;
 
 EventInterest middleButton() { return {buttonsAndDrags, EventTriggers{.buttons = {{2, {}}}}}; }
 
@@ -123,15 +119,15 @@ TEST_F(X11TapSessionTest, holdsNoReleaseOfAButtonUpForTheTaps)
 TEST_F(X11TapSessionTest, takesAKeyboardOnlyWhileAHotkeyIsHeld)
 {
     tap(controlA());
-    desktop_.keyboard.press(controlKey);
+    desktop_.keyboard.press(keycode::control);
     desktop_.settle();
     EXPECT_EQ(floatingDevices(server_), Lines{});
 
-    desktop_.keyboard.press(aKey);
+    desktop_.keyboard.press(keycode::a);
     desktop_.settle();
     EXPECT_EQ(floatingDevices(server_), Lines{"keyboard"});
-    desktop_.keyboard.release(controlKey);
-    desktop_.keyboard.release(aKey);
+    desktop_.keyboard.release(keycode::control);
+    desktop_.keyboard.release(keycode::a);
     desktop_.settle();
 
     EXPECT_EQ(floatingDevices(server_), Lines{});
@@ -244,14 +240,14 @@ TEST_F(X11TapSessionTest, tellsWhereTheCursorIsAndWhatIsHeldAtEachEvent)
 {
     tap(middleButton(), EventVerdict::swallow);
     desktop_.window.movePointer({200, 100});
-    desktop_.keyboard.press(controlKey);
+    desktop_.keyboard.press(keycode::control);
     desktop_.settle();
 
     desktop_.mouse.press(2);
     desktop_.settle();
     desktop_.mouse.move(2, 1);
     desktop_.settle();
-    desktop_.keyboard.release(controlKey);
+    desktop_.keyboard.release(keycode::control);
     desktop_.settle();
     desktop_.mouse.release(2);
     desktop_.settle();
@@ -266,13 +262,13 @@ TEST_F(X11TapSessionTest, tellsWhereTheCursorIsAndWhatIsHeldAtEachEvent)
 TEST_F(X11TapSessionTest, knowsAHotkeyUnderCapsLockAndNumLock)
 {
     tap(controlA(), EventVerdict::swallow);
-    desktop_.keyboard.stroke(capsLockKey);
-    desktop_.keyboard.stroke(numLockKey);
-    desktop_.keyboard.press(controlKey);
+    desktop_.keyboard.stroke(keycode::capsLock);
+    desktop_.keyboard.stroke(keycode::numLock);
+    desktop_.keyboard.press(keycode::control);
     desktop_.settle();
     desktop_.window.forget();
 
-    desktop_.keyboard.stroke(aKey);
+    desktop_.keyboard.stroke(keycode::a);
     desktop_.settle();
 
     EXPECT_TRUE(desktop_.receives({}));
@@ -282,11 +278,11 @@ TEST_F(X11TapSessionTest, knowsAHotkeyUnderCapsLockAndNumLock)
 TEST_F(X11TapSessionTest, showsTheRepeatsOfAHeldKeyAndLetsTheServerRepeatIt)
 {
     tap({keys, {}});
-    desktop_.keyboard.press(aKey);
+    desktop_.keyboard.press(keycode::a);
 
     EXPECT_TRUE(loopUntil([this] { return seen_.size() >= 3; }));
     EXPECT_TRUE(loopUntil([this] { return desktop_.window.lines().size() >= 4; }));
-    desktop_.keyboard.release(aKey);
+    desktop_.keyboard.release(keycode::a);
     desktop_.settle();
 
     EXPECT_EQ(seen_[0].value(EventField::keyboardEventAutorepeat), 0);
@@ -303,40 +299,40 @@ TEST_F(X11TapSessionTest, keepsTheLayoutThatTheUserMakesMeanwhile)
     tap({keys, {}});
     desktop_.desktop.setKeyboardLayouts("fr");
     desktop_.settle();
-    desktop_.keyboard.stroke(qKey);
+    desktop_.keyboard.stroke(keycode::q);
     desktop_.settle();
-    EXPECT_EQ(symbolOf(qKey), xcb_keysym_t{'a'});
+    EXPECT_EQ(symbolOf(keycode::q), xcb_keysym_t{'a'});
 
     drop();
     EXPECT_TRUE(floats({}));
-    desktop_.keyboard.stroke(qKey);
+    desktop_.keyboard.stroke(keycode::q);
     desktop_.settle();
 
-    EXPECT_EQ(symbolOf(qKey), xcb_keysym_t{'a'});
+    EXPECT_EQ(symbolOf(keycode::q), xcb_keysym_t{'a'});
 }
 
 TEST_F(X11TapSessionTest, keepsTheSelectedLayout)
 {
     selectKeyboardGroup(server_, 1);
-    desktop_.keyboard.stroke(qKey);
+    desktop_.keyboard.stroke(keycode::q);
     tap(controlA());
-    desktop_.keyboard.press(controlKey);
-    desktop_.keyboard.stroke(aKey);
-    desktop_.keyboard.release(controlKey);
+    desktop_.keyboard.press(keycode::control);
+    desktop_.keyboard.stroke(keycode::a);
+    desktop_.keyboard.release(keycode::control);
     desktop_.settle();
     EXPECT_EQ(keyboardGroup(server_), 1);
 
     tap({keys, {}});
-    desktop_.keyboard.stroke(qKey);
+    desktop_.keyboard.stroke(keycode::q);
     desktop_.settle();
     EXPECT_EQ(keyboardGroup(server_), 1);
     selectKeyboardGroup(server_, 0);
-    desktop_.keyboard.stroke(qKey);
+    desktop_.keyboard.stroke(keycode::q);
     desktop_.settle();
     EXPECT_EQ(keyboardGroup(server_), 0);
     drop();
     EXPECT_TRUE(floats({}));
-    desktop_.keyboard.stroke(qKey);
+    desktop_.keyboard.stroke(keycode::q);
     desktop_.settle();
 
     EXPECT_EQ(keyboardGroup(server_), 0);
@@ -383,8 +379,8 @@ TEST_F(X11TapSessionTest, leavesAloneWhatOtherProgramsPlay)
     const PlayedInput other(server_);
 
     other.click(100, 100, 2);
-    other.pressKey(aKey);
-    other.releaseKey(aKey);
+    other.pressKey(keycode::a);
+    other.releaseKey(keycode::a);
     desktop_.settleTaps();
 
     EXPECT_TRUE(desktop_.receives({"press 2", "release 2", "key 38 down", "key 38 up"}));
