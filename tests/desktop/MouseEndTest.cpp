@@ -43,6 +43,8 @@ struct Impossible {
     const char* lastWords;
 };
 
+void PrintTo(const Impossible& values, std::ostream* stream) { *stream << values.name; }
+
 MouseConfig impossibleKey()
 {
     auto config = everything();
