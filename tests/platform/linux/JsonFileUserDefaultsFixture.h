@@ -27,6 +27,12 @@ protected:
         return folder.path() / "com.brindlex.Brindlex.json.corrupt";
     }
 
+    /// What the log says of a file that is no JSON.
+    std::string asideLine() const
+    {
+        return "ERROR [lifecycle] Preferences set aside as " + aside().string() + ": is not JSON";
+    }
+
     void start() { defaults.emplace(path(), loop.mainThread(), queue); }
 
     Value valueInFile(const std::string& key) const

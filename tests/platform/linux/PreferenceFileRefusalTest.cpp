@@ -42,10 +42,7 @@ TEST_F(PreferenceFileTest, isUsedAgainOnceItMayBeRead)
 
 TEST_F(PreferenceFileTest, staysAsItWasWhenTheFolderMayNotBeWrittenTo)
 {
-    files::create_directory(at("closed"));
-    write(at("closed/p.json"), R"({"a":1})");
-    files::permissions(at("closed/p.json"), files::perms(0644));
-    files::permissions(at("closed"), files::perms(0555));
+    makeFileInClosedFolder(R"({"a":1})");
     {
         const OrdinaryUser user(folder.path());
         PreferenceFile file(at("closed/p.json"));
@@ -62,16 +59,15 @@ TEST_F(PreferenceFileTest, staysAsItWasWhenTheFolderMayNotBeWrittenTo)
 
 TEST_F(PreferenceFileTest, staysAsItWasWhenItIsDamagedAndCannotBeSetAside)
 {
-    files::create_directory(at("closed"));
-    write(at("closed/p.json"), "damage");
-    files::permissions(at("closed/p.json"), files::perms(0644));
-    files::permissions(at("closed"), files::perms(0555));
+    makeFileInClosedFolder("damage");
     {
         const OrdinaryUser user(folder.path());
         PreferenceFile file(at("closed/p.json"));
         EXPECT_EQ(file.look(Patience::acts), Finding::unreadable);
         EXPECT_FALSE(file.write(document(R"({"a":2})"), {"a"}));
-        EXPECT_EQ(log.takeLines().size(), 1U);
+        EXPECT_EQ(log.takeLines(),
+            std::vector{"ERROR [lifecycle] Preferences is not JSON and cannot be set aside: "
+                + at("closed/p.json").string() + ": Permission denied"});
     }
     files::permissions(at("closed"), files::perms(0755));
     EXPECT_EQ(contentOf(at("closed/p.json")), "damage");

@@ -126,21 +126,5 @@ TEST_F(PreferenceFileTest, isWrittenAlthoughAStoppedProcessHoldsTheLock)
     expectContent(R"({"a":1})");
 }
 
-TEST_F(PreferenceFileTest, survivesAnyBytes)
-{
-    std::uint32_t state = 1;
-    const auto random = [&] { return state = state * 1'664'525 + 1'013'904'223; };
-    const std::string whole = R"({"a":[1,"x",{"b":null}],"c":"\u00e9","d":1.5e3})";
-    for (int round = 0; round < 2'000; ++round) {
-        auto bytes = whole;
-        for (auto changes = 1 + random() % 4; changes > 0; --changes)
-            bytes[(random() >> 8) % bytes.size()] = static_cast<char>(random() >> 24);
-        const auto parsed = parsePreferences(bytes);
-        if (parsed) {
-            EXPECT_TRUE(isSameDocument(document(preferencesText(*parsed)), *parsed)) << bytes;
-        }
-    }
-}
-
 } // namespace
 } // namespace brindlex
