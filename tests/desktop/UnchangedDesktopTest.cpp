@@ -1,20 +1,11 @@
 #include "desktop/RecordedDesk.h"
+#include "support/Keycodes.h"
+#include "support/PlayedInput.h"
 
 #include <gtest/gtest.h>
 
 namespace brindlex {
 namespace {
-
-// Keys as X counts them.
-constexpr std::uint8_t tabKey = 23;
-constexpr std::uint8_t controlKey = 37;
-constexpr std::uint8_t keyA = 38;
-constexpr std::uint8_t keyD = 40;
-constexpr std::uint8_t shiftKey = 50;
-constexpr std::uint8_t keyY = 29;
-constexpr std::uint8_t altKey = 64;
-constexpr std::uint8_t rightKey = 114;
-constexpr std::uint8_t superKey = 133;
 
 /// Something that users do with a desktop, and a line of the record that shows that it worked.
 struct Habit {
@@ -24,6 +15,39 @@ struct Habit {
 };
 
 void PrintTo(const Habit& habit, std::ostream* stream) { *stream << habit.name; }
+
+void dragWithAlt(RecordedDesk& on, int button, int x, int y)
+{
+    on.desk.keyboard.press(keycode::alt);
+    on.desk.keyboard.settle();
+    on.drag(button, x, y);
+    on.note("dragged");
+    on.desk.keyboard.release(keycode::alt);
+    on.note("let go");
+}
+
+/// Types small letters into the terminal.
+void type(RecordedDesk& on, const std::string& letters)
+{
+    on.desk.windows.activate(on.terminal.window());
+    for (const auto letter : letters)
+        on.stroke(keyOf(letter));
+    on.waitForTyped(letters);
+    on.note("typed");
+}
+
+/// Moves into the first line of the terminal, this far from its left edge.
+void movePointerIntoTerminal(RecordedDesk& on, int x)
+{
+    const auto area = on.desk.windows.areaOf(on.terminal.window());
+    on.movePointer(area.x + x, area.y + 8);
+}
+
+void noteSelection(RecordedDesk& on, const std::string& text)
+{
+    on.waitForLine("selected: " + text);
+    on.note("selected");
+}
 
 const std::vector<Habit> habits{
     {"clickToFocus",
@@ -46,51 +70,41 @@ const std::vector<Habit> habits{
     {"dragWithAlt",
         [](RecordedDesk& on) {
             on.movePointer(200, 150);
-            on.desk.keyboard.press(altKey);
-            on.desk.keyboard.settle();
-            on.drag(leftButton, 60, 40);
-            on.note("dragged");
-            on.desk.keyboard.release(altKey);
-            on.note("let go");
+            dragWithAlt(on, leftButton, 60, 40);
         },
         "One: 161,160 300x200"},
     {"resizeWithAlt",
         [](RecordedDesk& on) {
             on.movePointer(280, 250);
-            on.desk.keyboard.press(altKey);
-            on.desk.keyboard.settle();
-            on.drag(rightButton, 40, 30);
-            on.note("dragged");
-            on.desk.keyboard.release(altKey);
-            on.note("let go");
+            dragWithAlt(on, rightButton, 40, 30);
         },
         "One: 101,120 340x230"},
     {"shortcutsOfTheWindowManager",
         [](RecordedDesk& on) {
-            on.desk.keyboard.press(altKey);
-            on.stroke(tabKey);
+            on.desk.keyboard.press(keycode::alt);
+            on.stroke(keycode::tab);
             on.waitForLine("on screen: 352,317 320x134");
             on.note("next window");
-            on.desk.keyboard.release(altKey);
+            on.desk.keyboard.release(keycode::alt);
             on.waitForLine("front: Two");
             on.note("chosen");
-            on.desk.keyboard.press(controlKey);
-            on.desk.keyboard.press(altKey);
-            on.stroke(rightKey);
+            on.desk.keyboard.press(keycode::control);
+            on.desk.keyboard.press(keycode::alt);
+            on.stroke(keycode::right);
             on.waitForLine("desktop: 1");
             on.note("next desktop, the keys still held");
-            on.desk.keyboard.release(altKey);
-            on.desk.keyboard.release(controlKey);
+            on.desk.keyboard.release(keycode::alt);
+            on.desk.keyboard.release(keycode::control);
             on.note("all let go");
         },
         "desktop: 1"},
     {"showDesktop",
         [](RecordedDesk& on) {
             for (const auto* heading : {"shown", "hidden"}) {
-                on.desk.keyboard.press(superKey);
-                on.stroke(keyD);
+                on.desk.keyboard.press(keycode::super);
+                on.stroke(keycode::d);
                 on.note(heading);
-                on.desk.keyboard.release(superKey);
+                on.desk.keyboard.release(keycode::super);
                 on.note("let go");
             }
         },
@@ -115,44 +129,26 @@ const std::vector<Habit> habits{
         "One: 0,21"},
     {"dragSelection",
         [](RecordedDesk& on) {
-            on.desk.windows.activate(on.terminal.window());
-            for (int letter = 0; letter < 8; ++letter)
-                on.stroke(keyA);
-            on.waitForTyped("aaaaaaaa");
-            on.note("typed");
-            const auto area = on.desk.windows.areaOf(on.terminal.window());
-            on.movePointer(area.x + 4, area.y + 8);
+            type(on, "aaaaaaaa");
+            movePointerIntoTerminal(on, 4);
             on.drag(leftButton, 150, 0);
-            on.waitForLine("selected: aaaaaaaa");
-            on.note("selected");
+            noteSelection(on, "aaaaaaaa");
         },
         "selected: aaaaaaaa"},
     {"selectionOfAWordByADoubleClick",
         [](RecordedDesk& on) {
-            on.desk.windows.activate(on.terminal.window());
-            for (int letter = 0; letter < 8; ++letter)
-                on.stroke(keyA);
-            on.waitForTyped("aaaaaaaa");
-            on.note("typed");
-            const auto area = on.desk.windows.areaOf(on.terminal.window());
-            on.movePointer(area.x + 14, area.y + 8);
+            type(on, "aaaaaaaa");
+            movePointerIntoTerminal(on, 14);
             on.click(leftButton, 2);
-            on.waitForLine("selected: aaaaaaaa");
-            on.note("selected");
+            noteSelection(on, "aaaaaaaa");
         },
         "selected: aaaaaaaa"},
     {"pasteWithTheMiddleButton",
         [](RecordedDesk& on) {
-            on.desk.windows.activate(on.terminal.window());
-            for (int letter = 0; letter < 3; ++letter)
-                on.stroke(keyA);
-            on.waitForTyped("aaa");
-            on.note("typed");
-            const auto area = on.desk.windows.areaOf(on.terminal.window());
-            on.movePointer(area.x + 10, area.y + 8);
+            type(on, "aaa");
+            movePointerIntoTerminal(on, 10);
             on.click(leftButton, 2);
-            on.waitForLine("selected: aaa");
-            on.note("selected");
+            noteSelection(on, "aaa");
             on.click(middleButton);
             on.waitForTyped("aaaaaa");
             on.note("pasted");
@@ -172,11 +168,11 @@ const std::vector<Habit> habits{
             run({.command = {"setxkbmap", "-layout", "us,de", "-option", "grp:alt_shift_toggle"}},
                 usualDeadline);
             on.desk.windows.activate(on.terminal.window());
-            on.stroke(keyY);
-            on.desk.keyboard.press(altKey);
-            on.stroke(shiftKey);
-            on.desk.keyboard.release(altKey);
-            on.stroke(keyY);
+            on.stroke(keycode::y);
+            on.desk.keyboard.press(keycode::alt);
+            on.stroke(keycode::shift);
+            on.desk.keyboard.release(keycode::alt);
+            on.stroke(keycode::y);
             on.waitForTyped("yz");
             on.note("typed");
         },
@@ -225,10 +221,10 @@ TEST(UnchangedKeyboard, repeatsAKeyThatIsHeldAsLongAsItIsHeld)
         ASSERT_TRUE(on.desk.windows.activate(on.one.id()));
         on.one.forget();
 
-        on.desk.keyboard.press(keyA);
+        on.desk.keyboard.press(keycode::a);
         constexpr std::size_t several = 12;
         EXPECT_TRUE(eventually([&] { return on.one.lines().size() >= several; }));
-        on.desk.keyboard.release(keyA);
+        on.desk.keyboard.release(keycode::a);
         on.desk.keyboard.settle();
         EXPECT_TRUE(eventually([&] { return on.one.held().empty(); }));
 

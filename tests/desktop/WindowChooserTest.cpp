@@ -1,4 +1,5 @@
 #include "desktop/MouseDesk.h"
+#include "support/Keycodes.h"
 #include "support/PlainWindow.h"
 #include "support/Screenshot.h"
 
@@ -9,14 +10,6 @@
 
 namespace brindlex {
 namespace {
-
-// Keys as X counts them.
-constexpr std::uint8_t escapeKey = 9;
-constexpr std::uint8_t tabKey = 23;
-constexpr std::uint8_t returnKey = 36;
-constexpr std::uint8_t keyA = 38;
-constexpr std::uint8_t upKey = 111;
-constexpr std::uint8_t downKey = 116;
 
 /// The rows of the list, as a user sees them.
 constexpr int rowHeight = 44;
@@ -106,7 +99,7 @@ TEST_F(WindowChooser, beginsWithTheWindowBefore)
     open("Second");
     ASSERT_TRUE(opens());
 
-    stroke(returnKey);
+    stroke(keycode::enter);
 
     EXPECT_TRUE(isGone());
     EXPECT_TRUE(isActive(first));
@@ -120,21 +113,21 @@ TEST_F(WindowChooser, followsTheKeysThroughTheWindowsInTheOrderOfTheirUse)
     ASSERT_TRUE(desk.windows.activate(first.window()));
     // first, third, second: it begins with the third.
     ASSERT_TRUE(opens());
-    stroke(downKey);
-    stroke(returnKey);
+    stroke(keycode::down);
+    stroke(keycode::enter);
     EXPECT_TRUE(isActive(second));
 
     // second, first, third
     ASSERT_TRUE(opens());
-    stroke(tabKey);
-    stroke(returnKey);
+    stroke(keycode::tab);
+    stroke(keycode::enter);
     EXPECT_TRUE(isActive(third));
 
     // third, second, first
     ASSERT_TRUE(opens());
-    stroke(upKey);
-    stroke(upKey);
-    stroke(returnKey);
+    stroke(keycode::up);
+    stroke(keycode::up);
+    stroke(keycode::enter);
     EXPECT_TRUE(isActive(first));
 }
 
@@ -146,7 +139,7 @@ TEST_F(WindowChooser, changesToTheDesktopOfTheWindow)
     open("There");
     ASSERT_TRUE(opens());
 
-    stroke(returnKey);
+    stroke(keycode::enter);
 
     EXPECT_TRUE(desk.showsDesktop(0));
     EXPECT_TRUE(isActive(here));
@@ -161,7 +154,7 @@ TEST_F(WindowChooser, bringsBackAMinimisedWindow)
     ASSERT_TRUE(eventually([&] { return !desk.windows.isOnScreen(hidden.window()); }));
     ASSERT_TRUE(opens());
 
-    stroke(returnKey);
+    stroke(keycode::enter);
 
     EXPECT_TRUE(isActive(hidden));
     EXPECT_TRUE(eventually([&] { return desk.windows.isOnScreen(hidden.window()); }));
@@ -188,7 +181,7 @@ TEST_F(WindowChooser, closesByEscapeByAClickElsewhereAndByTheNextTime)
     const auto& second = open("Second");
 
     ASSERT_TRUE(opens());
-    stroke(escapeKey);
+    stroke(keycode::escape);
     EXPECT_TRUE(isGone());
 
     ASSERT_TRUE(opens());
@@ -207,14 +200,14 @@ TEST_F(WindowChooser, keepsToItselfWhatIsTypedAndClickedIntoIt)
     EventLogWindow window("Log", {100, 100, 300, 200});
     ASSERT_TRUE(opens());
     window.forget();
-    stroke(keyA);
-    stroke(escapeKey);
+    stroke(keycode::a);
+    stroke(keycode::escape);
     ASSERT_TRUE(isGone());
     ASSERT_TRUE(opens());
     movePointer(110, 130);
     desk.mouse.click(leftButton);
     ASSERT_TRUE(isGone());
-    stroke(keyA);
+    stroke(keycode::a);
 
     const auto input = [&] {
         MouseDesk::Lines lines;
@@ -249,11 +242,10 @@ TEST_F(WindowChooser, scrollsThroughManyWindows)
     ASSERT_TRUE(opens());
     EXPECT_LT(desk.windows.areaOf(*list()).height, desk.server.screen().height_in_pixels);
 
-    constexpr std::uint8_t endKey = 115;
-    stroke(endKey);
-    stroke(downKey);
-    stroke(downKey);
-    stroke(returnKey);
+    stroke(keycode::end);
+    stroke(keycode::down);
+    stroke(keycode::down);
+    stroke(keycode::enter);
 
     EXPECT_TRUE(isActive(first));
 }

@@ -3,6 +3,7 @@
 #include "platform/DockSwipe.h"
 #include "platform/linux/VirtualKeyCodes.h"
 #include "support/DesktopWindows.h"
+#include "support/Keycodes.h"
 #include "support/TappedDesktop.h"
 
 #include <gtest/gtest.h>
@@ -14,8 +15,6 @@ using Lines = std::vector<std::string>;
 
 constexpr std::int64_t tag = 0x4D4F534547535452;
 constexpr std::int64_t keyA = 0;
-constexpr std::uint8_t controlKey = 37;
-constexpr std::uint8_t shiftKey = 50;
 
 SyntheticEvent button(EventType type, std::int64_t number, std::optional<Point> location = {})
 {
@@ -103,7 +102,7 @@ TEST_F(X11EventPostingPromise, waitsForTheEventInWhoseHandlerItIsCalled)
 
 TEST_F(X11EventPostingPromise, sendsAKeyWithExactlyItsModifiers)
 {
-    desktop_.keyboard.press(controlKey);
+    desktop_.keyboard.press(keycode::control);
     desktop_.settle();
 
     stroke(keyA, eventFlag::shift);
@@ -112,7 +111,7 @@ TEST_F(X11EventPostingPromise, sendsAKeyWithExactlyItsModifiers)
         "key 38 down (shift)", "key 38 up (shift)", "key 50 up (shift)", "key 37 down"}));
     desktop_.window.forget();
     desktop_.keyboard.stroke(39);
-    desktop_.keyboard.release(controlKey);
+    desktop_.keyboard.release(keycode::control);
     desktop_.settle();
     EXPECT_TRUE(
         desktop_.receives({"key 39 down (control)", "key 39 up (control)", "key 37 up (control)"}));
@@ -121,11 +120,11 @@ TEST_F(X11EventPostingPromise, sendsAKeyWithExactlyItsModifiers)
 
 TEST_F(X11EventPostingPromise, holdsNoModifierThatTheHandHasLetGo)
 {
-    desktop_.keyboard.press(controlKey);
+    desktop_.keyboard.press(keycode::control);
     desktop_.settle();
     desktop_.posting.post(key(EventType::keyDown, keyA, 0));
 
-    desktop_.keyboard.release(controlKey);
+    desktop_.keyboard.release(keycode::control);
     desktop_.keyboard.settle();
     desktop_.posting.post(key(EventType::keyUp, keyA, 0));
     desktop_.settle();
@@ -137,11 +136,11 @@ TEST_F(X11EventPostingPromise, holdsNoModifierThatTheHandHasLetGo)
 
 TEST_F(X11EventPostingPromise, canHoldTheSameModifierAgainAfterTheHandHasLetItGo)
 {
-    desktop_.keyboard.press(shiftKey);
+    desktop_.keyboard.press(keycode::shift);
     desktop_.settle();
     stroke(keyA, 0);
     desktop_.settle();
-    desktop_.keyboard.release(shiftKey);
+    desktop_.keyboard.release(keycode::shift);
     desktop_.settle();
     desktop_.window.forget();
 

@@ -1,10 +1,12 @@
 #include "support/AccessibleProgram.h"
 
 #include <fstream>
+#include <string_view>
 
 namespace brindlex {
 namespace {
 
+constexpr std::string_view objects = "/org/a11y/atspi/accessible/";
 constexpr auto root = "/org/a11y/atspi/accessible/root";
 
 /// The accessibility bus, as its launcher on the session bus names it.
@@ -25,6 +27,16 @@ sd_bus* accessibilityBus()
     return bus;
 }
 
+int take(sd_bus_message* message, void* answering, sd_bus_error*)
+{
+    const auto* path = sd_bus_message_get_path(message);
+    if (!sd_bus_message_is_method_call(message, nullptr, nullptr) || !path
+        || !std::string_view(path).starts_with(objects))
+        return 0;
+    const auto& answer = *static_cast<AccessibleProgram::Answering*>(answering);
+    return answer(message, std::string(path).substr(objects.size()));
+}
+
 } // namespace
 
 AccessibleProgram::AccessibleProgram() : bus_(accessibilityBus())
@@ -36,8 +48,19 @@ AccessibleProgram::AccessibleProgram() : bus_(accessibilityBus())
 
 AccessibleProgram::~AccessibleProgram() { sd_bus_unref(bus_); }
 
-int AccessibleProgram::run(const std::string& folder) const
+void AccessibleProgram::append(sd_bus_message* reply, const std::string& object) const
 {
+    sd_bus_message_append(reply, "(so)", service_.c_str(), (std::string(objects) + object).c_str());
+}
+
+void AccessibleProgram::appendNone(sd_bus_message* reply)
+{
+    sd_bus_message_append(reply, "(so)", "", "/org/a11y/atspi/null");
+}
+
+int AccessibleProgram::run(const std::string& folder, Answering answer) const
+{
+    sd_bus_add_filter(bus_, nullptr, take, &answer);
     if (sd_bus_call_method(bus_, "org.a11y.atspi.Registry", root, "org.a11y.atspi.Socket", "Embed",
             nullptr, nullptr, "(so)", service_.c_str(), root)
         < 0)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <string>
 #include <systemd/sd-bus.h>
 
@@ -14,13 +15,18 @@ public:
     AccessibleProgram& operator=(const AccessibleProgram&) = delete;
 
     bool isConnected() const { return !service_.empty(); }
-    sd_bus* get() const { return bus_; }
-    /// The program's name on the bus.
-    const std::string& service() const { return service_; }
 
-    /// Says that the program is there, to the bus and by a file `ready` in the folder, and answers
-    /// questions as long as the bus lasts; the code for `exit`.
-    int run(const std::string& folder) const;
+    /// Adds a reference to an object of the program, such as "root", or one to none at all.
+    void append(sd_bus_message* reply, const std::string& object) const;
+    static void appendNone(sd_bus_message* reply);
+
+    /// What answers a question about an object of the program: sends what it wants to and returns
+    /// what the functions of the bus do, positive for a question that needs no other answer.
+    using Answering = std::function<int(sd_bus_message* question, const std::string& object)>;
+
+    /// Says that the program is there, to the bus and by a file `ready` in the folder, and has
+    /// questions answered as long as the bus lasts; the code for `exit`.
+    int run(const std::string& folder, Answering answer) const;
 
 private:
     sd_bus* bus_ = nullptr;

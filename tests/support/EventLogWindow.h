@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/DesktopWindows.h"
+#include "support/EventLog.h"
 #include "support/XConnection.h"
 
 #include <string>
@@ -9,17 +10,13 @@
 namespace brindlex {
 
 /// A window that writes down the input that it gets, as an application would get it.
-///
-/// Each line is one event: `press 1`, `release 1`, `key 38 down`, `key 38 up`, `focus out`,
-/// `leave`, with the modifiers that were held behind it in brackets, as `key 38 down
-/// (control)`. What the pointer does is kept apart. Covers the whole screen with no frame around
-/// it.
 class EventLogWindow {
 public:
     /// Which protocol the application listens with.
     enum class Protocol { core, input2 };
 
-    /// Shows the window, with the pointer in the middle of it and the keys going to it.
+    /// Covers the whole screen, with no frame around it, the pointer in the middle of it and the
+    /// keys going to it.
     explicit EventLogWindow(Protocol protocol = Protocol::core);
     /// An ordinary window with a title here, and whatever the window manager draws around it; waits
     /// until it stands there.
@@ -54,15 +51,10 @@ public:
 private:
     void listen(Protocol protocol);
     void drain();
-    void note(const xcb_generic_event_t& event);
-    void noteInput2(const xcb_generic_event_t& event);
 
     XConnection server_;
     xcb_window_t window_;
-    std::vector<std::string> lines_;
-    int keymaps_ = 0;
-    int motions_ = 0;
-    int drags_ = 0;
+    EventLog log_;
 };
 
 } // namespace brindlex

@@ -14,12 +14,10 @@ namespace {
 using Behaviour = FakeBrowser::Behaviour;
 using namespace std::chrono_literals;
 
-constexpr auto objects = "/org/a11y/atspi/accessible/";
-
 /// The program behind `FakeBrowser`: reads its offer anew at each question.
 struct Program {
+    const AccessibleProgram& bus;
     std::string folder;
-    std::string service;
     std::vector<FakeBrowser::Window> windows;
     Behaviour behaviour = Behaviour::answers;
 
@@ -43,22 +41,17 @@ struct Program {
         return number < windows.size() ? &windows[number] : nullptr;
     }
 
-    void append(sd_bus_message* reply, const std::string& object) const
-    {
-        sd_bus_message_append(reply, "(so)", service.c_str(), (objects + object).c_str());
-    }
-
     void appendChildren(sd_bus_message* reply, const std::string& object) const
     {
         sd_bus_message_open_container(reply, 'a', "(so)");
         if (behaviour == Behaviour::huge)
             for (int index = 0; index < 100'000; ++index)
-                append(reply, "x" + std::to_string(index));
+                bus.append(reply, "x" + std::to_string(index));
         else if (behaviour == Behaviour::circular && object != "root")
-            append(reply, object);
+            bus.append(reply, object);
         else if (object == "root")
             for (std::size_t index = 0; index < windows.size(); ++index)
-                append(reply, "w" + std::to_string(index));
+                bus.append(reply, "w" + std::to_string(index));
         sd_bus_message_close_container(reply);
     }
 
@@ -70,7 +63,7 @@ struct Program {
         if (behaviour == Behaviour::dangling)
             sd_bus_message_append(reply, "(so)", ":1.987654", "/nowhere");
         else
-            append(reply, target);
+            bus.append(reply, target);
         sd_bus_message_close_container(reply);
         sd_bus_message_close_container(reply);
     }
@@ -89,11 +82,11 @@ struct Program {
         sd_bus_message_close_container(reply);
     }
 
-    int answer(sd_bus_message* question) const
+    int answer(sd_bus_message* question, const std::string& object)
     {
         const std::string member = sd_bus_message_get_member(question);
-        const auto object
-            = std::string(sd_bus_message_get_path(question)).substr(std::string(objects).size());
+        std::ofstream(folder + "/questions", std::ios::app) << member << '\n';
+        readOffer();
         if (behaviour == Behaviour::busy)
             std::this_thread::sleep_for(800ms);
         if (behaviour == Behaviour::silent)
@@ -129,19 +122,6 @@ struct Program {
         sd_bus_message_unref(reply);
         return 1;
     }
-
-    static int take(sd_bus_message* message, void* program, sd_bus_error*)
-    {
-        const auto* path = sd_bus_message_get_path(message);
-        if (!sd_bus_message_is_method_call(message, nullptr, nullptr) || !path
-            || !std::string(path).starts_with(objects))
-            return 0;
-        auto& self = *static_cast<Program*>(program);
-        std::ofstream(self.folder + "/questions", std::ios::app)
-            << sd_bus_message_get_member(message) << '\n';
-        self.readOffer();
-        return self.answer(message);
-    }
 };
 
 int runProgram(const std::string& folder)
@@ -149,9 +129,10 @@ int runProgram(const std::string& folder)
     AccessibleProgram bus;
     if (!bus.isConnected())
         return 1;
-    Program program{.folder = folder, .service = bus.service(), .windows = {}};
-    sd_bus_add_filter(bus.get(), nullptr, Program::take, &program);
-    return bus.run(folder);
+    Program program{.bus = bus, .folder = folder, .windows = {}};
+    return bus.run(folder, [&](sd_bus_message* question, const std::string& object) {
+        return program.answer(question, object);
+    });
 }
 
 } // namespace

@@ -10,15 +10,14 @@ namespace {
 using Behaviour = FakeElements::Behaviour;
 using Element = FakeElements::Element;
 
-constexpr auto objects = "/org/a11y/atspi/accessible/";
 constexpr unsigned ofWindow = 1;
 constexpr int program = -1;
 constexpr int nobody = -2;
 
 /// The program behind `FakeElements`: reads its offer anew at each question.
 struct Program {
+    const AccessibleProgram& bus;
     std::string folder;
-    std::string service;
     std::vector<Element> elements;
     Behaviour behaviour = Behaviour::answers;
 
@@ -48,10 +47,9 @@ struct Program {
     void append(sd_bus_message* reply, int element) const
     {
         if (element == nobody)
-            sd_bus_message_append(reply, "(so)", "", "/org/a11y/atspi/null");
+            AccessibleProgram::appendNone(reply);
         else
-            sd_bus_message_append(reply, "(so)", service.c_str(),
-                (objects + (element == program ? "root" : "e" + std::to_string(element))).c_str());
+            bus.append(reply, element == program ? "root" : "e" + std::to_string(element));
     }
 
     /// Where the window begins in which the element lies.
@@ -115,11 +113,10 @@ struct Program {
         }
     }
 
-    int answer(sd_bus_message* question) const
+    int answer(sd_bus_message* question, const std::string& object)
     {
         const std::string member = sd_bus_message_get_member(question);
-        const auto object
-            = std::string(sd_bus_message_get_path(question)).substr(std::string(objects).size());
+        readOffer();
         const int number = numberOf(object);
         if (behaviour == Behaviour::silent)
             return 1;
@@ -164,17 +161,6 @@ struct Program {
         sd_bus_message_unref(reply);
         return 1;
     }
-
-    static int take(sd_bus_message* message, void* data, sd_bus_error*)
-    {
-        const auto* path = sd_bus_message_get_path(message);
-        if (!sd_bus_message_is_method_call(message, nullptr, nullptr) || !path
-            || !std::string(path).starts_with(objects))
-            return 0;
-        auto& self = *static_cast<Program*>(data);
-        self.readOffer();
-        return self.answer(message);
-    }
 };
 
 int runProgram(const std::string& folder)
@@ -182,9 +168,10 @@ int runProgram(const std::string& folder)
     AccessibleProgram bus;
     if (!bus.isConnected())
         return 1;
-    Program self{.folder = folder, .service = bus.service(), .elements = {}};
-    sd_bus_add_filter(bus.get(), nullptr, Program::take, &self);
-    return bus.run(folder);
+    Program self{.bus = bus, .folder = folder, .elements = {}};
+    return bus.run(folder, [&](sd_bus_message* question, const std::string& object) {
+        return self.answer(question, object);
+    });
 }
 
 } // namespace

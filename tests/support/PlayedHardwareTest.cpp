@@ -2,6 +2,7 @@
 
 #include "support/EventLogWindow.h"
 #include "support/Eventually.h"
+#include "support/Keycodes.h"
 
 #include <gtest/gtest.h>
 
@@ -25,9 +26,9 @@ TEST_P(PlayedHardware, reachesAWindowLikeThatOfAUser)
 {
     mouse_.click(9);
     mouse_.settle();
-    keyboard_.press(37);
-    keyboard_.stroke(38);
-    keyboard_.release(37);
+    keyboard_.press(keycode::control);
+    keyboard_.stroke(keycode::a);
+    keyboard_.release(keycode::control);
     keyboard_.settle();
     mouse_.turnWheel(2);
     mouse_.turnWheel(0, -1);

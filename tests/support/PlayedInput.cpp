@@ -1,6 +1,7 @@
 #include "support/PlayedInput.h"
 
 #include "foundation/FatalError.h"
+#include "support/Keycodes.h"
 
 #include <array>
 #include <cctype>
@@ -43,11 +44,11 @@ void PlayedInput::type(std::string_view text) const
         if (key == 0)
             fatalError("No key types '" + std::string(1, character) + "'.");
         if (isUpper)
-            pressKey(shiftKey);
+            pressKey(keycode::shift);
         pressKey(key);
         releaseKey(key);
         if (isUpper)
-            releaseKey(shiftKey);
+            releaseKey(keycode::shift);
     }
     server_.sync();
 }

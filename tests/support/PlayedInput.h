@@ -35,7 +35,4 @@ private:
 /// The key that types the character on a US keyboard, as X counts keys; 0 when none does.
 std::uint8_t keyOf(char character);
 
-inline constexpr std::uint8_t shiftKey = 50;
-inline constexpr std::uint8_t controlKey = 37;
-
 } // namespace brindlex

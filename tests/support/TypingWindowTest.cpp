@@ -11,6 +11,28 @@
 namespace brindlex {
 namespace {
 
+/// Expects a window to get Chinese by one engine of the daemon and Latin letters by another.
+template <typename Daemon>
+void expectChinese(const VirtualDesktop& desktop, Daemon& daemon, const std::string& pinyin,
+    const std::string& keyboard)
+{
+    const XConnection server;
+    const DesktopWindows windows(server);
+    const PlayedInput input(server);
+    TypingWindow window(windows, "Alpha");
+    ASSERT_TRUE(windows.activate(window.window()));
+
+    ASSERT_TRUE(daemon.select(pinyin));
+    EXPECT_EQ(daemon.current(), pinyin);
+    input.type("nihao ");
+    EXPECT_TRUE(window.receives("你好")) << window.text() << desktop.output();
+
+    window.forget();
+    ASSERT_TRUE(daemon.select(keyboard));
+    input.type("nihao");
+    EXPECT_TRUE(window.receives("nihao")) << window.text();
+}
+
 TEST(TypingWindow, receivesWhatTheKeysTypeInTheLayoutInForce)
 {
     const VirtualDesktop desktop({.keyboardLayouts = "us,de"});
@@ -55,41 +77,16 @@ TEST(TypingWindow, receivesChineseThroughIBus)
 {
     VirtualDesktop desktop({.keyboardLayouts = "us"});
     IBusDaemon daemon(desktop, {"xkb:us::eng", "libpinyin"});
-    const XConnection server;
-    const DesktopWindows windows(server);
-    const PlayedInput input(server);
-    TypingWindow window(windows, "Alpha");
-    ASSERT_TRUE(windows.activate(window.window()));
 
-    ASSERT_TRUE(daemon.select("libpinyin"));
-    EXPECT_EQ(daemon.current(), "libpinyin");
-    input.type("nihao ");
-    EXPECT_TRUE(window.receives("你好")) << window.text() << desktop.output();
-
-    window.forget();
-    ASSERT_TRUE(daemon.select("xkb:us::eng"));
-    input.type("nihao");
-    EXPECT_TRUE(window.receives("nihao")) << window.text();
+    expectChinese(desktop, daemon, "libpinyin", "xkb:us::eng");
 }
 
 TEST(TypingWindow, receivesChineseThroughFcitx)
 {
     VirtualDesktop desktop({.keyboardLayouts = "us"});
     FcitxDaemon daemon(desktop, {"keyboard-us", "pinyin"});
-    const XConnection server;
-    const DesktopWindows windows(server);
-    const PlayedInput input(server);
-    TypingWindow window(windows, "Alpha");
-    ASSERT_TRUE(windows.activate(window.window()));
 
-    ASSERT_TRUE(daemon.select("pinyin"));
-    input.type("nihao ");
-    EXPECT_TRUE(window.receives("你好")) << window.text() << desktop.output();
-
-    window.forget();
-    ASSERT_TRUE(daemon.select("keyboard-us"));
-    input.type("nihao");
-    EXPECT_TRUE(window.receives("nihao")) << window.text();
+    expectChinese(desktop, daemon, "pinyin", "keyboard-us");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "foundation/FatalError.h"
 #include "support/DescriptorLine.h"
+#include "support/DisplayServerCommand.h"
 #include "support/Eventually.h"
 #include "support/ProcessTable.h"
 #include "support/XConnection.h"
@@ -118,7 +119,7 @@ void VirtualDesktop::startDisplayServer(const Options& options)
     for (int attempt = 0; attempt < 3 && !isReady; ++attempt) {
         display_ = nextDisplay();
         DescriptorLine number;
-        auto command = displayServerCommand(options);
+        auto command = displayServerCommand(*this, options);
         command.insert(command.end(),
             {display_, "-displayfd", std::to_string(number.writingEnd()), "-nolisten", "tcp",
                 "-noreset"});
@@ -133,72 +134,6 @@ void VirtualDesktop::startDisplayServer(const Options& options)
         fatalError("The X server did not start.\n" + displayServer_->output());
     setVariable("DISPLAY", display_);
     setKeyboardLayouts(options.keyboardLayouts);
-}
-
-std::vector<std::string> VirtualDesktop::displayServerCommand(const Options& options) const
-{
-    if (options.server == Server::withoutHardware) {
-        const auto screen
-            = std::to_string(options.width) + "x" + std::to_string(options.height) + "x24";
-        std::vector<std::string> command{"Xvfb", "-screen", "0", screen, "-dpi", "96"};
-        if (!options.disabledExtension.empty())
-            command.insert(command.end(), {"-extension", options.disabledExtension});
-        return command;
-    }
-    const auto configuration = runtimeFolder() / "xorg.conf";
-    write(configuration, displayServerConfiguration(options));
-    return {"Xorg", "-config", configuration, "-logfile", outputFolder() / "xorg-log",
-        "-novtswitch", "-sharevts"};
-}
-
-std::string VirtualDesktop::displayServerConfiguration(const Options& options) const
-{
-    const auto width = std::to_string(options.width);
-    const auto height = std::to_string(options.height);
-    const auto device = [this](const std::string& name, const std::string& type) {
-        return "Section \"InputDevice\"\n  Identifier \"" + name
-            + "\"\n  Driver \"inputtest\"\n  Option \"SocketPath\" \""
-            + hardwareSocket(name).string() + "\"\n  Option \"DeviceType\" \"" + type
-            + "\"\n  Option \"PointerButtonCount\" \"12\"\nEndSection\n";
-    };
-    return R"(Section "ServerFlags"
-  Option "AutoAddDevices" "false"
-  Option "AutoEnableDevices" "false"
-  Option "DontVTSwitch" "true"
-  Option "AllowMouseOpenFail" "true"
-  Option "PciForceNone" "true"
-EndSection
-Section "Device"
-  Identifier "card"
-  Driver "dummy"
-  VideoRam 65536
-EndSection
-Section "Monitor"
-  Identifier "monitor"
-  HorizSync 5.0-1000.0
-  VertRefresh 5.0-200.0
-EndSection
-Section "Screen"
-  Identifier "screen"
-  Device "card"
-  Monitor "monitor"
-  DefaultDepth 24
-  SubSection "Display"
-    Depth 24
-    Virtual )"
-        + width + " " + height + R"(
-  EndSubSection
-EndSection
-)" + device("mouse", "Pointer")
-        + device("second-mouse", "Pointer") + device("keyboard", "Keyboard")
-        + R"(Section "ServerLayout"
-  Identifier "layout"
-  Screen "screen"
-  InputDevice "mouse" "CorePointer"
-  InputDevice "second-mouse" "SendCoreEvents"
-  InputDevice "keyboard" "CoreKeyboard"
-EndSection
-)";
 }
 
 void VirtualDesktop::startSessionBus()

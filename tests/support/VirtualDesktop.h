@@ -76,8 +76,6 @@ public:
 private:
     void makeFolders();
     void startDisplayServer(const Options& options);
-    std::vector<std::string> displayServerCommand(const Options& options) const;
-    std::string displayServerConfiguration(const Options& options) const;
     void startSessionBus();
     void startWindowManager();
     void allowAccessibility();

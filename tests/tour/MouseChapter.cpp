@@ -36,9 +36,7 @@ public:
         EventLogWindow window;
         drag(60, 0);
         desk_.mouse.release(backButton);
-        const Lines forward{
-            "key 64 down", "key 114 down (alt)", "key 114 up (alt)", "key 64 up (alt)"};
-        report_.check(desk_.receives(window, forward),
+        report_.check(desk_.receives(window, forwardStroke),
             "The window in front gets the keys for forward, Alt and the right arrow, and nothing "
             "of the drag.");
 

@@ -3,8 +3,7 @@
 #include "app/Log.h"
 #include "foundation/Text.h"
 #include "platform/InputSourceIdentifiers.h"
-
-#include <QDBusArgument>
+#include "platform/linux/Fcitx5Method.h"
 
 #include <algorithm>
 #include <map>
@@ -26,34 +25,6 @@ constexpr auto recheckDelay = 100ms;
 constexpr auto answerWait = 20ms;
 constexpr auto selectionWait = 30ms;
 constexpr auto freshFor = 50ms;
-
-/// The parts of (ssssssb), an input method, and of (ss), a member of a group, that are of use here.
-struct NamedMethod {
-    QString method;
-    QString name;
-};
-
-std::vector<NamedMethod> methodsOf(const QVariant& value, const char* signature)
-{
-    std::vector<NamedMethod> methods;
-    if (value.metaType() != QMetaType::fromType<QDBusArgument>())
-        return methods;
-    const auto argument = value.value<QDBusArgument>();
-    if (argument.currentSignature() != QLatin1String(signature))
-        return methods;
-    argument.beginArray();
-    while (!argument.atEnd()) {
-        NamedMethod method;
-        argument.beginStructure();
-        argument >> method.method >> method.name;
-        while (!argument.atEnd())
-            argument.asVariant();
-        argument.endStructure();
-        methods.push_back(std::move(method));
-    }
-    argument.endArray();
-    return methods;
-}
 
 bool isError(const QDBusMessage& reply) { return reply.type() == QDBusMessage::ErrorMessage; }
 
@@ -154,7 +125,7 @@ void Fcitx5InputSources::readMethods(const QString& group, DBusDeadline deadline
                 return;
             }
             QStringList enabled;
-            for (const auto& member : methodsOf(reply.arguments()[1], "a(ss)"))
+            for (const auto& member : fcitx5GroupMembers(reply.arguments()[1]))
                 enabled.append(member.method);
             whenAnswered(available, deadline, &context_,
                 [this, enabled](const QDBusMessage& answer) { setMethods(enabled, answer); });
@@ -165,7 +136,7 @@ void Fcitx5InputSources::setMethods(const QStringList& enabled, const QDBusMessa
 {
     std::map<QString, QString> names;
     if (!isError(available) && !available.arguments().isEmpty())
-        for (const auto& method : methodsOf(available.arguments().first(), "a(ssssssb)"))
+        for (const auto& method : fcitx5Methods(available.arguments().first()))
             names.emplace(method.method, method.name);
 
     methods_.clear();

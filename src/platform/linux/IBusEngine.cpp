@@ -3,7 +3,30 @@
 #include <QDBusArgument>
 #include <QDBusVariant>
 
+#include <utility>
+
 namespace brindlex {
+namespace {
+
+QVariantList variantsOf(const QVariant& array)
+{
+    if (array.metaType() != QMetaType::fromType<QDBusArgument>())
+        return array.toList();
+    const auto argument = array.value<QDBusArgument>();
+    QVariantList variants;
+    if (argument.currentSignature() != QLatin1String("av"))
+        return variants;
+    argument.beginArray();
+    while (!argument.atEnd()) {
+        QDBusVariant variant;
+        argument >> variant;
+        variants.append(QVariant::fromValue(variant));
+    }
+    argument.endArray();
+    return variants;
+}
+
+} // namespace
 
 std::optional<IBusEngine> ibusEngine(const QVariant& value)
 {
@@ -43,6 +66,15 @@ std::optional<IBusEngine> ibusEngine(const QVariant& value)
         .variant = after[3].toStdString(),
         .catalogue = after[6].toStdString(),
     };
+}
+
+std::vector<IBusEngine> ibusEngines(const QVariant& array)
+{
+    std::vector<IBusEngine> engines;
+    for (const auto& description : variantsOf(array))
+        if (auto engine = ibusEngine(description))
+            engines.push_back(std::move(*engine));
+    return engines;
 }
 
 } // namespace brindlex

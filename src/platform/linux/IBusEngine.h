@@ -4,6 +4,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace brindlex {
 
@@ -22,5 +23,8 @@ struct IBusEngine {
 
 /// Reads a serialized description of an engine; nothing when the value is not one.
 std::optional<IBusEngine> ibusEngine(const QVariant& value);
+
+/// Reads an array of descriptions, without what in it is not one.
+std::vector<IBusEngine> ibusEngines(const QVariant& array);
 
 } // namespace brindlex

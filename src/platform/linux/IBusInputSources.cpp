@@ -5,7 +5,6 @@
 #include "platform/InputSourceIdentifiers.h"
 #include "platform/linux/XkbRegistry.h"
 
-#include <QDBusArgument>
 #include <QDBusVariant>
 
 #include <algorithm>
@@ -37,24 +36,6 @@ QStringList textsOf(const QVariant& value)
 QVariant firstOf(const QDBusMessage& message)
 {
     return message.arguments().isEmpty() ? QVariant() : message.arguments().first();
-}
-
-QVariantList variantsOf(const QVariant& array)
-{
-    if (array.metaType() != QMetaType::fromType<QDBusArgument>())
-        return array.toList();
-    const auto argument = array.value<QDBusArgument>();
-    QVariantList variants;
-    if (argument.currentSignature() != QLatin1String("av"))
-        return variants;
-    argument.beginArray();
-    while (!argument.atEnd()) {
-        QDBusVariant variant;
-        argument >> variant;
-        variants.append(QVariant::fromValue(variant));
-    }
-    argument.endArray();
-    return variants;
 }
 
 bool isPlainLayout(const IBusEngine& engine) { return layoutOfSource(engine.name).has_value(); }
@@ -95,11 +76,10 @@ bool IBusInputSources::isUsable() const
 
 std::optional<std::string> IBusInputSources::current()
 {
-    if (target_)
-        return sourceIDOfIBusEngine(target_->engine);
-    if (!engine_)
+    const auto engine = selection_.engine();
+    if (!engine)
         return {};
-    return sourceIDOfIBusEngine(*engine_);
+    return sourceIDOfIBusEngine(*engine);
 }
 
 SelectionStatus IBusInputSources::select(const std::string& id)
@@ -116,24 +96,14 @@ SelectionStatus IBusInputSources::select(const std::string& id)
     if (group && *group != groupBefore)
         layouts_.lockGroup(*group);
 
-    return ask({found->name, groupBefore});
+    if (!selection_.want({found->name, groupBefore}))
+        return SelectionStatus::done;
+    return ask(std::chrono::steady_clock::now() + selectionWait);
 }
 
-SelectionStatus IBusInputSources::ask(Selection selection)
+SelectionStatus IBusInputSources::ask(DBusDeadline deadline)
 {
-    if (!target_ && engine_ == selection.engine)
-        return SelectionStatus::done;
-    target_ = std::move(selection);
-    if (isAsking_)
-        return SelectionStatus::done;
-    return askForTarget(std::chrono::steady_clock::now() + selectionWait);
-}
-
-SelectionStatus IBusInputSources::askForTarget(DBusDeadline deadline)
-{
-    isAsking_ = true;
-    const auto asked = *target_;
-    echoes_.push_back(asked.engine);
+    const auto asked = selection_.ask();
     const auto pending
         = bus_.call(daemon, "SetGlobalEngine", {QString::fromStdString(asked.engine)});
     if (waitForAnswer(pending, deadline))
@@ -143,23 +113,17 @@ SelectionStatus IBusInputSources::askForTarget(DBusDeadline deadline)
     return SelectionStatus::done;
 }
 
-SelectionStatus IBusInputSources::finish(const Selection& asked, const QDBusMessage& reply)
+SelectionStatus IBusInputSources::finish(
+    const IBusSelection::Wish& asked, const QDBusMessage& reply)
 {
-    isAsking_ = false;
-    const bool isLatest = target_->engine == asked.engine;
     const bool isRefused = reply.type() == QDBusMessage::ErrorMessage;
-    if (isRefused) {
-        std::erase(echoes_, asked.engine);
+    if (isRefused)
         Log::warn("IBus did not select " + asked.engine + ": " + reply.errorMessage().toStdString(),
             logCategory::inputMethod);
-    } else {
-        engine_ = asked.engine;
-    }
-    if (!isLatest) {
-        askForTarget(doNotWait);
+    if (!selection_.take(isRefused)) {
+        ask(doNotWait);
         return SelectionStatus::done;
     }
-    target_.reset();
     if (isRefused)
         layouts_.lockGroup(asked.groupBefore);
     notify();
@@ -211,10 +175,7 @@ void IBusInputSources::readEngines(const QStringList& names, DBusDeadline deadli
 
 void IBusInputSources::setEngines(const QStringList& names, const QVariant& descriptions)
 {
-    std::vector<IBusEngine> engines;
-    for (const auto& description : variantsOf(descriptions))
-        if (auto engine = ibusEngine(description))
-            engines.push_back(std::move(*engine));
+    const auto engines = ibusEngines(descriptions);
     engines_.clear();
     sources_.clear();
     for (const auto& name : names) {
@@ -242,7 +203,7 @@ void IBusInputSources::readCurrent(DBusDeadline deadline)
                 return;
             }
             if (const auto engine = ibusEngine(firstOf(reply)))
-                engine_ = engine->name;
+                selection_.begin(engine->name);
             hasCurrent_ = true;
             notify();
         });
@@ -250,13 +211,8 @@ void IBusInputSources::readCurrent(DBusDeadline deadline)
 
 void IBusInputSources::become(const std::string& engine)
 {
-    const auto echo = std::find(echoes_.begin(), echoes_.end(), engine);
-    echoes_.erase(echoes_.begin(), echo == echoes_.end() ? echo : echo + 1);
-    // Another selection of ours came after this one, and its own signal is on the way.
-    if (!echoes_.empty())
-        return;
-    engine_ = engine;
-    notify();
+    if (selection_.hear(engine))
+        notify();
 }
 
 void IBusInputSources::fail(const QDBusMessage& reply)

@@ -3,6 +3,7 @@
 #include "platform/linux/DBusAnswer.h"
 #include "platform/linux/IBusConnection.h"
 #include "platform/linux/IBusEngine.h"
+#include "platform/linux/IBusSelection.h"
 #include "platform/linux/InputSourceBackend.h"
 #include "platform/linux/XkbInputSources.h"
 
@@ -39,21 +40,14 @@ public:
     const std::string& problem() const { return problem_; }
 
 private:
-    /// An engine that was asked for, and the layout group before.
-    struct Selection {
-        std::string engine;
-        int groupBefore = 0;
-    };
-
     void listen();
     void readEngineList(DBusDeadline deadline);
     void readEngines(const QStringList& names, DBusDeadline deadline);
     void setEngines(const QStringList& names, const QVariant& descriptions);
     void readCurrent(DBusDeadline deadline);
     void become(const std::string& engine);
-    SelectionStatus ask(Selection selection);
-    SelectionStatus askForTarget(DBusDeadline deadline);
-    SelectionStatus finish(const Selection& asked, const QDBusMessage& reply);
+    SelectionStatus ask(DBusDeadline deadline);
+    SelectionStatus finish(const IBusSelection::Wish& asked, const QDBusMessage& reply);
     void fail(const QDBusMessage& reply);
     /// The group for the engine's layout; nothing when its layout is not among the groups.
     std::optional<int> groupFor(const IBusEngine& engine);
@@ -63,13 +57,7 @@ private:
     QObject context_;
     std::vector<IBusEngine> engines_;
     std::vector<InputSource> sources_;
-    std::optional<std::string> engine_;
-    /// What was asked for last, until the daemon has selected it. Asked of the daemon one at a
-    /// time: of two at once, the one whose engine has to be started first would win.
-    std::optional<Selection> target_;
-    bool isAsking_ = false;
-    /// Engines that were asked for and whose signals are still to come.
-    std::vector<std::string> echoes_;
+    IBusSelection selection_;
     bool hasEngines_ = false;
     bool hasCurrent_ = false;
     bool hasGone_ = false;

@@ -122,5 +122,26 @@ TEST(PreferenceDocument, mergesByKey)
     EXPECT_TRUE(isSameDocument(merged({}, memory, {"mine"}), document(R"({"mine":2})")));
 }
 
+TEST(PreferenceDocument, survivesAnyBytes)
+{
+    constexpr int rounds = 2'000;
+    int readable = 0;
+    std::uint32_t state = 1;
+    const auto random = [&] { return state = state * 1'664'525 + 1'013'904'223; };
+    const std::string whole = R"({"a":[1,"x",{"b":null}],"c":"\u00e9","d":1.5e3})";
+    for (int round = 0; round < rounds; ++round) {
+        auto bytes = whole;
+        for (auto changes = 1 + random() % 4; changes > 0; --changes)
+            bytes[(random() >> 8) % bytes.size()] = static_cast<char>(random() >> 24);
+        const auto parsed = parsePreferences(bytes);
+        if (parsed) {
+            ++readable;
+            EXPECT_TRUE(isSameDocument(document(preferencesText(*parsed)), *parsed)) << bytes;
+        }
+    }
+    EXPECT_GT(readable, 0);
+    EXPECT_LT(readable, rounds);
+}
+
 } // namespace
 } // namespace brindlex

@@ -3,6 +3,7 @@
 #include "support/ChildProcess.h"
 #include "support/EventLogWindow.h"
 #include "support/Eventually.h"
+#include "support/Keycodes.h"
 #include "support/PlayedHardware.h"
 #include "support/ProcessTable.h"
 
@@ -14,9 +15,6 @@ namespace brindlex {
 namespace {
 
 using Lines = std::vector<std::string>;
-
-constexpr std::uint8_t controlKey = 37;
-constexpr std::uint8_t aKey = 38;
 
 /// A program that has taken all devices, on a desktop of its own.
 class InputUnderWatch : public testing::Test {
@@ -34,7 +32,7 @@ protected:
     /// The user is dragging and holds a key, all through the program.
     void beginDrag()
     {
-        keyboard_.press(controlKey);
+        keyboard_.press(keycode::control);
         mouse_.press(1);
         mouse_.move(5, 0);
         settle();
@@ -84,7 +82,7 @@ protected:
     void endDrag()
     {
         mouse_.release(1);
-        keyboard_.release(controlKey);
+        keyboard_.release(keycode::control);
         settle();
     }
 
@@ -115,7 +113,7 @@ TEST_F(InputUnderWatch, comesBackFromAProgramThatIsStoppedInADrag)
     EXPECT_TRUE(eventually([this] { return window_.held() == Lines{}; }))
         << testing::PrintToString(window_.held());
     window_.forget();
-    keyboard_.stroke(aKey);
+    keyboard_.stroke(keycode::a);
     secondMouse_.click(2);
     settle();
     EXPECT_TRUE(arrived({"key 38 down", "key 38 up", "press 2", "release 2"}))

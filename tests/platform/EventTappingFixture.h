@@ -1,0 +1,58 @@
+#pragma once
+
+#include "platform/EventTap.h"
+#include "platform/TappedSessions.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace brindlex {
+
+/// A session whose input one tap sees.
+template <typename Session>
+class EventTappingPromise : public testing::Test {
+protected:
+    /// A tap that is switched on, and that notes what it sees as `type number`.
+    void tap(std::vector<EventInterest> interests, EventVerdict verdict = EventVerdict::pass)
+    {
+        tap_.reset();
+        EventMask mask = 0;
+        for (const auto& interest : interests)
+            mask |= interest.mask;
+        tap_ = session_.tapping().createTap(mask, interests, [this, verdict](const Event& event) {
+            const bool isKey = event.type == EventType::keyDown || event.type == EventType::keyUp;
+            seen_.push_back(std::to_string(static_cast<std::uint32_t>(event.type)) + " "
+                + std::to_string(event.value(isKey ? EventField::keyboardEventKeycode
+                                                   : EventField::mouseEventButtonNumber)));
+            return verdictOf_ ? verdictOf_(event) : verdict;
+        });
+        ASSERT_NE(tap_, nullptr);
+        tap_->setEnabled(true);
+        session_.settle();
+    }
+
+    static constexpr EventMask otherButtons = 0xE000000;
+    static constexpr EventMask keys = 0xC00;
+    static EventInterest button(std::int64_t number, std::optional<std::uint64_t> flags = {})
+    {
+        return {0xE0000DE, EventTriggers{.buttons = {{number, flags}}}};
+    }
+    static EventInterest key(std::int64_t code, std::uint64_t flags)
+    {
+        return {keys, EventTriggers{.keys = {{code, flags}}}};
+    }
+
+    Session session_;
+    std::vector<std::string> seen_;
+    std::function<EventVerdict(const Event&)> verdictOf_;
+    std::unique_ptr<EventTap> tap_;
+};
+
+TYPED_TEST_SUITE(EventTappingPromise, TappedSessions);
+
+} // namespace brindlex
