@@ -104,6 +104,8 @@ public:
     FcitxDesk()
     {
         EXPECT_TRUE(loopUntil([this] { return sources_.backendName() == "Fcitx 5"; }));
+        // A selection goes to the window that has the keyboard, and is lost where none has it yet.
+        EXPECT_TRUE(loopUntil([this] { return !daemon_.current().empty(); }));
     }
 
     KeyboardInputSources& sources() { return sources_; }
