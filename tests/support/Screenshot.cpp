@@ -1,7 +1,9 @@
 #include "support/Screenshot.h"
 
 #include "foundation/FatalError.h"
+#include "support/Eventually.h"
 
+#include <optional>
 #include <png.h>
 
 namespace brindlex {
@@ -55,6 +57,17 @@ bool Screenshot::save(const std::filesystem::path& file) const
     image.height = static_cast<png_uint_32>(height_);
     image.format = PNG_FORMAT_RGB;
     return png_image_write_to_file(&image, file.c_str(), 0, pixels_.data(), 0, nullptr) != 0;
+}
+
+bool comesToRest(const XConnection& server, const ScreenArea& area)
+{
+    std::optional<Screenshot> last;
+    return eventually([&] {
+        Screenshot now(server, area);
+        const bool isSteady = last && now.differencesFrom(*last) == 0;
+        last = std::move(now);
+        return isSteady;
+    });
 }
 
 } // namespace brindlex

@@ -35,4 +35,7 @@ private:
     std::vector<Pixel> pixels_;
 };
 
+/// Waits until that part of the screen no longer changes; false when it goes on and on.
+bool comesToRest(const XConnection& server, const ScreenArea& area);
+
 } // namespace brindlex

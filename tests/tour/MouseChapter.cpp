@@ -1,6 +1,12 @@
 #include "tour/MouseChapter.h"
 
 #include "desktop/MouseDesk.h"
+#include "support/InstalledApplication.h"
+#include "support/Keycodes.h"
+#include "support/Screenshot.h"
+#include "support/TypingWindow.h"
+#include "tour/TourDesktop.h"
+#include "tour/Wallpaper.h"
 
 #include <chrono>
 #include <iostream>
@@ -20,8 +26,10 @@ public:
         report_.tell(
             "A desktop with a mouse that is played is made, and Brindlex is started on it.");
         auto config = everything();
-        config.click.bindings = {click(MouseButton::button3, {},
-            MouseAction::RunShellCommand{"echo done > '" + trace().string() + "'"})};
+        config.click.bindings
+            = {click(MouseButton::button3, {},
+                   MouseAction::RunShellCommand{"echo done > '" + trace().string() + "'"}),
+                click(MouseButton::button5, {}, MouseAction::MissionControl{})};
         desk_.set(config);
         desk_.program.emplace(desk_.desktop);
         const bool launched
@@ -96,6 +104,33 @@ public:
         report_.check(desk_.showsDesktop(0), "The first desktop is shown again.");
     }
 
+    void windows()
+    {
+        report_.tell("The user clicks the other side button, to which Mission Control is bound.");
+        paintWallpaper(desk_.server);
+        for (const std::string name : {"Letters", "Notes", "Diary"})
+            installApplication(desk_.desktop, "com.example." + name, name);
+        const TypingWindow letters(desk_.windows, "Letters", paper("A letter home", "#fdf6e3"));
+        desk_.windows.place(letters.window(), {40, 50, 440, 220});
+        const TypingWindow notes(desk_.windows, "Notes", paper("Shopping", "#eef4f8"));
+        desk_.windows.place(notes.window(), {540, 50, 440, 220});
+        const TypingWindow diary(desk_.windows, "Diary", paper("November", "#f5eef8"));
+        desk_.windows.place(diary.window(), {150, 490, 720, 220});
+        desk_.settle();
+        desk_.mouse.click(forwardButton);
+        const auto list = [this] { return desk_.windows.unmanagedOf(desk_.program->process()); };
+        const bool isShown = eventually([&] { return !list().empty(); })
+            && comesToRest(desk_.server, desk_.windows.areaOf(list().front()));
+        report_.check(isShown, "The list of all windows stands in the middle of the screen.");
+        report_.picture(desk_.server, "7-all-windows");
+
+        report_.tell("The user presses Return.");
+        desk_.settle();
+        desk_.keyboard.stroke(keycode::enter);
+        report_.check(eventually([&] { return desk_.windows.active() == notes.window(); }),
+            "The window before is in front, and the list is gone.");
+    }
+
     void end()
     {
         report_.tell("The session asks Brindlex to end while the side button is held.");
@@ -144,6 +179,7 @@ void playMouseChapter(TourReport& report)
         chapter.binding();
         chapter.wheel();
         chapter.spaces();
+        chapter.windows();
         chapter.end();
     }
     if (!report.isGood())

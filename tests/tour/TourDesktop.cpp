@@ -12,12 +12,6 @@ namespace {
 constexpr auto lettersApplication = "com.example.Letters";
 constexpr auto notesApplication = "com.example.Notes";
 
-std::vector<std::string> paper(const std::string& title, const std::string& colour)
-{
-    return {"-T", title, "-fa", "DejaVu Sans Mono", "-fd", "Noto Sans Mono CJK SC", "-fs", "17",
-        "-bg", colour, "-fg", "#2e3440", "-cr", "#5e81ac", "-b", "18", "+sb"};
-}
-
 SwitchingRules rules()
 {
     return {
@@ -28,6 +22,12 @@ SwitchingRules rules()
 }
 
 } // namespace
+
+std::vector<std::string> paper(const std::string& title, const std::string& colour)
+{
+    return {"-T", title, "-fa", "DejaVu Sans Mono", "-fd", "Noto Sans Mono CJK SC", "-fs", "17",
+        "-bg", colour, "-fg", "#2e3440", "-cr", "#5e81ac", "-b", "18", "+sb"};
+}
 
 TourDesktop::TourDesktop() : ibus(desktop, {english, german, pinyin})
 {
@@ -50,11 +50,6 @@ bool TourDesktop::startProgram()
     return program->launches();
 }
 
-bool TourDesktop::takePicture(const std::filesystem::path& file) const
-{
-    return Screenshot(server).save(file);
-}
-
 bool TourDesktop::showsOverlay() const
 {
     std::vector<xcb_window_t> overlays;
@@ -65,14 +60,7 @@ bool TourDesktop::showsOverlay() const
     if (!eventually(isThere))
         return false;
     // It fades in: it is there in full when it no longer changes.
-    const auto area = windows.areaOf(overlays.front());
-    std::optional<Screenshot> last;
-    return eventually([&] {
-        Screenshot now(server, area);
-        const bool isSteady = last && now.differencesFrom(*last) == 0;
-        last = std::move(now);
-        return isSteady;
-    });
+    return comesToRest(server, windows.areaOf(overlays.front()));
 }
 
 bool TourDesktop::hidesOverlay() const

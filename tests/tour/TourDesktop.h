@@ -10,11 +10,14 @@
 #include "support/TypingWindow.h"
 #include "support/VirtualDesktop.h"
 
-#include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace brindlex {
+
+/// The options of a terminal whose window looks like one to write in.
+std::vector<std::string> paper(const std::string& title, const std::string& colour);
 
 /// The engines of IBus that the user of the tour writes with.
 inline constexpr auto english = "xkb:us::eng";
@@ -29,9 +32,6 @@ public:
 
     /// Starts the program; whether it says that it has launched.
     bool startProgram();
-
-    /// Leaves a picture of the whole screen.
-    bool takePicture(const std::filesystem::path& file) const;
 
     /// Waits until the overlay stands on the screen, faded in; false when none appears.
     bool showsOverlay() const;

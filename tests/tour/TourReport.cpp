@@ -1,5 +1,7 @@
 #include "tour/TourReport.h"
 
+#include "support/Screenshot.h"
+
 #include <iostream>
 
 namespace brindlex {
@@ -12,6 +14,12 @@ bool TourReport::check(bool holds, const std::string& words)
     failures_ += !holds;
     std::cout << (holds ? "  ✓ " : "  ✗ NOT SO: ") << words << std::endl;
     return holds;
+}
+
+void TourReport::picture(const XConnection& server, const std::string& name)
+{
+    const auto file = pictures_ / (name + ".png");
+    check(Screenshot(server).save(file), "Picture: " + file.string());
 }
 
 int TourReport::close()

@@ -22,10 +22,7 @@ std::string nameOf(const std::string& engine)
 
 class Tour {
 public:
-    Tour(TourDesktop& desk, TourReport& report, std::filesystem::path pictures)
-        : desk_(desk), report_(report), pictures_(std::move(pictures))
-    {
-    }
+    Tour(TourDesktop& desk, TourReport& report) : desk_(desk), report_(report) { }
 
     bool start()
     {
@@ -40,12 +37,12 @@ public:
         report_.tell("The user goes to Letters, where a rule says German.");
         selects(german, [&] { desk_.windows.activate(desk_.letters->window()); });
         types(*desk_.letters, "Gr[-e", "Grüße");
-        picture("1-letters-are-german");
+        report_.picture(desk_.server, "1-letters-are-german");
 
         report_.tell("The user goes to Notes, where a rule says Pinyin.");
         selects(pinyin, [&] { desk_.windows.activate(desk_.notes->window()); });
         types(*desk_.notes, "nihao ", "你好");
-        picture("2-notes-are-chinese");
+        report_.picture(desk_.server, "2-notes-are-chinese");
     }
 
     void choiceOfTheUser()
@@ -56,14 +53,14 @@ public:
         types(*desk_.notes, " means hello", " means hello");
         report_.check(throughout(600ms, [&] { return desk_.ibus.current() == english; }),
             "The choice holds: the source is still English.");
-        picture("3-the-users-choice-holds");
+        report_.picture(desk_.server, "3-the-users-choice-holds");
 
         report_.tell("The user goes to Letters and comes back to Notes.");
         selects(german, [&] { desk_.windows.activate(desk_.letters->window()); });
         types(*desk_.letters, " aus ", " aus ");
         selects(pinyin, [&] { desk_.windows.activate(desk_.notes->window()); });
         types(*desk_.notes, "zaijian ", "再见");
-        picture("4-back-in-notes");
+        report_.picture(desk_.server, "4-back-in-notes");
     }
 
     void rulesOfWebsites()
@@ -76,11 +73,11 @@ public:
         desk_.input.type("Sch;nen Tag");
         report_.check(desk_.browser->shows("forum.example.org: Schönen Tag"),
             "What was typed stands in the page: Schönen Tag");
-        picture("5-a-website-is-german");
+        report_.picture(desk_.server, "5-a-website-is-german");
 
         report_.tell("The user opens www.example.com, which has no rule of its own.");
         selects(english, [&] { desk_.browser->open("www.example.com"); });
-        picture("6-another-is-english");
+        report_.picture(desk_.server, "6-another-is-english");
     }
 
     void end()
@@ -121,22 +118,15 @@ private:
                 + (arrived ? expected : window.text().substr(before.size())));
     }
 
-    void picture(const std::string& name)
-    {
-        const auto file = pictures_ / (name + ".png");
-        report_.check(desk_.takePicture(file), "Picture: " + file.string());
-    }
-
     TourDesktop& desk_;
     TourReport& report_;
-    std::filesystem::path pictures_;
 };
 
 } // namespace
 
-void playTour(TourDesktop& desk, TourReport& report, const std::filesystem::path& pictures)
+void playTour(TourDesktop& desk, TourReport& report)
 {
-    Tour tour(desk, report, pictures);
+    Tour tour(desk, report);
     if (!tour.start())
         return;
     tour.rulesOfApplications();

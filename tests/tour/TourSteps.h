@@ -3,11 +3,9 @@
 #include "tour/TourDesktop.h"
 #include "tour/TourReport.h"
 
-#include <filesystem>
-
 namespace brindlex {
 
 /// Plays the tour from the start of the program to its end, and leaves a picture of each step.
-void playTour(TourDesktop& desk, TourReport& report, const std::filesystem::path& pictures);
+void playTour(TourDesktop& desk, TourReport& report);
 
 } // namespace brindlex

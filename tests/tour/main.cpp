@@ -6,11 +6,11 @@
 namespace brindlex {
 namespace {
 
-void playWritingChapter(TourReport& report, const std::filesystem::path& pictures)
+void playWritingChapter(TourReport& report)
 {
     report.tell("A desktop without a screen is made: two windows to write in and a browser.");
     TourDesktop desk;
-    playTour(desk, report, pictures);
+    playTour(desk, report);
     if (!report.isGood())
         std::cerr << desk.program->report() << std::endl;
 }
@@ -30,8 +30,8 @@ int main(int count, char** arguments)
         return 1;
     }
 
-    TourReport report;
-    playWritingChapter(report, std::filesystem::absolute(pictures));
+    TourReport report(std::filesystem::absolute(pictures));
+    playWritingChapter(report);
     playMouseChapter(report);
     return report.close();
 }
