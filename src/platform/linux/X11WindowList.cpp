@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 
 namespace brindlex {
 namespace {
@@ -84,7 +83,8 @@ std::vector<WindowInfo> X11WindowList::onScreen()
         connection, connection.root(), "_NET_CLIENT_LIST_STACKING", manyWindows);
     X11PropertyRequest desktopRequest(
         connection, connection.root(), "_NET_CURRENT_DESKTOP", sizeof(std::uint32_t));
-    const auto stacking = stackingRequest.values().value_or(std::vector<std::uint32_t>{});
+    auto frontToBack = stackingRequest.values().value_or(std::vector<std::uint32_t>{});
+    std::ranges::reverse(frontToBack);
     const auto current = first(desktopRequest.values());
     const auto ofDesktop = connection.atom("_NET_WM_WINDOW_TYPE_DESKTOP");
     const auto hidden = connection.atom("_NET_WM_STATE_HIDDEN");
@@ -98,8 +98,8 @@ std::vector<WindowInfo> X11WindowList::onScreen()
         connection.atom("_NET_WM_WINDOW_TYPE_SPLASH")};
 
     std::vector<WindowQuestions> questions;
-    questions.reserve(stacking.size());
-    for (const auto window : std::views::reverse(stacking))
+    questions.reserve(frontToBack.size());
+    for (const auto window : frontToBack)
         questions.emplace_back(connection, window);
 
     std::vector<WindowInfo> windows;
