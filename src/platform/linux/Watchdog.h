@@ -22,7 +22,7 @@ public:
     /// has the input back within a second.
     static constexpr std::chrono::milliseconds patience{450};
     /// How long after an answer the program is not asked again.
-    static constexpr std::chrono::milliseconds interval{250};
+    static constexpr std::chrono::milliseconds interval{100};
 
     explicit Watchdog(const std::string& display) : rescue_(display) { }
 
