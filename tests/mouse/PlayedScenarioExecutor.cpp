@@ -1,6 +1,7 @@
 #include "mouse/PlayedScenarioExecutor.h"
 
 #include "platform/linux/X11Buttons.h"
+#include "support/Keycodes.h"
 
 #include <array>
 #include <cmath>
@@ -12,15 +13,14 @@ using Words = ScenarioExecutor::Words;
 using Lines = std::vector<std::string>;
 using scenarioWords::Deed;
 
-constexpr std::uint8_t capsLockKey = 66;
-
 struct ModifierKey {
     std::uint64_t flag;
     std::uint8_t key;
 };
-constexpr std::array modifierKeys{ModifierKey{eventFlag::shift, 50},
-    ModifierKey{eventFlag::control, 37}, ModifierKey{eventFlag::option, 64},
-    ModifierKey{eventFlag::command, 133}, ModifierKey{eventFlag::capsLock, capsLockKey}};
+constexpr std::array modifierKeys{ModifierKey{eventFlag::shift, keycode::shift},
+    ModifierKey{eventFlag::control, keycode::control}, ModifierKey{eventFlag::option, keycode::alt},
+    ModifierKey{eventFlag::command, keycode::super},
+    ModifierKey{eventFlag::capsLock, keycode::capsLock}};
 
 /// Whether the line is about a modifier key, which goes up and down for what is posted.
 bool isOfModifierKey(const std::string& line)
@@ -155,7 +155,7 @@ void PlayedScenarioExecutor::holdModifiers(std::uint64_t flags)
     for (const auto& [flag, key] : modifierKeys) {
         if ((flags & flag) == (heldFlags_ & flag))
             continue;
-        if (key == capsLockKey)
+        if (key == keycode::capsLock)
             keyboard.stroke(key);
         else if ((flags & flag) != 0)
             keyboard.press(key);

@@ -40,19 +40,19 @@ ChromiumBrowser::ChromiumBrowser(const VirtualDesktop& desktop, const DesktopWin
                 window_ = window;
         return window_ != XCB_WINDOW_NONE;
     };
-    if (!eventually(hasWindow, 40s))
+    if (!eventually(hasWindow, 60s))
         fatalError("Chromium did not open.\n" + browser_.output());
 }
 
 bool ChromiumBrowser::open(const std::string& host)
 {
     // A second start with the same profile hands the page to the browser that runs and ends.
-    return run({.command = withPage(command_, host)}, 20s) == ProcessEnd{0, {}} && shows(host);
+    return run({.command = withPage(command_, host)}, 30s) == ProcessEnd{0, {}} && shows(host);
 }
 
 bool ChromiumBrowser::shows(const std::string& host) const
 {
-    return eventually([&] { return windows_.titleOf(window_).starts_with(host); }, 20s);
+    return eventually([&] { return windows_.titleOf(window_).starts_with(host); }, 30s);
 }
 
 } // namespace brindlex

@@ -6,7 +6,7 @@
 namespace brindlex {
 
 /// How long a test waits for something that should be there at once.
-inline constexpr std::chrono::milliseconds usualDeadline{10'000};
+inline constexpr std::chrono::milliseconds usualDeadline{20'000};
 
 /// Asks again and again until the condition holds; whether it did so before the deadline.
 ///

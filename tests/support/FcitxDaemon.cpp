@@ -51,7 +51,7 @@ void FcitxDaemon::start()
         return bus.hasOwner(name) && hasXInputMethodServer("fcitx")
             && bus.call(name, path, interface, "CurrentInputMethodGroup");
     };
-    if (!eventually(answers, 20s))
+    if (!eventually(answers, 60s))
         fatalError("Fcitx did not start.\n" + daemon_->output());
 }
 

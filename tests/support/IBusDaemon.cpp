@@ -28,7 +28,7 @@ IBusDaemon::IBusDaemon(VirtualDesktop& desktop, const std::vector<std::string>& 
         .command = {"dconf", "write", "/desktop/ibus/general/preload-engines", "[" + list + "]"},
         .output = desktop.outputFolder() / "dconf",
     };
-    if (run(enable, 20s) != ProcessEnd{0, {}})
+    if (run(enable, 60s) != ProcessEnd{0, {}})
         fatalError("The engines could not be enabled.\n" + contentOf(enable.output));
     for (const auto variable : {"GTK_IM_MODULE", "QT_IM_MODULE"})
         desktop.setVariable(variable, "ibus");
@@ -47,7 +47,7 @@ void IBusDaemon::start()
         return bus && BusConnection(*bus).hasOwner("org.freedesktop.IBus.Config")
             && hasXInputMethodServer("ibus");
     };
-    if (!eventually(answers, 20s))
+    if (!eventually(answers, 60s))
         fatalError("IBus did not start.\n" + daemon_->output());
 }
 

@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto timeToStart = 20s;
+constexpr auto timeToStart = 60s;
 
 } // namespace
 
