@@ -105,6 +105,14 @@ void activationDecidedByLearningWithoutLimit(benchmark::State& state)
 }
 BENCHMARK(activationDecidedByLearningWithoutLimit)->Arg(200);
 
+/// So many learned applications with so many dates each.
+void growing(benchmark::internal::Benchmark* benchmark)
+{
+    for (const int dates : {20, 50, 100, 200, 500})
+        benchmark->Args({200, dates});
+    benchmark->Args({1000, 500});
+}
+
 /// As before, with the first 20 by score; the activated application leads.
 void activationOfTheTopLearnedApplication(benchmark::State& state)
 {
@@ -115,12 +123,7 @@ void activationOfTheTopLearnedApplication(benchmark::State& state)
     reduceActivations(state, configWithRules(100, "com.example.Other"), smartConfig, bundleID, 1);
 }
 BENCHMARK(activationOfTheTopLearnedApplication)
-    ->Args({200, 20})
-    ->Args({200, 50})
-    ->Args({200, 100})
-    ->Args({200, 200})
-    ->Args({200, 500})
-    ->Args({1000, 500})
+    ->Apply(growing)
     ->Args({10'000, 500})
     ->Complexity(benchmark::oN);
 
@@ -148,12 +151,7 @@ void activationThatCountsAllDates(benchmark::State& state)
     reduceActivations(state, configWithRules(100, "com.example.Other"), smartConfig, bundleID, 1);
 }
 BENCHMARK(activationThatCountsAllDates)
-    ->Args({200, 20})
-    ->Args({200, 50})
-    ->Args({200, 100})
-    ->Args({200, 200})
-    ->Args({200, 500})
-    ->Args({1000, 500})
+    ->Apply(growing)
     ->Args({2000, 500})
     ->Complexity(benchmark::oN);
 

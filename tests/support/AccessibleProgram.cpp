@@ -58,6 +58,18 @@ void AccessibleProgram::appendNone(sd_bus_message* reply)
     sd_bus_message_append(reply, "(so)", "", "/org/a11y/atspi/null");
 }
 
+int AccessibleProgram::reply(
+    sd_bus_message* question, const std::function<bool(sd_bus_message* reply)>& fill)
+{
+    sd_bus_message* reply = nullptr;
+    sd_bus_message_new_method_return(question, &reply);
+    const int sent = fill(reply)
+        ? sd_bus_send(nullptr, reply, nullptr)
+        : sd_bus_reply_method_errorf(question, SD_BUS_ERROR_UNKNOWN_METHOD, "No");
+    sd_bus_message_unref(reply);
+    return sent < 0 ? sent : 1;
+}
+
 int AccessibleProgram::run(const std::string& folder, Answering answer) const
 {
     sd_bus_add_filter(bus_, nullptr, take, &answer);

@@ -24,6 +24,10 @@ public:
     /// what the functions of the bus do, positive for a question that needs no other answer.
     using Answering = std::function<int(sd_bus_message* question, const std::string& object)>;
 
+    /// Answers with what `fill` adds, or that there is no such question when it returns false.
+    static int reply(
+        sd_bus_message* question, const std::function<bool(sd_bus_message* reply)>& fill);
+
     /// Says that the program is there, to the bus and by a file `ready` in the folder, and has
     /// questions answered as long as the bus lasts; the code for `exit`.
     int run(const std::string& folder, Answering answer) const;

@@ -93,10 +93,15 @@ struct Program {
             return 1;
         if (behaviour == Behaviour::garbage)
             return sd_bus_reply_method_return(question, "i", 42);
-        const auto* window = windowOf(object);
+        return AccessibleProgram::reply(
+            question, [&](sd_bus_message* reply) { return fill(question, reply, member, object); });
+    }
 
-        sd_bus_message* reply = nullptr;
-        sd_bus_message_new_method_return(question, &reply);
+    /// Whether the question is one that it answers.
+    bool fill(sd_bus_message* question, sd_bus_message* reply, const std::string& member,
+        const std::string& object) const
+    {
+        const auto* window = windowOf(object);
         if (member == "GetChildren") {
             appendChildren(reply, object);
         } else if (member == "Get") {
@@ -115,12 +120,9 @@ struct Program {
                                                           : std::string();
             sd_bus_message_append(reply, "s", url.c_str());
         } else {
-            sd_bus_message_unref(reply);
-            return sd_bus_reply_method_errorf(question, SD_BUS_ERROR_UNKNOWN_METHOD, "No");
+            return false;
         }
-        sd_bus_send(nullptr, reply, nullptr);
-        sd_bus_message_unref(reply);
-        return 1;
+        return true;
     }
 };
 

@@ -122,10 +122,15 @@ struct Program {
             return 1;
         if (behaviour == Behaviour::garbage && object != "root")
             return sd_bus_reply_method_return(question, "d", 0.5);
-        const bool isElement = number >= 0 && number < size();
+        return AccessibleProgram::reply(
+            question, [&](sd_bus_message* reply) { return fill(question, reply, member, number); });
+    }
 
-        sd_bus_message* reply = nullptr;
-        sd_bus_message_new_method_return(question, &reply);
+    /// Whether the question is one that it answers.
+    bool fill(sd_bus_message* question, sd_bus_message* reply, const std::string& member,
+        int number) const
+    {
+        const bool isElement = number >= 0 && number < size();
         if (member == "GetChildren") {
             appendChildren(reply, number);
         } else if (member == "Get") {
@@ -154,12 +159,9 @@ struct Program {
             append(reply,
                 childAt(number, {static_cast<double>(x), static_cast<double>(y)}, coordinates));
         } else {
-            sd_bus_message_unref(reply);
-            return sd_bus_reply_method_errorf(question, SD_BUS_ERROR_UNKNOWN_METHOD, "No");
+            return false;
         }
-        sd_bus_send(nullptr, reply, nullptr);
-        sd_bus_message_unref(reply);
-        return 1;
+        return true;
     }
 };
 
