@@ -1,4 +1,4 @@
-#include "platform/EventPosting.h"
+#include "platform/linux/X11EventPosting.h"
 
 #include "platform/DockSwipe.h"
 #include "platform/linux/VirtualKeyCodes.h"
