@@ -75,6 +75,28 @@ TEST(MouseConfig, doesNotReadAScrollPartWithAKeyOfTheWrongType)
     EXPECT_FALSE(read<MouseScrollConfig>(R"({"disabledApps":[{}]})"));
 }
 
+TEST(MouseConfig, readsAnyNumberAboutTheWheel)
+{
+    for (const double number : {0.0, -0.0, -1.0, 1e308, -1e308, 5e-324}) {
+        MouseScrollConfig config;
+        config.smoothDuration = number;
+        config.speedMultiplier = number;
+        config.acceleration = number;
+        EXPECT_EQ(read<MouseScrollConfig>(jsonText(toJson(config))).value(), config) << number;
+    }
+}
+
+TEST(MouseConfig, readsNothingThatIsNoNumberAboutTheWheel)
+{
+    for (const std::string key : {"smoothDuration", "speedMultiplier", "acceleration"}) {
+        for (const std::string value : {"\"NaN\"", "\"1\"", "true", "[1]", "{}"})
+            EXPECT_FALSE(read<MouseScrollConfig>("{\"" + key + "\":" + value + "}")) << value;
+        for (const std::string value : {"NaN", "nan", "Infinity", "-inf", "1e999", "0x10", "1,5"})
+            EXPECT_FALSE(parseJson("{\"" + key + "\":" + value + "}")) << value;
+        EXPECT_EQ(read<MouseScrollConfig>("{\"" + key + "\":null}").value(), MouseScrollConfig{});
+    }
+}
+
 TEST(MouseConfig, needsEveryOtherKey)
 {
     const auto whole = toJson(example());

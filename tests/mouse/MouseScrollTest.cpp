@@ -51,6 +51,14 @@ TEST_F(MouseScrollTest, multipliesBySpeedAndAcceleration)
     EXPECT_NEAR(scroll(notch(-3))->vertical, -30 * 2.5 * 1.590623820562573131, 1e-10);
 }
 
+TEST_F(MouseScrollTest, turnsRoundWithASpeedBelowNothingAndStandsWithNone)
+{
+    config.speedMultiplier = -2;
+    EXPECT_EQ(scroll(notch(-3, 2)), (ScrollDistance{60, -40}));
+    config.speedMultiplier = 0;
+    EXPECT_EQ(scroll(notch(3, 2)), (ScrollDistance{0, 0}));
+}
+
 TEST_F(MouseScrollTest, goesSidewaysWhileShiftIsHeld)
 {
     EXPECT_EQ(scroll(notch(3, 0, eventFlag::shift)), (ScrollDistance{0, 30}));

@@ -115,6 +115,36 @@ TEST_F(ScrollSmootherTest, readsTheDurationAtEachFrame)
     EXPECT_FALSE(displayLink.isRunning());
 }
 
+TEST_F(ScrollSmootherTest, takesADurationBelowNothingForTheShortest)
+{
+    for (const Seconds duration : {-0.18, -1e308}) {
+        smoothDuration = duration;
+        smoother.add(0, 0, 100);
+        displayLink.frame(500);
+
+        EXPECT_NEAR(posts.back().second.vertical, 99.99999422225148, 1e-12) << duration;
+        EXPECT_FALSE(displayLink.isRunning());
+        smoother.reset();
+    }
+}
+
+TEST_F(ScrollSmootherTest, goesOnOnceADurationWithoutEndIsOver)
+{
+    smoothDuration = 1e308;
+    smoother.add(0, 0, 100);
+    for (int frame = 0; frame < 100; ++frame)
+        displayLink.frame(500 + frame / 60.0);
+    EXPECT_TRUE(posts.empty());
+    EXPECT_EQ(smoother.motion().remainingY, 100);
+
+    smoothDuration = 0.001;
+    displayLink.frame(502);
+
+    EXPECT_EQ(posts.size(), 1u);
+    EXPECT_NEAR(posts.back().second.vertical, 100, 1e-9);
+    EXPECT_FALSE(displayLink.isRunning());
+}
+
 TEST_F(ScrollSmootherTest, keepsWhatRemainsWhenItIsStopped)
 {
     smoother.add(eventFlag::option, 5, 100);

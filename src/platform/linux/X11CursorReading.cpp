@@ -49,7 +49,9 @@ std::uint64_t identityOf(std::string_view name)
 
 X11CursorReading::X11CursorReading(X11Connection& connection) : connection_(connection)
 {
-    if (!connection_.isAlive())
+    // A request of an extension that the server does not have would end the connection.
+    const auto* extension = xcb_get_extension_data(connection_.get(), &xcb_xfixes_id);
+    if (!connection_.isAlive() || !extension || !extension->present)
         return;
     // The name came with the second version.
     const X11Message<xcb_xfixes_query_version_reply_t> version(xcb_xfixes_query_version_reply(

@@ -71,22 +71,26 @@ std::map<std::uint16_t, xcb_atom_t> driverTypes(X11Connection& connection)
 
 } // namespace
 
-std::optional<X11MasterDevices> tappableMasters(X11Connection& connection)
+Result<X11MasterDevices, std::string> tappableMasters(X11Connection& connection)
 {
+    if (!connection.isAlive())
+        return fail("there is no X server");
     auto* const server = connection.get();
     const auto* input = xcb_get_extension_data(server, &xcb_input_id);
     const auto* test = xcb_get_extension_data(server, &xcb_test_id);
-    if (!input || !input->present || !test || !test->present)
-        return {};
+    if (!test || !test->present)
+        return fail("the X server has no XTEST");
+    if (!input || !input->present)
+        return fail("the X server has no XInput");
     const X11Message<xcb_input_xi_query_version_reply_t> version(xcb_input_xi_query_version_reply(
         server, xcb_input_xi_query_version(server, inputMajor, inputMinor), nullptr));
     if (!version || version->major_version != inputMajor || version->minor_version < inputMinor)
-        return {};
+        return fail("the XInput of the X server is older than 2.2");
     const X11Message<xcb_input_xi_get_client_pointer_reply_t> pointer(
         xcb_input_xi_get_client_pointer_reply(
             server, xcb_input_xi_get_client_pointer(server, XCB_WINDOW_NONE), nullptr));
     if (!pointer)
-        return {};
+        return fail("the X server has no pointer");
 
     // A client that has not moved the cursor yet has no pointer of its own: it gets the first.
     X11MasterDevices masters{pointer->set ? pointer->deviceid : std::uint16_t{0}, 0};
@@ -98,8 +102,10 @@ std::optional<X11MasterDevices> tappableMasters(X11Connection& connection)
         if (device.deviceid == masters.pointer)
             masters.keyboard = device.attachment;
     });
-    if (isGuest || masters.keyboard == 0)
-        return {};
+    if (isGuest)
+        return fail("the X server is a guest of a Wayland session");
+    if (masters.keyboard == 0)
+        return fail("the X server has no keyboard");
     return masters;
 }
 

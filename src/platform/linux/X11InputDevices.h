@@ -1,9 +1,9 @@
 #pragma once
 
+#include "foundation/Result.h"
 #include "platform/linux/X11Connection.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -30,10 +30,10 @@ struct X11MasterDevices {
     bool operator==(const X11MasterDevices&) const = default;
 };
 
-/// Nothing when the server has no second version of its input extension that is new enough, when
-/// it cannot put in events (XTEST), or when it is a guest of a Wayland session, whose input never
-/// belongs to it.
-std::optional<X11MasterDevices> tappableMasters(X11Connection& connection);
+/// Says in words for the log why the input cannot be tapped: the server has no second version of
+/// its input extension that is new enough, it cannot put in events (XTEST), or it is a guest of a
+/// Wayland session, whose input never belongs to it.
+Result<X11MasterDevices, std::string> tappableMasters(X11Connection& connection);
 
 /// The devices of the masters that can be taken from the applications and played back to them.
 ///

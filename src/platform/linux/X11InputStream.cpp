@@ -1,5 +1,7 @@
 #include "platform/linux/X11InputStream.h"
 
+#include "app/Log.h"
+
 #include <utility>
 
 namespace brindlex {
@@ -36,6 +38,8 @@ X11TapSession* X11InputStream::session()
     if (session->isUsable()) {
         session_ = std::move(session);
         ++sessionCount_;
+    } else if (const auto problem = session->problem()) {
+        report(*problem);
     }
     return session_.get();
 }
@@ -90,6 +94,13 @@ void X11InputStream::reconnect()
         nextReconnection_ = mainThread_.after(timeToReconnect, [this] { reconnect(); });
     else
         taps_.switchOff(EventType::tapDisabledByTimeout);
+}
+
+void X11InputStream::report(const std::string& problem)
+{
+    // Whoever waits for permission asks again and again.
+    if (std::exchange(reportedProblem_, problem) != problem)
+        Log::warn("Input cannot be tapped: " + problem, logCategory::mouse);
 }
 
 } // namespace brindlex

@@ -42,6 +42,7 @@ public:
     void wantsChanged();
 
     /// The connection to the input; null when it cannot be tapped, or was cut.
+    /// Why it cannot be tapped is logged once.
     X11TapSession* session();
 
     /// Whether the input can be tapped, be it only when the connection that was cut is back.
@@ -57,6 +58,7 @@ private:
     void applyWants();
     void runWaiting();
     void reconnect();
+    void report(const std::string& problem);
 
     MainThread& mainThread_;
     Options options_;
@@ -64,6 +66,7 @@ private:
     std::unique_ptr<X11TapSession> session_;
     bool isReconnecting_ = false;
     int sessionCount_ = 0;
+    std::string reportedProblem_;
     TapWatchdog watchdog_;
     std::deque<std::function<void()>> waiting_;
     bool isRunningWaiting_ = false;

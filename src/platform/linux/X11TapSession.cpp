@@ -7,8 +7,7 @@
 namespace brindlex {
 
 X11TapSession::X11TapSession(const std::string& display, TapChain& taps, Hooks hooks)
-    : hooks_(std::move(hooks)), connection_(display),
-      masters_(connection_.isAlive() ? tappableMasters(connection_) : std::nullopt),
+    : hooks_(std::move(hooks)), connection_(display), masters_(tappableMasters(connection_)),
       grabs_(connection_), injection_(connection_),
       input_(taps, grabs_, injection_,
           {.cursor = [this] { return cursorState(connection_); },

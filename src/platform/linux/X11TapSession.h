@@ -38,6 +38,11 @@ public:
 
     /// Whether the server is there and lets the input be tapped.
     bool isUsable() const { return masters_ && connection_.isAlive(); }
+    /// Why the input could not be tapped when the connection was made, in words for the log.
+    std::optional<std::string> problem() const
+    {
+        return masters_ ? std::nullopt : std::optional(masters_.error());
+    }
 
     /// Takes what the demand needs; false when something is left to be done later.
     bool apply(const TapDemand& demand);
@@ -70,7 +75,7 @@ private:
 
     Hooks hooks_;
     X11Connection connection_;
-    std::optional<X11MasterDevices> masters_;
+    Result<X11MasterDevices, std::string> masters_;
     std::uint8_t inputOpcode_ = 0;
     xcb_window_t handle_ = 0;
     bool listensToReleases_ = false;
