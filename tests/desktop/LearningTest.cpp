@@ -106,7 +106,7 @@ TEST(Learning, outlivesBeingKilled)
     }
 }
 
-TEST(Learning, isOnDiskWithinATenthOfASecond)
+TEST(LearningInTime, isOnDiskWithinATenthOfASecond)
 {
     ProgramDesk desk;
     desk.applyRules({});

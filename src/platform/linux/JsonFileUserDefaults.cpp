@@ -10,7 +10,7 @@ namespace brindlex {
 namespace {
 
 /// Half of the time within which a change has to be on disk.
-constexpr Seconds writeDelay = 0.05;
+constexpr Seconds writeDelay = 0.03;
 constexpr Seconds firstRetryDelay = 1;
 constexpr Seconds longestRetryDelay = 60;
 /// How long an editor may take to put a new file in the place of the old one.

@@ -21,7 +21,7 @@ namespace brindlex {
 
 /// Preferences in a file that holds one JSON object and that other processes may read and write.
 ///
-/// All that is set within 50 ms is written together, on the queue, which is this object's own; the
+/// All that is set within 30 ms is written together, on the queue, which is this object's own; the
 /// main thread waits for the disk at construction, in `synchronize` and at destruction only. What
 /// another process writes is taken over under all keys but those that this process has set since
 /// and not written yet. A write that fails is repeated with the next change and by itself after 1

@@ -17,9 +17,9 @@ namespace {
 using Lines = std::vector<std::string>;
 
 /// A program that has taken all devices, on a desktop of its own.
-class InputUnderWatch : public testing::Test {
+class InputUnderWatchInTime : public testing::Test {
 protected:
-    InputUnderWatch()
+    InputUnderWatchInTime()
     {
         EXPECT_TRUE(eventually([this] { return says("ready\n"); }));
     }
@@ -103,7 +103,7 @@ protected:
         .output = desktop_.outputFolder() / "program"});
 };
 
-TEST_F(InputUnderWatch, comesBackFromAProgramThatIsStoppedInADrag)
+TEST_F(InputUnderWatchInTime, comesBackFromAProgramThatIsStoppedInADrag)
 {
     beginDrag();
     program_->signal(SIGSTOP);
@@ -120,7 +120,7 @@ TEST_F(InputUnderWatch, comesBackFromAProgramThatIsStoppedInADrag)
         << testing::PrintToString(window_.lines());
 }
 
-TEST_F(InputUnderWatch, isTappedAgainWhenTheProgramGoesOn)
+TEST_F(InputUnderWatchInTime, isTappedAgainWhenTheProgramGoesOn)
 {
     program_->signal(SIGSTOP);
     mouse_.move(1, 0);
@@ -131,7 +131,7 @@ TEST_F(InputUnderWatch, isTappedAgainWhenTheProgramGoesOn)
     EXPECT_TRUE(isTappedAgain());
 }
 
-TEST_F(InputUnderWatch, isTappedAgainWhenAHandlerHasHungForLong)
+TEST_F(InputUnderWatchInTime, isTappedAgainWhenAHandlerHasHungForLong)
 {
     beginDrag();
     mouse_.press(9);
@@ -144,7 +144,7 @@ TEST_F(InputUnderWatch, isTappedAgainWhenAHandlerHasHungForLong)
     EXPECT_TRUE(isTappedAgain());
 }
 
-TEST_F(InputUnderWatch, comesBackFromAHandlerThatHangs)
+TEST_F(InputUnderWatchInTime, comesBackFromAHandlerThatHangs)
 {
     beginDrag();
     mouse_.click(9);
@@ -155,7 +155,7 @@ TEST_F(InputUnderWatch, comesBackFromAHandlerThatHangs)
         << testing::PrintToString(window_.held());
 }
 
-TEST_F(InputUnderWatch, comesBackFromAProgramThatIsKilledInADrag)
+TEST_F(InputUnderWatchInTime, comesBackFromAProgramThatIsKilledInADrag)
 {
     beginDrag();
     program_->signal(SIGKILL);
@@ -166,7 +166,7 @@ TEST_F(InputUnderWatch, comesBackFromAProgramThatIsKilledInADrag)
         << testing::PrintToString(window_.held());
 }
 
-TEST_F(InputUnderWatch, leavesNoWatchdogBehind)
+TEST_F(InputUnderWatchInTime, leavesNoWatchdogBehind)
 {
     const auto processes = [this] { return processesWithVariable("HOME", desktop_.home()).size(); };
     // The server, the program and its watchdog.
