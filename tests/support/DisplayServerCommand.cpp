@@ -13,7 +13,8 @@ std::string configurationWithPlayedHardware(
         return "Section \"InputDevice\"\n  Identifier \"" + name
             + "\"\n  Driver \"inputtest\"\n  Option \"SocketPath\" \""
             + desktop.hardwareSocket(name).string() + "\"\n  Option \"DeviceType\" \"" + type
-            + "\"\n  Option \"PointerButtonCount\" \"12\"\nEndSection\n";
+            + "\"\n  Option \"PointerButtonCount\" \"" + std::to_string(options.mouseButtons)
+            + "\"\nEndSection\n";
     };
     return R"(Section "ServerFlags"
   Option "AutoAddDevices" "false"

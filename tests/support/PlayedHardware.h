@@ -35,7 +35,8 @@ private:
     FileHandle socket_;
 };
 
-/// A mouse with 12 buttons, counted as X counts them, and a wheel with fine steps.
+/// A mouse with as many buttons as the desktop was made with, counted as X counts them, and a wheel
+/// with fine steps.
 class PlayedMouse : public PlayedDevice {
 public:
     explicit PlayedMouse(const VirtualDesktop& desktop, const std::string& name = "mouse")

@@ -12,6 +12,7 @@
 
 #include <gtest/gtest.h>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace brindlex {
@@ -21,8 +22,9 @@ namespace brindlex {
 struct TappedDesktop {
     using Lines = std::vector<std::string>;
 
-    explicit TappedDesktop(EventLogWindow::Protocol protocol = EventLogWindow::Protocol::core)
-        : window(protocol)
+    explicit TappedDesktop(EventLogWindow::Protocol protocol = EventLogWindow::Protocol::core,
+        VirtualDesktop::Options options = {})
+        : desktop(tapped(std::move(options))), window(protocol)
     {
     }
 
@@ -56,9 +58,7 @@ struct TappedDesktop {
         return testing::AssertionFailure() << "arrived: " << testing::PrintToString(window.lines());
     }
 
-    VirtualDesktop desktop{{.windowManager = false,
-        .sessionBus = false,
-        .server = VirtualDesktop::Server::withPlayedHardware}};
+    VirtualDesktop desktop;
     PlayedMouse mouse{desktop};
     PlayedMouse secondMouse{desktop, "second-mouse"};
     PlayedKeyboard keyboard{desktop};
@@ -69,6 +69,15 @@ struct TappedDesktop {
     X11EventTapping tapping{stream};
     X11EventPosting posting{stream, mainThread, clock};
     Subscription second;
+
+private:
+    static VirtualDesktop::Options tapped(VirtualDesktop::Options options)
+    {
+        options.windowManager = false;
+        options.sessionBus = false;
+        options.server = VirtualDesktop::Server::withPlayedHardware;
+        return options;
+    }
 };
 
 } // namespace brindlex

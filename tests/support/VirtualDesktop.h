@@ -33,6 +33,8 @@ public:
         /// Whether programs started here offer themselves to assistive technology.
         bool accessibility = false;
         Server server = Server::withoutHardware;
+        /// What each mouse of the hardware has, counted as X counts them, the wheel included.
+        int mouseButtons = 12;
         /// An extension that the X server does not offer, such as "XTEST"; empty for none.
         std::string disabledExtension{};
     };

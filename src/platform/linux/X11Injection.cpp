@@ -15,7 +15,8 @@ std::int16_t coordinate(int value)
 
 } // namespace
 
-X11Injection::X11Injection(X11Connection& connection) : connection_(connection)
+X11Injection::X11Injection(X11Connection& connection)
+    : connection_(connection), lentButtons_(connection)
 {
     // What is played goes on while another program has the server for itself.
     xcb_test_grab_control(connection_.get(), true);
@@ -66,8 +67,15 @@ void X11Injection::play(Kind kind, std::uint8_t code, bool isPress)
     const int press = kind == Kind::key ? XCB_KEY_PRESS : XCB_BUTTON_PRESS;
     const int release = kind == Kind::key ? XCB_KEY_RELEASE : XCB_BUTTON_RELEASE;
     const int type = isPress ? press : release;
-    xcb_test_fake_input(connection_.get(), static_cast<std::uint8_t>(type), code, XCB_CURRENT_TIME,
-        XCB_WINDOW_NONE, 0, 0, 0);
+    const auto isDown = [this](std::uint8_t button) { return holds(Kind::button, button); };
+    const auto played
+        = kind == Kind::button ? lentButtons_.standIn(code, isDown) : std::optional(code);
+    if (!played)
+        return;
+    xcb_test_fake_input(connection_.get(), static_cast<std::uint8_t>(type), *played,
+        XCB_CURRENT_TIME, XCB_WINDOW_NONE, 0, 0, 0);
+    if (kind == Kind::button && !isPress)
+        lentButtons_.giveBack(code);
 }
 
 void X11Injection::playMotion(bool isRelative, int x, int y)

@@ -2,6 +2,7 @@
 
 #include "platform/PressLedger.h"
 #include "platform/linux/X11Connection.h"
+#include "platform/linux/X11LentButtons.h"
 
 #include <cstdint>
 #include <map>
@@ -16,6 +17,9 @@ public:
     using Kind = PressLedger::Kind;
 
     explicit X11Injection(X11Connection& connection);
+
+    /// The pointer on which XTEST plays; without it buttons beyond the tenth are lost.
+    void setPointer(std::uint16_t pointer) { lentButtons_.setPointer(pointer); }
 
     /// A button or key that several hold is down until the last of them lets go.
     void press(Kind kind, std::uint8_t code);
@@ -44,6 +48,7 @@ private:
 
     X11Connection& connection_;
     std::map<std::pair<Kind, std::uint8_t>, int> held_;
+    X11LentButtons lentButtons_;
 };
 
 } // namespace brindlex

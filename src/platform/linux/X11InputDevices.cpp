@@ -42,6 +42,17 @@ bool isForTests(const xcb_input_xi_device_info_t& device)
     return nameOf(device).find("XTEST") != std::string_view::npos;
 }
 
+/// The device of the type that XTEST plays on for the master; 0 when there is none.
+std::uint16_t playingDevice(X11Connection& connection, std::uint16_t type, std::uint16_t master)
+{
+    std::uint16_t playing = 0;
+    forEachDevice(queryDevices(connection), [&](const xcb_input_xi_device_info_t& device) {
+        if (isForTests(device) && device.type == type && device.attachment == master)
+            playing = device.deviceid;
+    });
+    return playing;
+}
+
 bool isAbsolute(const xcb_input_xi_device_info_t& device)
 {
     auto classes = xcb_input_xi_device_info_classes_iterator(&device);
@@ -135,13 +146,12 @@ std::vector<X11InputDevice> tappableDevices(X11Connection& connection, X11Master
 
 std::uint16_t playingKeyboard(X11Connection& connection, X11MasterDevices masters)
 {
-    std::uint16_t keyboard = 0;
-    forEachDevice(queryDevices(connection), [&](const xcb_input_xi_device_info_t& device) {
-        if (isForTests(device) && device.type == XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD
-            && device.attachment == masters.keyboard)
-            keyboard = device.deviceid;
-    });
-    return keyboard;
+    return playingDevice(connection, XCB_INPUT_DEVICE_TYPE_SLAVE_KEYBOARD, masters.keyboard);
+}
+
+std::uint16_t playingPointer(X11Connection& connection, X11MasterDevices masters)
+{
+    return playingDevice(connection, XCB_INPUT_DEVICE_TYPE_SLAVE_POINTER, masters.pointer);
 }
 
 std::vector<std::uint8_t> keysHeldByHand(

@@ -44,6 +44,9 @@ std::vector<X11InputDevice> tappableDevices(X11Connection& connection, X11Master
 /// The keyboard on which XTEST plays for the masters; 0 when there is none.
 std::uint16_t playingKeyboard(X11Connection& connection, X11MasterDevices masters);
 
+/// The pointer on which XTEST plays for the masters; 0 when there is none.
+std::uint16_t playingPointer(X11Connection& connection, X11MasterDevices masters);
+
 /// The keys that are down on any keyboard that is plugged in, whoever holds it now.
 std::vector<std::uint8_t> keysHeldByHand(
     X11Connection& connection, const std::vector<X11InputDevice>& devices);

@@ -23,6 +23,7 @@ X11TapSession::X11TapSession(const std::string& display, TapChain& taps, Hooks h
     if (!isUsable())
         return;
     inputOpcode_ = xcb_get_extension_data(connection_.get(), &xcb_input_id)->major_opcode;
+    injection_.setPointer(playingPointer(connection_, *masters_));
     makeHandle();
     selectEvents(false);
     findDevices();
