@@ -6,6 +6,7 @@
 #include "platform/linux/WheelTicks.h"
 #include "platform/posix/PosixClock.h"
 
+#include <algorithm>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
@@ -21,13 +22,14 @@ using Clock = std::chrono::steady_clock;
 constexpr int notchesOfTurn = 20;
 constexpr Seconds timeOfNotch = 0.005;
 
-/// What the program takes as the frames of the screen.
+/// How often the program makes a step: with the frames of the screen, and at most 60 times.
 double framesPerSecond()
 {
     QtMainThread mainThread;
     const PosixClock clock;
     X11Connection connection;
-    return RandRDisplayLink(connection, mainThread, clock).maximumFramesPerSecond().value_or(60);
+    const RandRDisplayLink screen(connection, mainThread, clock);
+    return std::min(60.0, screen.maximumFramesPerSecond().value_or(60));
 }
 
 /// How many notches the smooth motion of one turn posts in all, by its own arithmetic, when all
@@ -100,7 +102,7 @@ void measureScrolls(const std::string& name, const MouseDesk& desk, const Target
 void measureSmoothness(MouseDesk& desk, const TargetWindow& target)
 {
     printHeading("one smooth scroll of 20 notches");
-    std::printf("%-52s %9.3f\n", "a frame of the screen, ms", 1000 / framesPerSecond());
+    std::printf("%-52s %9.3f\n", "from step to step, ms", 1000 / framesPerSecond());
     desk.start(smoothWheel());
     measureScrolls("idle", desk, target);
     {
