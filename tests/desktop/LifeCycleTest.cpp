@@ -1,7 +1,6 @@
 #include "desktop/ProgramDesk.h"
 #include "support/BusConnection.h"
 #include "support/BusSignals.h"
-#include "support/ProcessTable.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -147,12 +146,6 @@ TEST(LifeCycle, goesOnWithoutTheSessionBusThatWentAway)
     RunningProgram program(desk.desktop);
     ASSERT_TRUE(program.launches()) << program.report();
 
-    // The window library asks the bus something as its loop begins, and waits for the answer.
-    ASSERT_TRUE(eventually([&] {
-        const auto before = timesAsleep(program.process());
-        return before
-            && throughout(200ms, [&] { return timesAsleep(program.process()) == before; });
-    }));
     desk.desktop.endSessionBus();
     const TypingWindow alpha(desk.windows, "Alpha");
     ASSERT_TRUE(desk.windows.activate(alpha.window()));

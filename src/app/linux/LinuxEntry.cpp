@@ -120,7 +120,9 @@ int runOnDesktop(char* programName, Clock& clock, XdgUserFolders& userFolders,
     Subscription warmUp;
     if (lifecycle.isStarted())
         warmUp = platform.mainThread.after(warmUpDelay, [&] { getReadyForLater(linuxPlatform); });
-    const int status = QGuiApplication::exec();
+    // The loop alone: what the window library does beside it first is to ask the session bus for
+    // screen readers, and it waits for ever for a bus that ends in that moment.
+    const int status = QCoreApplication::exec();
     ending.end();
     return status;
 }
