@@ -66,6 +66,12 @@ std::string FcitxDaemon::current() const
     return BusConnection().call(name, path, interface, "CurrentInputMethod").text();
 }
 
+bool FcitxDaemon::servesAWindow() const
+{
+    return BusConnection().call(name, path, interface, "DebugInfo").text().find("focus:1")
+        != std::string::npos;
+}
+
 bool FcitxDaemon::select(const std::string& inputMethod)
 {
     // While no window has the keyboard yet, the daemon says yes and does nothing.

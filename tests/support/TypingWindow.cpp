@@ -6,6 +6,10 @@
 namespace brindlex {
 namespace {
 
+using namespace std::chrono_literals;
+
+constexpr int mostTerminals = 3;
+
 ChildProcess::Start terminal(const std::string& className, const std::vector<std::string>& options,
     const std::filesystem::path& folder)
 {
@@ -25,28 +29,37 @@ ChildProcess::Start terminal(const std::string& className, const std::vector<std
 
 TypingWindow::TypingWindow(const DesktopWindows& windows, const std::string& className,
     const std::vector<std::string>& terminalOptions)
-    : file_(folder_.path() / "typed")
+    : windows_(windows), className_(className), terminalOptions_(terminalOptions),
+      file_(folder_.path() / "typed")
 {
+    open();
+}
+
+void TypingWindow::open()
+{
+    const auto ready = folder_.path() / "ready";
     const auto isReady = [&] {
-        const auto found = windows.withClass(className);
-        if (!found || !windows.isOnScreen(*found)
-            || !std::filesystem::exists(folder_.path() / "ready"))
+        const auto found = windows_.withClass(className_);
+        if (!found || !windows_.isOnScreen(*found) || !std::filesystem::exists(ready))
             return false;
         window_ = *found;
         return true;
     };
     // Now and then a terminal waits for ever for Fcitx to answer it; another one does not.
     bool isOpen = false;
-    for (int attempt = 0; attempt < 3 && !isOpen; ++attempt) {
+    for (int attempt = 0; attempt < mostTerminals && !isOpen; ++attempt) {
         terminal_.reset();
-        terminal_
-            = std::make_unique<ChildProcess>(terminal(className, terminalOptions, folder_.path()));
+        std::filesystem::remove(ready);
+        std::filesystem::remove(file_);
+        forgotten_ = 0;
+        terminal_ = std::make_unique<ChildProcess>(
+            terminal(className_, terminalOptions_, folder_.path()));
         isOpen = eventually(isReady);
     }
     if (!isOpen)
-        fatalError("The terminal " + className + " did not open.\n" + terminal_->output());
-    if (!windows.activate(window_))
-        fatalError("The terminal " + className + " did not come to the front.");
+        fatalError("The terminal " + className_ + " did not open.\n" + terminal_->output());
+    if (!windows_.activate(window_))
+        fatalError("The terminal " + className_ + " did not come to the front.");
 }
 
 std::string TypingWindow::text() const { return contentOf(file_).substr(forgotten_); }
@@ -54,6 +67,26 @@ std::string TypingWindow::text() const { return contentOf(file_).substr(forgotte
 bool TypingWindow::receives(const std::string& text) const
 {
     return eventually([&] { return this->text() == text; });
+}
+
+bool TypingWindow::receives(const std::string& text, const PlayedInput& input,
+    std::string_view keys, const std::function<bool()>& isReady)
+{
+    for (int attempt = 0; attempt < mostTerminals; ++attempt) {
+        if (attempt > 0) {
+            terminal_.reset();
+            if (!eventually([&] { return !windows_.withClass(className_); }))
+                fatalError("The terminal " + className_ + " did not go away.");
+            open();
+        }
+        forget();
+        if (!isReady())
+            return false;
+        input.type(keys);
+        if (eventually([&] { return this->text() == text; }, 5s))
+            return true;
+    }
+    return false;
 }
 
 } // namespace brindlex

@@ -2,10 +2,13 @@
 
 #include "support/ChildProcess.h"
 #include "support/DesktopWindows.h"
+#include "support/PlayedInput.h"
 #include "support/TemporaryFolder.h"
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace brindlex {
@@ -28,7 +31,18 @@ public:
     /// Waits until exactly this has arrived.
     bool receives(const std::string& text) const;
 
+    /// Types the keys and waits until exactly this has arrived; `isReady` waits until the daemon
+    /// looks after the window. Now and then a terminal and Fcitx wait for each other for ever when
+    /// keys come fast: then the terminal is opened anew and all is done again.
+    bool receives(const std::string& text, const PlayedInput& input, std::string_view keys,
+        const std::function<bool()>& isReady);
+
 private:
+    void open();
+
+    const DesktopWindows& windows_;
+    std::string className_;
+    std::vector<std::string> terminalOptions_;
     TemporaryFolder folder_;
     std::filesystem::path file_;
     std::size_t forgotten_ = 0;

@@ -22,10 +22,9 @@ void expectChinese(const VirtualDesktop& desktop, Daemon& daemon, const std::str
     TypingWindow window(windows, "Alpha");
     ASSERT_TRUE(windows.activate(window.window()));
 
-    ASSERT_TRUE(daemon.select(pinyin));
-    EXPECT_EQ(daemon.current(), pinyin);
-    input.type("nihao ");
-    EXPECT_TRUE(window.receives("你好")) << window.text() << desktop.output();
+    const auto selectsPinyin = [&] { return daemon.select(pinyin) && daemon.current() == pinyin; };
+    EXPECT_TRUE(window.receives("你好", input, "nihao ", selectsPinyin))
+        << window.text() << desktop.output();
 
     window.forget();
     ASSERT_TRUE(daemon.select(keyboard));

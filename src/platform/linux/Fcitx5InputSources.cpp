@@ -3,6 +3,7 @@
 #include "app/Log.h"
 #include "foundation/Text.h"
 #include "platform/InputSourceIdentifiers.h"
+#include "platform/linux/Fcitx5Contexts.h"
 #include "platform/linux/Fcitx5Method.h"
 
 #include <algorithm>
@@ -20,13 +21,25 @@ constexpr auto controllerInterface = "org.fcitx.Fcitx.Controller1";
 
 constexpr int callLimitMilliseconds = 5000;
 constexpr auto pollInterval = 222ms;
-constexpr auto recheckDelay = 100ms;
+constexpr auto firstLookDelay = 100ms;
 /// An answer takes 0.2 ms, a selection 1 to 3 ms; a daemon that hangs must not hold us up.
 constexpr auto answerWait = 20ms;
 constexpr auto selectionWait = 30ms;
 constexpr auto freshFor = 50ms;
 
 bool isError(const QDBusMessage& reply) { return reply.type() == QDBusMessage::ErrorMessage; }
+
+/// Empty also for a reply that is no text.
+QString textOf(const QDBusMessage& reply)
+{
+    return reply.arguments().isEmpty() ? QString() : reply.arguments().first().toString();
+}
+
+/// Empty as long as there is no reply.
+QString focusedContext(const QDBusPendingCall& debugInfo)
+{
+    return debugInfo.isFinished() ? fcitx5FocusedContext(textOf(debugInfo.reply())) : QString();
+}
 
 } // namespace
 
@@ -39,13 +52,13 @@ Fcitx5InputSources::Fcitx5InputSources(
         QStringList(), [this](const QDBusMessage&) { readGroup(doNotWait); }));
     signals_.push_back(std::make_unique<DBusSignal>(bus_, QStringLiteral("/StatusNotifierItem"),
         QStringLiteral("org.kde.StatusNotifierItem"), QStringLiteral("NewIcon"), QStringList(),
-        [this](const QDBusMessage&) { readCurrent(doNotWait); }));
+        [this](const QDBusMessage&) { ask(); }));
 
     poll_.setInterval(pollInterval);
-    QObject::connect(&poll_, &QTimer::timeout, &context_, [this] { readCurrent(doNotWait); });
-    recheck_.setSingleShot(true);
-    recheck_.setInterval(recheckDelay);
-    QObject::connect(&recheck_, &QTimer::timeout, &context_, [this] { checkAgain(); });
+    QObject::connect(&poll_, &QTimer::timeout, &context_, [this] { ask(); });
+    firstLook_.setSingleShot(true);
+    firstLook_.setInterval(firstLookDelay);
+    QObject::connect(&firstLook_, &QTimer::timeout, &context_, [this] { look(); });
 
     readGroup(deadline);
     readCurrent(deadline);
@@ -54,8 +67,8 @@ Fcitx5InputSources::Fcitx5InputSources(
 
 std::optional<std::string> Fcitx5InputSources::current()
 {
-    if (target_)
-        return sourceOf(*target_);
+    if (wish_)
+        return sourceOf(wish_->method);
     if (Clock::now() - readAt_ > freshFor)
         readCurrent(Clock::now() + answerWait);
     if (!method_)
@@ -73,25 +86,33 @@ SelectionStatus Fcitx5InputSources::select(const std::string& id)
         return SelectionStatus::unknownSource;
     const auto method = methods_[static_cast<std::size_t>(found - sources_.begin())];
 
+    // The daemon answers in this order.
+    const auto contexts = call("DebugInfo");
     call("SetCurrentIM", {QString::fromStdString(method)});
     const int question = ++question_;
     const auto pending = call("CurrentInputMethod");
-    target_ = method;
-    recheck_.stop();
+    wish_ = Wish{method};
+    firstLook_.stop();
+    const int selection = ++selection_;
     if (!waitForAnswer(pending, Clock::now() + selectionWait)) {
-        whenAnswered(pending, doNotWait, &context_,
-            [this, selection = ++selection_](const QDBusMessage&) { recheck(selection); });
+        whenAnswered(
+            pending, doNotWait, &context_, [this, selection, contexts](const QDBusMessage&) {
+                if (selection == selection_ && wish_)
+                    wish_->context = focusedContext(contexts);
+                lookSoon(selection);
+            });
         return SelectionStatus::done;
     }
+    wish_->context = focusedContext(contexts);
     const auto reply = pending.reply();
     if (question == question_)
         takeCurrent(reply);
-    if (!isError(reply) && method_ == method) {
-        recheck(++selection_);
+    // Without any window that types through the daemon nothing is selected; the next one gets it.
+    if (!isError(reply) && (!method_ || method_ == method)) {
+        lookSoon(selection);
         return SelectionStatus::done;
     }
-    ++selection_;
-    target_.reset();
+    wish_.reset();
     return isError(reply) ? SelectionStatus::notConnected : SelectionStatus::refused;
 }
 
@@ -178,7 +199,11 @@ void Fcitx5InputSources::takeCurrent(const QDBusMessage& reply)
         fail(reply);
         return;
     }
-    const auto method = reply.arguments().first().toString().toStdString();
+    setCurrent(textOf(reply).toStdString());
+}
+
+void Fcitx5InputSources::setCurrent(const std::string& method)
+{
     readAt_ = Clock::now();
     const bool isNew = !hasCurrent_ || method_ != method;
     hasCurrent_ = true;
@@ -188,25 +213,50 @@ void Fcitx5InputSources::takeCurrent(const QDBusMessage& reply)
         notify();
 }
 
-void Fcitx5InputSources::recheck(int selection)
+void Fcitx5InputSources::ask()
 {
-    if (selection == selection_)
-        recheck_.start();
+    if (wish_)
+        look();
+    else
+        readCurrent(doNotWait);
 }
 
-void Fcitx5InputSources::checkAgain()
+void Fcitx5InputSources::lookSoon(int selection)
 {
-    whenAnswered(call("CurrentInputMethod"), doNotWait, &context_,
-        [this, selection = selection_](const QDBusMessage& reply) {
-            if (selection != selection_)
-                return;
-            const bool hasMissed = !isError(reply) && !reply.arguments().isEmpty()
-                && reply.arguments().first().toString().toStdString() != *target_;
-            if (hasMissed)
-                call("SetCurrentIM", {QString::fromStdString(*target_)});
-            target_.reset();
-            readCurrent(doNotWait);
+    if (selection == selection_)
+        firstLook_.start();
+}
+
+void Fcitx5InputSources::look()
+{
+    if (!wish_ || std::exchange(isLooking_, true))
+        return;
+    const auto before = call("DebugInfo");
+    const auto current = call("CurrentInputMethod");
+    whenAnswered(call("DebugInfo"), doNotWait, &context_,
+        [this, before, current, selection = selection_](const QDBusMessage& after) {
+            isLooking_ = false;
+            const auto context = focusedContext(before);
+            // While the keyboard moves, nobody knows whose method was told.
+            if (selection == selection_ && wish_ && current.isFinished() && !current.isError()
+                && context == fcitx5FocusedContext(textOf(after)))
+                judge(textOf(current.reply()).toStdString(), context);
         });
+}
+
+void Fcitx5InputSources::judge(const std::string& method, const QString& context)
+{
+    const bool hasMissed
+        = method != wish_->method && !context.isEmpty() && context != wish_->context;
+    const bool isWaiting = context.isEmpty() && (method.empty() || method == wish_->method);
+    if (hasMissed) {
+        wish_->context = context;
+        call("SetCurrentIM", {QString::fromStdString(wish_->method)});
+    } else if (!isWaiting) {
+        wish_.reset();
+        setCurrent(method);
+        notify();
+    }
 }
 
 void Fcitx5InputSources::fail(const QDBusMessage& reply)

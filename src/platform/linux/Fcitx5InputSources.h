@@ -20,9 +20,13 @@ namespace brindlex {
 /// The input methods of the current group of the Fcitx 5 daemon as input sources.
 ///
 /// Fcitx tells of no change: what is selected is asked for 4.5 times a second, at once when its
-/// tray item changes, and by `current` when the last answer is older than 50 ms. A selection is
-/// read back, and once more 100 ms later: a window that just got the focus may have missed it,
-/// which is then repeated once.
+/// tray item changes, and by `current` when the last answer is older than 50 ms.
+///
+/// A selection goes to the input context of the window that has the keyboard, and each window may
+/// have a method of its own. A window that has just come to the front may get the keyboard only
+/// later, when its program has found the time. So a selection is looked at 100 ms later and then
+/// with each question, until a window has the keyboard: one that missed it is given it, once. What
+/// else is selected meanwhile is the choice of the user.
 class Fcitx5InputSources final : public InputSourceBackend {
 public:
     /// Asks the daemon what it has; waits for that until the deadline and goes on from the loop.
@@ -41,6 +45,11 @@ public:
 
 private:
     using Clock = std::chrono::steady_clock;
+    struct Wish {
+        std::string method{};
+        /// The input context that had the keyboard when it was selected; empty for none.
+        QString context{};
+    };
 
     QDBusPendingCall call(const char* member, const QVariantList& arguments = {}) const;
     void readGroup(DBusDeadline deadline);
@@ -48,11 +57,14 @@ private:
     void setMethods(const QStringList& enabled, const QDBusMessage& available);
     void readCurrent(DBusDeadline deadline);
     void takeCurrent(const QDBusMessage& reply);
-    /// Has a look a moment after the daemon has answered, unless another selection came since. The
-    /// window in front may have got its keyboard only then, and a selection before it went to the
-    /// window before. An engine that has to be started keeps the daemon from both for a while.
-    void recheck(int selection);
-    void checkAgain();
+    void setCurrent(const std::string& method);
+    void ask();
+    /// Looks a moment after the daemon has answered, unless another selection came since: an engine
+    /// that has to be started keeps the daemon from giving anybody the keyboard.
+    void lookSoon(int selection);
+    void look();
+    /// What has become of the wish; `context` has the keyboard, nobody when that is empty.
+    void judge(const std::string& method, const QString& context);
     void fail(const QDBusMessage& reply);
     std::optional<std::string> sourceOf(const std::string& method) const;
 
@@ -61,18 +73,19 @@ private:
     QObject context_;
     std::vector<std::unique_ptr<DBusSignal>> signals_;
     QTimer poll_;
-    QTimer recheck_;
+    QTimer firstLook_;
     /// In the same order.
     std::vector<std::string> methods_;
     std::vector<InputSource> sources_;
     std::optional<std::string> method_;
     Clock::time_point readAt_{};
-    /// The input method selected by this program until it is sure that it stays.
-    std::optional<std::string> target_;
+    /// The selection by this program until it is sure that it stays.
+    std::optional<Wish> wish_;
     /// The number of the last selection, and of the last question for the current method.
     int selection_ = 0;
     int question_ = 0;
     bool isAsking_ = false;
+    bool isLooking_ = false;
     bool hasMethods_ = false;
     bool hasCurrent_ = false;
     std::string problem_;

@@ -2,6 +2,7 @@
 
 #include "support/DesktopWindows.h"
 #include "support/FcitxDaemon.h"
+#include "support/PlainWindow.h"
 #include "support/SessionBus.h"
 #include "support/TypingWindow.h"
 
@@ -67,6 +68,87 @@ TEST(DesktopInputSources, goesOnWithTheServersGroupsWhenTheBusEnds)
     desktop.setKeyboardLayouts("us,de");
     EXPECT_TRUE(loopUntil([&] { return selectID(sources, "xkb:de::deu") == 0; }));
     EXPECT_EQ(currentID(sources), "xkb:de::deu");
+}
+
+/// A user of Fcitx whose windows have a method of their own each, as is usual.
+class InputSourcesOfFcitx : public testing::Test {
+protected:
+    InputSourcesOfFcitx() { EXPECT_TRUE(becomes(sources_, "Fcitx 5")); }
+
+    /// Brings a window to the front that does not type through Fcitx.
+    void showPicture()
+    {
+        picture_.emplace(server_, PlainWindow::Claims{.wmClass = wmClass("Picture")});
+        EXPECT_TRUE(windows_.activate(picture_->window()));
+    }
+    bool comesTo(const std::string& id)
+    {
+        return loopUntil([&] { return currentID(sources_) == id; });
+    }
+
+    VirtualDesktop desktop_;
+    FcitxDaemon daemon_{desktop_, fcitxMethods};
+    XConnection server_;
+    DesktopWindows windows_{server_};
+    std::optional<PlainWindow> picture_;
+    SessionBus bus_;
+    X11Connection connection_;
+    DesktopInputSources sources_{connection_, bus_.get()};
+};
+
+TEST_F(InputSourcesOfFcitx, giveTheSelectionToTheFirstWindowThatTypes)
+{
+    ASSERT_EQ(daemon_.current(), "");
+    EXPECT_EQ(selectID(sources_, "fcitx5:pinyin"), 0);
+    EXPECT_EQ(currentID(sources_), "fcitx5:pinyin");
+
+    const TypingWindow window(windows_, "Typing");
+    EXPECT_TRUE(
+        loopUntil([&] { return daemon_.servesAWindow() && daemon_.current() == "pinyin"; }));
+}
+
+TEST_F(InputSourcesOfFcitx, giveTheSelectionToAWindowThatGetsTheKeyboardLater)
+{
+    const TypingWindow before(windows_, "Before");
+    EXPECT_TRUE(comesTo("xkb:us::eng"));
+    showPicture();
+    int told = 0;
+    const auto subscription = sources_.observeSelectionChanges([&] { ++told; });
+    EXPECT_EQ(selectID(sources_, "fcitx5:pinyin"), 0);
+    EXPECT_TRUE(loopUntil([&] { return told == 1; }));
+    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{500}, [&] { return told == 1; }));
+
+    const TypingWindow window(windows_, "Typing");
+    EXPECT_TRUE(
+        loopUntil([&] { return daemon_.servesAWindow() && daemon_.current() == "pinyin"; }));
+    EXPECT_EQ(told, 1);
+    EXPECT_EQ(currentID(sources_), "fcitx5:pinyin");
+}
+
+TEST_F(InputSourcesOfFcitx, giveTheSelectionToOneWindowOnly)
+{
+    const TypingWindow window(windows_, "Typing");
+    EXPECT_TRUE(comesTo("xkb:us::eng"));
+    EXPECT_EQ(selectID(sources_, "fcitx5:pinyin"), 0);
+    EXPECT_TRUE(loopUntil([&] { return daemon_.current() == "pinyin"; }));
+    EXPECT_TRUE(loopThroughout(
+        std::chrono::milliseconds{500}, [&] { return currentID(sources_) == "fcitx5:pinyin"; }));
+
+    const TypingWindow another(windows_, "Another");
+    EXPECT_TRUE(comesTo("xkb:us::eng"));
+    EXPECT_EQ(daemon_.current(), "keyboard-us");
+}
+
+TEST_F(InputSourcesOfFcitx, leaveTheUserTheChoiceRightAfterASelection)
+{
+    const TypingWindow window(windows_, "Typing");
+    EXPECT_TRUE(comesTo("xkb:us::eng"));
+    EXPECT_EQ(selectID(sources_, "fcitx5:pinyin"), 0);
+    EXPECT_TRUE(daemon_.select("keyboard-us"));
+    EXPECT_TRUE(comesTo("xkb:us::eng"));
+    EXPECT_TRUE(loopThroughout(
+        std::chrono::milliseconds{500}, [&] { return currentID(sources_) == "xkb:us::eng"; }));
+    EXPECT_EQ(daemon_.current(), "keyboard-us");
 }
 
 } // namespace
