@@ -1,7 +1,6 @@
 #include "platform/EventPermissions.h"
 
 #include "platform/linux/X11EventPermissions.h"
-#include "platform/posix/PosixClock.h"
 #include "platform/simulated/SimulatedEventPermissions.h"
 #include "platform/simulated/SimulatedMainThread.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
@@ -41,11 +40,10 @@ private:
     void set(const std::string& key, bool allows) { defaults_.set(key, allows); }
 
     VirtualDesktop desktop_{{.windowManager = false, .sessionBus = false}};
-    PosixClock clock_;
     SimulatedClock time_;
     SimulatedMainThread mainThread_{time_};
     SimulatedUserDefaults defaults_;
-    X11InputStream stream_{mainThread_, clock_};
+    X11InputStream stream_{mainThread_};
     X11EventPermissions permissions_{stream_, defaults_};
 };
 

@@ -1,5 +1,8 @@
 #include "platform/EventTappingFixture.h"
 
+#include <chrono>
+#include <thread>
+
 namespace brindlex {
 namespace {
 
@@ -26,6 +29,23 @@ TYPED_TEST(EventTappingPromise, handsOnOnceAndInOrderWhatPasses)
 TYPED_TEST(EventTappingPromise, keepsWhatIsSwallowedFromTheApplications)
 {
     this->tap({this->button(3)}, EventVerdict::swallow);
+
+    this->session_.press(3);
+    this->session_.release(3);
+    this->session_.press(4);
+    this->session_.release(4);
+
+    EXPECT_TRUE(this->session_.receives({"press 9", "release 9"}));
+    EXPECT_EQ(this->seen_, (Lines{"25 3", "26 3"}));
+}
+
+TYPED_TEST(EventTappingPromise, keepsAlsoWhatIsSwallowedLate)
+{
+    this->verdictOf_ = [](const Event&) {
+        std::this_thread::sleep_for(std::chrono::milliseconds{200});
+        return EventVerdict::swallow;
+    };
+    this->tap({this->button(3)});
 
     this->session_.press(3);
     this->session_.release(3);

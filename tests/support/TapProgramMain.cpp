@@ -4,7 +4,6 @@
 #include "platform/linux/X11EventPermissions.h"
 #include "platform/linux/X11EventTapping.h"
 #include "platform/linux/X11InputStream.h"
-#include "platform/posix/PosixClock.h"
 #include "platform/simulated/SimulatedProgramActivation.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 
@@ -79,8 +78,7 @@ int main(int count, char** arguments)
     const QCoreApplication application(count, arguments);
     Log::install(std::make_shared<PrintedLog>());
     QtMainThread mainThread;
-    const PosixClock clock;
-    X11InputStream stream(mainThread, clock);
+    X11InputStream stream(mainThread);
     X11EventTapping tapping(stream);
     SimulatedUserDefaults defaults;
     X11EventPermissions permissions(stream, defaults);

@@ -65,7 +65,7 @@ struct TappedDesktop {
     EventLogWindow window;
     QtMainThread mainThread;
     PosixClock clock;
-    X11InputStream stream{mainThread, clock};
+    X11InputStream stream{mainThread};
     X11EventTapping tapping{stream};
     X11EventPosting posting{stream, mainThread, clock};
     Subscription second;

@@ -18,7 +18,7 @@ LinuxPlatform::LinuxPlatform(
       applications_(display_, activeWindow_, desktopEntries_), bundles_(desktopEntries_),
       inputSources_(display_, sessionBus_.connection()), browserQueue_("Brindlex.AX"),
       browserPages_(mainThread_, clock, browserQueue_, [this] { return activeWindow_.current(); }),
-      overlayPanel_(display_), input_(mainThread_, clock), eventPermissions_(input_, defaults_),
+      overlayPanel_(display_), input_(mainThread_), eventPermissions_(input_, defaults_),
       eventTapping_(input_), eventPosting_(input_, mainThread_, clock),
       displayLink_(display_, mainThread_, clock), cursor_(display_), elementQueue_("Brindlex.Elem"),
       accessibility_(display_, elementQueue_), windows_(display_), processes_(mainThread_),

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Clock.h"
 #include "platform/EventTap.h"
 
 #include <functional>
@@ -13,11 +12,7 @@ namespace brindlex {
 /// swallows an event keeps it from those behind it. The chain outlives its taps. Main thread only.
 class TapChain {
 public:
-    /// The user feels an input that hesitates, and one that is lost even more: an answer that took
-    /// longer than this lets the event pass.
-    static constexpr Seconds patience = 0.15;
-
-    explicit TapChain(const Clock& clock) : clock_(clock) { }
+    TapChain() = default;
     ~TapChain();
     TapChain(const TapChain&) = delete;
     TapChain& operator=(const TapChain&) = delete;
@@ -32,7 +27,8 @@ public:
     /// What the taps that are switched on want.
     std::vector<EventInterest> interests() const;
 
-    /// Shows the event to the taps.
+    /// Shows the event to the taps. The verdict counts however late it comes: who swallows acts on
+    /// it, and an event that passed nevertheless would be acted on twice.
     EventVerdict offer(const Event& event) const;
 
     /// Whether an event is being shown at this moment.
@@ -44,7 +40,6 @@ public:
 private:
     class Tap;
 
-    const Clock& clock_;
     std::vector<Tap*> taps_;
     mutable bool isOffering_ = false;
 };

@@ -13,8 +13,8 @@ constexpr Seconds timeToReconnect = 1;
 
 } // namespace
 
-X11InputStream::X11InputStream(MainThread& mainThread, const Clock& clock, Options options)
-    : mainThread_(mainThread), options_(std::move(options)), taps_(clock),
+X11InputStream::X11InputStream(MainThread& mainThread, Options options)
+    : mainThread_(mainThread), options_(std::move(options)),
       watchdog_(options_.watchdog, options_.display)
 {
 }

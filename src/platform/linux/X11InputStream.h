@@ -29,11 +29,8 @@ public:
         std::filesystem::path watchdog = TapWatchdog::besideThisProgram();
     };
 
-    X11InputStream(MainThread& mainThread, const Clock& clock, Options options);
-    X11InputStream(MainThread& mainThread, const Clock& clock)
-        : X11InputStream(mainThread, clock, Options{})
-    {
-    }
+    X11InputStream(MainThread& mainThread, Options options);
+    explicit X11InputStream(MainThread& mainThread) : X11InputStream(mainThread, Options{}) { }
     ~X11InputStream();
 
     TapChain& taps() { return taps_; }

@@ -1,7 +1,5 @@
 #include "platform/linux/TapChain.h"
 
-#include "platform/simulated/SimulatedClock.h"
-
 #include <gtest/gtest.h>
 #include <string>
 
@@ -26,8 +24,7 @@ protected:
         return tap;
     }
 
-    SimulatedClock clock_;
-    TapChain chain_{clock_};
+    TapChain chain_;
     std::string seen_;
     int changes_ = 0;
 };
@@ -48,34 +45,6 @@ TEST_F(TapChainTest, endsWithTheTapThatSwallows)
 
     EXPECT_EQ(chain_.offer(keyDown), EventVerdict::swallow);
     EXPECT_EQ(seen_, "b");
-}
-
-TEST_F(TapChainTest, letsAnEventPassThatWasHeldUpTooLong)
-{
-    const auto slow = chain_.add(
-        keys, {},
-        [this](const Event&) {
-            clock_.advance(0.151);
-            return EventVerdict::swallow;
-        },
-        [] {});
-    slow->setEnabled(true);
-
-    EXPECT_EQ(chain_.offer(keyDown), EventVerdict::pass);
-}
-
-TEST_F(TapChainTest, bearsWithAHandlerThatTakesAMoment)
-{
-    const auto slow = chain_.add(
-        keys, {},
-        [this](const Event&) {
-            clock_.advance(0.149);
-            return EventVerdict::swallow;
-        },
-        [] {});
-    slow->setEnabled(true);
-
-    EXPECT_EQ(chain_.offer(keyDown), EventVerdict::swallow);
 }
 
 TEST_F(TapChainTest, tellsOfEveryChangeOfWhatIsWanted)

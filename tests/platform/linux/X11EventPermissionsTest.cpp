@@ -2,7 +2,6 @@
 
 #include "platform/linux/QtMainThread.h"
 #include "platform/linux/X11EventTapping.h"
-#include "platform/posix/PosixClock.h"
 #include "platform/simulated/SimulatedMainThread.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "support/LoopUntil.h"
@@ -22,7 +21,7 @@ TEST(X11EventPermissions, areMissingWithoutAServer)
     SimulatedClock time;
     SimulatedMainThread mainThread(time);
     SimulatedUserDefaults defaults;
-    X11InputStream stream(mainThread, time);
+    X11InputStream stream(mainThread);
     X11EventPermissions permissions(stream, defaults);
 
     EXPECT_EQ(EventPermissionState::ask(permissions), (EventPermissionState{false, false}));
@@ -32,9 +31,8 @@ TEST(X11EventPermissions, areKeptWhileAConnectionThatWasCutIsMadeAnew)
 {
     VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
     QtMainThread mainThread;
-    const PosixClock clock;
     SimulatedUserDefaults defaults;
-    X11InputStream stream(mainThread, clock);
+    X11InputStream stream(mainThread);
     X11EventPermissions permissions(stream, defaults);
     X11EventTapping tapping(stream);
     ASSERT_EQ(EventPermissionState::ask(permissions), (EventPermissionState{true, true}));
@@ -54,7 +52,7 @@ TEST(X11EventPermissions, areMissingOnAServerOnWhichNothingCanBePlayed)
     SimulatedClock time;
     SimulatedMainThread mainThread(time);
     SimulatedUserDefaults defaults;
-    X11InputStream stream(mainThread, time);
+    X11InputStream stream(mainThread);
     X11EventPermissions permissions(stream, defaults);
 
     EXPECT_EQ(EventPermissionState::ask(permissions), (EventPermissionState{false, false}));
@@ -66,7 +64,7 @@ TEST(X11EventPermissions, areForbiddenByNothingButTheWordFalse)
     SimulatedClock time;
     SimulatedMainThread mainThread(time);
     SimulatedUserDefaults defaults;
-    X11InputStream stream(mainThread, time);
+    X11InputStream stream(mainThread);
     X11EventPermissions permissions(stream, defaults);
 
     for (const auto& value : std::vector{
@@ -84,7 +82,7 @@ TEST(X11EventPermissions, tellNothingOfOtherPreferences)
     SimulatedClock time;
     SimulatedMainThread mainThread(time);
     SimulatedUserDefaults defaults;
-    X11InputStream stream(mainThread, time);
+    X11InputStream stream(mainThread);
     X11EventPermissions permissions(stream, defaults);
     int told = 0;
     const auto observation = permissions.observeAccessibilityChanges([&] { ++told; });

@@ -214,7 +214,7 @@ protected:
     XConnection server_;
     QtMainThread mainThread_;
     PosixClock clock_;
-    X11InputStream stream_{mainThread_, clock_};
+    X11InputStream stream_{mainThread_};
     X11EventPosting posting_{stream_, mainThread_, clock_};
 };
 

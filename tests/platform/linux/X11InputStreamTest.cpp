@@ -22,7 +22,7 @@ TEST_F(X11InputStreamTest, saysOnceThatTheServerCannotPlayInput)
 {
     const VirtualDesktop desktop(
         {.windowManager = false, .sessionBus = false, .disabledExtension = "XTEST"});
-    X11InputStream stream(mainThread, time);
+    X11InputStream stream(mainThread);
 
     for (int count = 0; count < 3; ++count)
         EXPECT_FALSE(stream.isTappable());
@@ -34,7 +34,7 @@ TEST_F(X11InputStreamTest, saysOnceThatThereIsNoServer)
 {
     VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
     desktop.endDisplayServer();
-    X11InputStream stream(mainThread, time);
+    X11InputStream stream(mainThread);
 
     for (int count = 0; count < 3; ++count)
         EXPECT_FALSE(stream.isTappable());
@@ -45,7 +45,7 @@ TEST_F(X11InputStreamTest, saysOnceThatThereIsNoServer)
 TEST_F(X11InputStreamTest, saysNothingWhereTheInputCanBeTapped)
 {
     const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
-    X11InputStream stream(mainThread, time);
+    X11InputStream stream(mainThread);
 
     EXPECT_TRUE(stream.isTappable());
 
