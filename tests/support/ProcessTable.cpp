@@ -43,4 +43,13 @@ std::optional<long> timesAsleep(pid_t process)
     return times;
 }
 
+bool catches(pid_t process, int signal)
+{
+    std::ifstream status("/proc/" + std::to_string(process) + "/status");
+    for (std::string key, value; status >> key && std::getline(status, value);)
+        if (key == "SigCgt:")
+            return (std::stoull(value, nullptr, 16) >> (signal - 1) & 1) != 0;
+    return false;
+}
+
 } // namespace brindlex

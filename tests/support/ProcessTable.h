@@ -13,4 +13,7 @@ std::vector<pid_t> processesWithVariable(const std::string& name, const std::str
 /// How often the threads of the process have gone to sleep; nothing while one of them is awake.
 std::optional<long> timesAsleep(pid_t process);
 
+/// Whether the process has a handler for the signal.
+bool catches(pid_t process, int signal);
+
 } // namespace brindlex
