@@ -55,6 +55,9 @@ void IBusDaemon::stop()
 {
     daemon_->signal(SIGKILL);
     daemon_.reset();
+    // Its helper for X programs ends after it, and new programs would still turn to that.
+    if (!eventually([] { return !hasXInputMethodServer("ibus"); }, 60s))
+        fatalError("The helper of IBus did not end.");
 }
 
 std::optional<std::string> IBusDaemon::address() const
