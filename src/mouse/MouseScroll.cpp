@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <nlohmann/json.hpp>
 #include <utility>
 
 namespace brindlex {
@@ -74,6 +75,25 @@ EventTriggers eventTriggers(const MouseScrollConfig& config)
     triggers.wheel = config.smoothEnabled || config.invertVertical || config.invertHorizontal
         || config.speedMultiplier != 1.0 || config.acceleration > 0;
     return triggers;
+}
+
+std::vector<std::string> unusualNumbers(const MouseScrollConfig& config)
+{
+    struct Range {
+        const char* name;
+        double value;
+        double least;
+        double most;
+    };
+    const auto text = [](double number) { return nlohmann::json(number).dump(); };
+    std::vector<std::string> lines;
+    for (const auto& range : {Range{"smoothDuration", config.smoothDuration, 0.05, 0.4},
+             Range{"speedMultiplier", config.speedMultiplier, 0.5, 3},
+             Range{"acceleration", config.acceleration, 0, 1}})
+        if (!(range.value >= range.least && range.value <= range.most))
+            lines.push_back(std::string("MouseScroll: ") + range.name + " is " + text(range.value)
+                + ", usual are " + text(range.least) + " to " + text(range.most));
+    return lines;
 }
 
 } // namespace brindlex

@@ -8,6 +8,7 @@
 
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace brindlex {
 
@@ -38,5 +39,9 @@ SyntheticEvent scrollEvent(std::uint64_t flags, ScrollDistance distance);
 /// The wheel, unless the configuration leaves a notch what it is: ten pixels for a line. Shift is
 /// then left to the applications, which turn the wheel sideways by themselves.
 EventTriggers eventTriggers(const MouseScrollConfig& config);
+
+/// What the log says of numbers beyond those that a user can choose, a line each. They hold
+/// nevertheless: a wheel that does not scroll, or scrolls for ever, has its reason there.
+std::vector<std::string> unusualNumbers(const MouseScrollConfig& config);
 
 } // namespace brindlex

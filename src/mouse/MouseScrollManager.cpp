@@ -1,6 +1,10 @@
 #include "mouse/MouseScrollManager.h"
 
+#include "app/Log.h"
+
 #include <array>
+#include <string>
+#include <vector>
 
 namespace brindlex {
 
@@ -32,6 +36,14 @@ MouseScrollManager::MouseScrollManager(const Observable<MouseConfig>& config,
                                else
                                    start();
                            });
+    unusualNumbersObserver_
+        = config.stream()
+              .map([](const MouseConfig& value) { return unusualNumbers(value.scroll); })
+              .withoutRepeats()
+              .subscribe([](const std::vector<std::string>& lines) {
+                  for (const auto& line : lines)
+                      Log::warn(line, logCategory::mouse);
+              });
 }
 
 void MouseScrollManager::reset()

@@ -46,6 +46,7 @@ private:
     MouseScrollAccelerationCalculator accelerationCalculator_;
     TapClient client_;
     Subscription enabledObserver_;
+    Subscription unusualNumbersObserver_;
 };
 
 } // namespace brindlex

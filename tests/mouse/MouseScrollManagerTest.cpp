@@ -54,6 +54,25 @@ TEST(MouseScrollManager, takesTheWheelFromTheDevicesWhenANotchIsToBeAnother)
     EXPECT_EQ(session.input.tapsMade(), 1u);
 }
 
+TEST(MouseScrollManager, saysOnceWhichNumbersAreUnusual)
+{
+    MouseConfig config;
+    config.scroll.smoothDuration = -1;
+    MouseSession session(config);
+    const std::string duration
+        = "WARN [mouse] MouseScroll: smoothDuration is -1.0, usual are 0.05 to 0.4";
+    EXPECT_EQ(session.log.takeLines(), Lines{duration});
+
+    session.edit([](MouseConfig& value) { value.scroll.invertVertical = true; });
+    EXPECT_EQ(session.log.takeLines(), Lines{});
+    session.edit([](MouseConfig& value) { value.scroll.speedMultiplier = 0; });
+    EXPECT_EQ(session.log.takeLines(),
+        (Lines{
+            duration, "WARN [mouse] MouseScroll: speedMultiplier is 0.0, usual are 0.5 to 3.0"}));
+    session.edit([](MouseConfig& value) { value.scroll = {}; });
+    EXPECT_EQ(session.log.takeLines(), Lines{});
+}
+
 TEST_F(MouseScrollManagerTest, keepsTheFlagsOfTheNotch)
 {
     scrolling.start();

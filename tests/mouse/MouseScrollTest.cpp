@@ -161,5 +161,27 @@ TEST(eventTriggers, ofTheWheelAreNoneWhileNotchesStayWhatTheyAre)
     EXPECT_FALSE(eventTriggers(config).wheel);
 }
 
+TEST(MouseScrollConfig, hasNoUnusualNumbersWithinWhatCanBeChosen)
+{
+    EXPECT_EQ(unusualNumbers({}), std::vector<std::string>());
+    EXPECT_EQ(unusualNumbers({.smoothDuration = 0.05, .speedMultiplier = 0.5, .acceleration = 0}),
+        std::vector<std::string>());
+    EXPECT_EQ(unusualNumbers({.smoothDuration = 0.4, .speedMultiplier = 3, .acceleration = 1}),
+        std::vector<std::string>());
+}
+
+TEST(MouseScrollConfig, namesItsUnusualNumbers)
+{
+    EXPECT_EQ(unusualNumbers({.smoothDuration = 0, .speedMultiplier = -1, .acceleration = 1.01}),
+        (std::vector<std::string>{"MouseScroll: smoothDuration is 0.0, usual are 0.05 to 0.4",
+            "MouseScroll: speedMultiplier is -1.0, usual are 0.5 to 3.0",
+            "MouseScroll: acceleration is 1.01, usual are 0.0 to 1.0"}));
+    EXPECT_EQ(unusualNumbers({.smoothDuration = 1e308}),
+        std::vector<std::string>{"MouseScroll: smoothDuration is 1e+308, usual are 0.05 to 0.4"});
+    EXPECT_EQ(unusualNumbers({.speedMultiplier = 1e308, .acceleration = -0.1}),
+        (std::vector<std::string>{"MouseScroll: speedMultiplier is 1e+308, usual are 0.5 to 3.0",
+            "MouseScroll: acceleration is -0.1, usual are 0.0 to 1.0"}));
+}
+
 } // namespace
 } // namespace brindlex

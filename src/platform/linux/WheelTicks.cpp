@@ -21,10 +21,9 @@ int WheelTicks::add(double pixels, Seconds now)
     lastDirection_ = direction;
     lastTime_ = now;
     pending_ += pixels;
-    const double notches
-        = std::clamp(std::round(pending_ / pixelsPerNotch), -mostNotches, mostNotches);
+    const double notches = std::round(pending_ / pixelsPerNotch);
     pending_ -= notches * pixelsPerNotch;
-    return static_cast<int>(notches);
+    return static_cast<int>(std::clamp(notches, -mostNotches, mostNotches));
 }
 
 } // namespace brindlex

@@ -68,7 +68,10 @@ TEST(WheelTicks, isNotMovedByNothingOrNonsense)
         (std::vector{0, 0}));
 }
 
-TEST(WheelTicks, boundsWhatIsAskedForAtOnce) { EXPECT_EQ(ticksOf({1e12})[0], 1000); }
+TEST(WheelTicks, boundsWhatIsAskedForAtOnceAndForgetsTheRest)
+{
+    EXPECT_EQ(ticksOf({1e12, 10, 1, 1e308, 10}), (std::vector{1000, 1, 0, 1000, 1}));
+}
 
 } // namespace
 } // namespace brindlex
