@@ -81,10 +81,24 @@ private:
 };
 
 /// Somebody has to wait for a process, or it stays in the table of processes.
-void takeFromTableWhenEnded(pid_t process)
+void waitForEnd(pid_t process)
+{
+    // What a shell ends with that could not run the last program of its command.
+    constexpr int notRun = 126;
+    constexpr int notFound = 127;
+    int status = 0;
+    if (waitpid(process, &status, 0) != process || !WIFEXITED(status))
+        return;
+    if (WEXITSTATUS(status) == notFound)
+        Log::warn("A command has named a program that is not to be found", logCategory::mouse);
+    else if (WEXITSTATUS(status) == notRun)
+        Log::warn("A command has named a program that cannot be run", logCategory::mouse);
+}
+
+void waitBeside(pid_t process)
 {
     try {
-        std::thread([process] { waitpid(process, nullptr, 0); }).detach();
+        std::thread([process] { waitForEnd(process); }).detach();
     } catch (const std::system_error& noThread) {
         Log::warn(std::string("Waiting for a process: ") + noThread.what(), logCategory::mouse);
     }
@@ -97,7 +111,7 @@ Result<Done, std::string> start(std::vector<std::string> command)
     const auto process = FreshStart().run(pointersTo(command).data());
     if (!process)
         return fail(process.error());
-    takeFromTableWhenEnded(*process);
+    waitBeside(*process);
     return Done{};
 }
 

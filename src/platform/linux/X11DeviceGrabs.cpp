@@ -1,8 +1,10 @@
 #include "platform/linux/X11DeviceGrabs.h"
 
+#include "app/Log.h"
 #include "platform/linux/X11Modifiers.h"
 
 #include <algorithm>
+#include <utility>
 #include <xcb/xinput.h>
 
 namespace brindlex {
@@ -47,6 +49,7 @@ bool X11DeviceGrabs::apply(
         auto& grab = grabs_[device.id];
         if (wantsAll && !grab.isTaken)
             grab.isTaken = take(device);
+        report(device, grab, wantsAll);
         // New triggers are there before the device is given back, so that none slips through.
         setTriggers(device, grab, isKeyboard ? demand.keys : demand.buttons);
         if (!wantsAll && grab.isTaken && mayLetGo) {
@@ -86,6 +89,15 @@ bool X11DeviceGrabs::take(const X11InputDevice& device)
     const X11Message<xcb_input_xi_grab_device_reply_t> reply(
         xcb_input_xi_grab_device_reply(server, request, nullptr));
     return reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+}
+
+void X11DeviceGrabs::report(const X11InputDevice& device, Grab& grab, bool wantsAll)
+{
+    const bool isRefused = wantsAll && !grab.isTaken;
+    if (std::exchange(grab.isReported, isRefused) != isRefused && isRefused)
+        Log::warn(
+            "Another program has taken \"" + device.name + "\"; it is tapped once it is given back",
+            logCategory::mouse);
 }
 
 void X11DeviceGrabs::giveBack(const X11InputDevice& device)

@@ -38,12 +38,16 @@ public:
 private:
     struct Grab {
         bool isTaken = false;
+        /// Whether the log already says that another program holds it.
+        bool isReported = false;
         std::set<TapDemand::Trigger> triggers{};
 
         bool isNothing() const { return !isTaken && triggers.empty(); }
     };
 
+    /// Whether nobody else holds the device.
     bool take(const X11InputDevice& device);
+    static void report(const X11InputDevice& device, Grab& grab, bool wantsAll);
     void giveBack(const X11InputDevice& device);
     void setTriggers(
         const X11InputDevice& device, Grab& grab, const std::set<TapDemand::Trigger>& triggers);

@@ -3,6 +3,7 @@
 #include "platform/linux/QtMainThread.h"
 #include "support/Eventually.h"
 #include "support/LoopUntil.h"
+#include "support/RecordedLog.h"
 #include "support/ScopedEnvironment.h"
 #include "support/TemporaryFolder.h"
 
@@ -89,6 +90,22 @@ TEST_F(PosixProcessLaunchingTest, tellsFromTheLoopWhyAProgramCannotBeStarted)
     EXPECT_TRUE(loopUntil([&] { return reasons_.size() == 2; }));
     EXPECT_EQ(
         reasons_, (std::vector<std::string>{"No such file or directory", "Permission denied"}));
+}
+
+TEST_F(PosixProcessLaunchingTest, saysWhichCommandsNameNoProgram)
+{
+    const RecordedLog log;
+    launching_.launch("/bin/sh", {"-c", "exit 1"}, note());
+    launching_.launch("/bin/sh", {"-c", "no-such-program --at all"}, note());
+    EXPECT_TRUE(loopUntil([&] { return log.lines().size() == 1; }));
+    launching_.launch("/bin/sh", {"-c", "/etc/passwd"}, note());
+    EXPECT_TRUE(loopUntil([&] { return log.lines().size() == 2; }));
+
+    EXPECT_EQ(log.lines(),
+        (std::vector<std::string>{
+            "WARN [mouse] A command has named a program that is not to be found",
+            "WARN [mouse] A command has named a program that cannot be run"}));
+    EXPECT_EQ(reasons_, std::vector<std::string>());
 }
 
 TEST_F(PosixProcessLaunchingTest, leavesNoProcessBehind)

@@ -1,6 +1,7 @@
 #include "platform/linux/X11TapSessionFixture.h"
 
 #include "support/PlayedInput.h"
+#include "support/RecordedLog.h"
 
 namespace brindlex {
 namespace {
@@ -23,6 +24,7 @@ TEST_F(X11TapSessionTest, tapsWhileAMenuOfAnotherProgramHoldsThePointer)
 
 TEST_F(X11TapSessionTest, takesADeviceOnceAnotherProgramHasGivenItBack)
 {
+    const RecordedLog log;
     tap(middleButton());
     auto other = std::make_unique<XConnection>();
     ASSERT_TRUE(takeDevice(*other, "mouse"));
@@ -30,6 +32,9 @@ TEST_F(X11TapSessionTest, takesADeviceOnceAnotherProgramHasGivenItBack)
     desktop_.secondMouse.turnWheel(-1);
     desktop_.settle();
     EXPECT_EQ(seen_.size(), 1U);
+    EXPECT_EQ(log.lines(),
+        Lines{"WARN [mouse] Another program has taken \"mouse\"; it is tapped once it is given "
+              "back"});
 
     other.reset();
 
