@@ -138,11 +138,8 @@ void DesktopSwitchExecutor::writePreferences() const
 
 bool DesktopSwitchExecutor::comesToRest() const
 {
-    return eventually([&] {
-        const auto before = timesAsleep(program_->process());
-        return before
-            && throughout(timeAtRest, [&] { return timesAsleep(program_->process()) == before; });
-    });
+    return eventually(
+        [&] { return staysTheSame(timeAtRest, [&] { return timesAsleep(program_->process()); }); });
 }
 
 int DesktopSwitchExecutor::groupOf(const std::string& inputSourceID) const

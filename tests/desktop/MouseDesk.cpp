@@ -14,7 +14,7 @@ using namespace std::chrono_literals;
 
 /// How long nothing further must come for what came to be all.
 constexpr auto longEnough = 150ms;
-/// A program that sleeps this long waits for no answer but for the user.
+/// Programs that sleep this long wait for nobody but the user.
 constexpr auto restful = 40ms;
 
 } // namespace
@@ -66,15 +66,24 @@ void MouseDesk::settle() const
     for (const PlayedDevice* device :
         std::initializer_list<const PlayedDevice*>{&mouse, &secondMouse, &keyboard})
         device->settle();
-    const auto rests = [this] {
-        if (!program || !program->child().isRunning())
-            return true;
-        const auto before = timesAsleep(program->process());
-        return before
-            && throughout(restful, [&] { return timesAsleep(program->process()) == before; });
-    };
-    eventually(rests);
+    eventually([this] { return staysTheSame(restful, [this] { return timesAtRest(); }); });
     server.sync();
+}
+
+std::optional<long> MouseDesk::timesAtRest() const
+{
+    if (program && waitsForAnswer(program->process()))
+        return std::nullopt;
+    if (const auto manager = desktop.windowManager(); manager && waitsForAnswer(*manager))
+        return std::nullopt;
+    long sum = 0;
+    for (const auto process : children()) {
+        const auto times = timesAsleep(process);
+        if (!times)
+            return std::nullopt;
+        sum += *times;
+    }
+    return sum;
 }
 
 bool MouseDesk::receives(EventLogWindow& window, const Lines& expected) const

@@ -32,8 +32,11 @@ struct MouseDesk {
     /// Starts the program and waits until it has launched and taken what it takes.
     void start(const MouseConfig& config);
 
-    /// Waits until what was played has reached the applications, through the program if it runs.
+    /// Waits until what was played has reached the applications, through the program if it runs,
+    /// and everybody on the desktop has done what is to be done about it.
     void settle() const;
+    /// How often everybody on the desktop has gone to sleep; nothing while anybody has work.
+    std::optional<long> timesAtRest() const;
 
     /// Waits until the window has exactly these lines.
     bool receives(EventLogWindow& window, const Lines& expected) const;

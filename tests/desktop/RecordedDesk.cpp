@@ -172,23 +172,12 @@ std::string RecordedDesk::selectedText() const
     return selected;
 }
 
-void RecordedDesk::waitUntilStill()
+void RecordedDesk::waitUntilStill() const
 {
     // A hand is no faster than that what it drags follows.
     constexpr auto moment = 15ms;
     desk.mouse.settle();
-    const auto isStill = [&] {
-        const auto now = places();
-        return throughout(moment, [&] { return places() == now; });
-    };
-    eventually(isStill);
-}
-
-std::vector<ScreenArea> RecordedDesk::places() const
-{
-    const auto pointer = one.pointer();
-    return {
-        desk.windows.areaOf(one.id()), desk.windows.areaOf(two.id()), {pointer.x, pointer.y, 0, 0}};
+    eventually([&] { return staysTheSame(moment, [&] { return desk.timesAtRest(); }); });
 }
 
 void RecordedDesk::movePointer(int x, int y)

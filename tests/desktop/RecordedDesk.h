@@ -40,8 +40,7 @@ public:
 
 private:
     std::string state();
-    void waitUntilStill();
-    std::vector<ScreenArea> places() const;
+    void waitUntilStill() const;
     /// Frames, menus and all else, from the lowest to the topmost.
     std::vector<ScreenArea> windowsOnScreen() const;
     std::string titleOfActive() const;

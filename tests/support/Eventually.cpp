@@ -32,4 +32,14 @@ bool throughout(std::chrono::milliseconds period, const std::function<bool()>& c
     return !askUntil(false, period, condition);
 }
 
+bool staysTheSame(
+    std::chrono::milliseconds period, const std::function<std::optional<long>()>& count)
+{
+    const auto before = count();
+    if (!before)
+        return false;
+    std::this_thread::sleep_for(period);
+    return count() == before;
+}
+
 } // namespace brindlex

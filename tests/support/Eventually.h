@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 namespace brindlex {
 
@@ -16,5 +17,10 @@ bool eventually(
 
 /// Whether the condition holds at every one of the many times it is asked during the period.
 bool throughout(std::chrono::milliseconds period, const std::function<bool()>& condition);
+
+/// Whether a count that never falls is there before the period and the same after it. It is not
+/// asked for meanwhile, so that whoever is counted can go on with the work.
+bool staysTheSame(
+    std::chrono::milliseconds period, const std::function<std::optional<long>()>& count);
 
 } // namespace brindlex

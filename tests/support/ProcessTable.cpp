@@ -5,10 +5,10 @@
 #include <charconv>
 #include <filesystem>
 #include <fstream>
+#include <sys/syscall.h>
 #include <unistd.h>
 
 namespace brindlex {
-
 std::vector<pid_t> processesWithVariable(const std::string& name, const std::string& value)
 {
     const auto wanted = '\0' + name + "=" + value + '\0';
@@ -26,6 +26,17 @@ std::vector<pid_t> processesWithVariable(const std::string& name, const std::str
     return processes;
 }
 
+std::vector<pid_t> children()
+{
+    std::vector<pid_t> processes;
+    for (const auto& thread : std::filesystem::directory_iterator("/proc/self/task")) {
+        std::ifstream list(thread.path() / "children");
+        for (pid_t process = 0; list >> process;)
+            processes.push_back(process);
+    }
+    return processes;
+}
+
 std::optional<long> timesAsleep(pid_t process)
 {
     long times = 0;
@@ -34,13 +45,29 @@ std::optional<long> timesAsleep(pid_t process)
              "/proc/" + std::to_string(process) + "/task", ignored)) {
         std::ifstream status(thread.path() / "status");
         for (std::string key, value; status >> key && std::getline(status, value);) {
-            if (key == "State:" && value.find("S (") == std::string::npos)
+            const bool isAwake = key == "State:"
+                && (value.find("R (") != std::string::npos
+                    || value.find("D (") != std::string::npos);
+            if (isAwake)
                 return std::nullopt;
             if (key.ends_with("voluntary_ctxt_switches:"))
                 times += std::stol(value);
         }
     }
     return times;
+}
+
+bool waitsForAnswer(pid_t process)
+{
+    long call = -1;
+    std::string descriptors;
+    std::string count;
+    std::ifstream("/proc/" + std::to_string(process) + "/syscall") >> call >> descriptors >> count;
+#ifdef SYS_poll
+    if (call == SYS_poll)
+        return count == "0x1";
+#endif
+    return call == SYS_ppoll && count == "0x1";
 }
 
 bool catches(pid_t process, int signal)

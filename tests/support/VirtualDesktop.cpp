@@ -185,6 +185,11 @@ void VirtualDesktop::allowAccessibility()
         outputFolder() / "accessibility");
 }
 
+std::optional<pid_t> VirtualDesktop::windowManager() const
+{
+    return windowManager_ ? std::optional(windowManager_->id()) : std::nullopt;
+}
+
 void VirtualDesktop::setVariable(const std::string& name, const std::optional<std::string>& value)
 {
     environment_.set(name, value);

@@ -61,6 +61,9 @@ public:
     /// The server's name, such as `:7`.
     const std::string& display() const { return display_; }
 
+    /// The process of the window manager; nothing where there is none.
+    std::optional<pid_t> windowManager() const;
+
     /// Sets a variable for this process and all that it starts from now on.
     void setVariable(const std::string& name, const std::optional<std::string>& value);
 
