@@ -45,7 +45,7 @@ protected:
     {
         return eventually([&] {
             return throughout(
-                std::chrono::milliseconds{400}, [&] { return daemon_.current() == engine; });
+                std::chrono::milliseconds{600}, [&] { return daemon_.current() == engine; });
         });
     }
 

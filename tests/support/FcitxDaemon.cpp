@@ -66,10 +66,12 @@ std::string FcitxDaemon::current() const
     return BusConnection().call(name, path, interface, "CurrentInputMethod").text();
 }
 
-bool FcitxDaemon::servesAWindow() const
+std::string FcitxDaemon::context() const
 {
-    return BusConnection().call(name, path, interface, "DebugInfo").text().find("focus:1")
-        != std::string::npos;
+    const auto all = BusConnection().call(name, path, interface, "DebugInfo").text();
+    const auto end = all.find(" focus:1");
+    const auto begin = all.rfind("IC [", end);
+    return end == std::string::npos || begin == std::string::npos ? "" : all.substr(begin, 20);
 }
 
 bool FcitxDaemon::select(const std::string& inputMethod)

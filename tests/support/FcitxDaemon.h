@@ -18,8 +18,8 @@ public:
 
     /// The selected input method; empty when none is, or the daemon does not answer.
     std::string current() const;
-    /// Whether a window that types through the daemon has the keyboard.
-    bool servesAWindow() const;
+    /// The input context that has the keyboard; empty when none has it.
+    std::string context() const;
     /// Selects an input method, as the user does in the daemon's menu, again while nothing comes of
     /// it; false when nothing did.
     bool select(const std::string& inputMethod);

@@ -37,7 +37,8 @@ bool matches(const InputSourceFilter& filter, const InputSource& source)
 } // namespace
 
 DesktopInputSources::DesktopInputSources(X11Connection& connection, QDBusConnection sessionBus)
-    : bus_(std::move(sessionBus)), xkb_(connection, registry_), backend_(&xkb_)
+    : connection_(connection), bus_(std::move(sessionBus)), xkb_(connection, registry_),
+      backend_(&xkb_)
 {
     settleSoon_.setSingleShot(true);
     settleSoon_.setInterval(0);
@@ -145,7 +146,7 @@ void DesktopInputSources::takeFcitx(bool isRunning, DBusDeadline deadline)
         dropFcitx();
     } else if (!fcitx_ || !fcitx_->hasAnswered()) {
         dropFcitx();
-        fcitx_ = std::make_unique<Fcitx5InputSources>(bus_, registry_, deadline);
+        fcitx_ = std::make_unique<Fcitx5InputSources>(bus_, connection_, registry_, deadline);
         fcitxChanges_ = fcitx_->observe([this] { settleSoon_.start(); });
     }
     settleSoon_.start();

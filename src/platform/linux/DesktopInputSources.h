@@ -55,6 +55,7 @@ private:
     void tryAgainLater();
     InputSourceBackend& bestBackend();
 
+    X11Connection& connection_;
     QDBusConnection bus_;
     QObject context_;
     XkbRegistry registry_;

@@ -5,6 +5,7 @@
 #include "platform/InputSourceIdentifiers.h"
 #include "platform/linux/Fcitx5Contexts.h"
 #include "platform/linux/Fcitx5Method.h"
+#include "platform/linux/X11WindowReading.h"
 
 #include <algorithm>
 #include <map>
@@ -22,6 +23,8 @@ constexpr auto controllerInterface = "org.fcitx.Fcitx.Controller1";
 constexpr int callLimitMilliseconds = 5000;
 constexpr auto pollInterval = 222ms;
 constexpr auto firstLookDelay = 100ms;
+/// A window that is seen to have the keyboard earlier may be the one that is just losing it.
+constexpr auto timeToBeSure = 300ms;
 /// An answer takes 0.2 ms, a selection 1 to 3 ms; a daemon that hangs must not hold us up.
 constexpr auto answerWait = 20ms;
 constexpr auto selectionWait = 30ms;
@@ -44,8 +47,8 @@ QString focusedContext(const QDBusPendingCall& debugInfo)
 } // namespace
 
 Fcitx5InputSources::Fcitx5InputSources(
-    QDBusConnection bus, XkbRegistry& registry, DBusDeadline deadline)
-    : bus_(std::move(bus)), registry_(registry)
+    QDBusConnection bus, X11Connection& connection, XkbRegistry& registry, DBusDeadline deadline)
+    : bus_(std::move(bus)), connection_(connection), registry_(registry)
 {
     signals_.push_back(std::make_unique<DBusSignal>(bus_, QLatin1String(controllerPath),
         QLatin1String(controllerInterface), QStringLiteral("InputMethodGroupsChanged"),
@@ -91,7 +94,7 @@ SelectionStatus Fcitx5InputSources::select(const std::string& id)
     call("SetCurrentIM", {QString::fromStdString(method)});
     const int question = ++question_;
     const auto pending = call("CurrentInputMethod");
-    wish_ = Wish{method};
+    wish_ = Wish{method, activeWindow(connection_)};
     firstLook_.stop();
     const int selection = ++selection_;
     if (!waitForAnswer(pending, Clock::now() + selectionWait)) {
@@ -246,13 +249,16 @@ void Fcitx5InputSources::look()
 
 void Fcitx5InputSources::judge(const std::string& method, const QString& context)
 {
-    const bool hasMissed
-        = method != wish_->method && !context.isEmpty() && context != wish_->context;
-    const bool isWaiting = context.isEmpty() && (method.empty() || method == wish_->method);
-    if (hasMissed) {
-        wish_->context = context;
+    const auto active = activeWindow(connection_);
+    const bool isOver = active != XCB_WINDOW_NONE && active != wish_->window;
+    const bool isSure = Clock::now() - wish_->since > timeToBeSure;
+    if (context.isEmpty() && !isOver)
+        return;
+    if (!isOver && method != wish_->method && context != wish_->context) {
         call("SetCurrentIM", {QString::fromStdString(wish_->method)});
-    } else if (!isWaiting) {
+        wish_->context = context;
+        wish_->since = Clock::now();
+    } else if (isOver || isSure || method != wish_->method) {
         wish_.reset();
         setCurrent(method);
         notify();

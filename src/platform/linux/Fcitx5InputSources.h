@@ -3,6 +3,7 @@
 #include "platform/linux/DBusAnswer.h"
 #include "platform/linux/DBusSignal.h"
 #include "platform/linux/InputSourceBackend.h"
+#include "platform/linux/X11Connection.h"
 #include "platform/linux/XkbRegistry.h"
 
 #include <QDBusConnection>
@@ -25,12 +26,14 @@ namespace brindlex {
 /// A selection goes to the input context of the window that has the keyboard, and each window may
 /// have a method of its own. A window that has just come to the front may get the keyboard only
 /// later, when its program has found the time. So a selection is looked at 100 ms later and then
-/// with each question, until a window has the keyboard: one that missed it is given it, once. What
-/// else is selected meanwhile is the choice of the user.
+/// with each question, as long as the same window is active, until its program has had the keyboard
+/// with it for a while: one that missed it is given it, once. What else is selected meanwhile is
+/// the choice of the user.
 class Fcitx5InputSources final : public InputSourceBackend {
 public:
     /// Asks the daemon what it has; waits for that until the deadline and goes on from the loop.
-    Fcitx5InputSources(QDBusConnection bus, XkbRegistry& registry, DBusDeadline deadline);
+    Fcitx5InputSources(QDBusConnection bus, X11Connection& connection, XkbRegistry& registry,
+        DBusDeadline deadline);
 
     std::string_view name() const override { return "Fcitx 5"; }
     bool isUsable() const override { return hasAnswered() && !sources_.empty(); }
@@ -47,8 +50,11 @@ private:
     using Clock = std::chrono::steady_clock;
     struct Wish {
         std::string method{};
+        /// The window that was active when it was selected: the wish ends when another is.
+        xcb_window_t window = 0;
         /// The input context that had the keyboard when it was selected; empty for none.
         QString context{};
+        Clock::time_point since = Clock::now();
     };
 
     QDBusPendingCall call(const char* member, const QVariantList& arguments = {}) const;
@@ -63,12 +69,13 @@ private:
     /// that has to be started keeps the daemon from giving anybody the keyboard.
     void lookSoon(int selection);
     void look();
-    /// What has become of the wish; `context` has the keyboard, nobody when that is empty.
+    /// What has become of the wish; `context` has the keyboard, or nobody when that is empty.
     void judge(const std::string& method, const QString& context);
     void fail(const QDBusMessage& reply);
     std::optional<std::string> sourceOf(const std::string& method) const;
 
     QDBusConnection bus_;
+    X11Connection& connection_;
     XkbRegistry& registry_;
     QObject context_;
     std::vector<std::unique_ptr<DBusSignal>> signals_;

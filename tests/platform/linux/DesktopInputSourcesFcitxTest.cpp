@@ -75,12 +75,6 @@ class InputSourcesOfFcitx : public testing::Test {
 protected:
     InputSourcesOfFcitx() { EXPECT_TRUE(becomes(sources_, "Fcitx 5")); }
 
-    /// Brings a window to the front that does not type through Fcitx.
-    void showPicture()
-    {
-        picture_.emplace(server_, PlainWindow::Claims{.wmClass = wmClass("Picture")});
-        EXPECT_TRUE(windows_.activate(picture_->window()));
-    }
     bool comesTo(const std::string& id)
     {
         return loopUntil([&] { return currentID(sources_) == id; });
@@ -90,38 +84,50 @@ protected:
     FcitxDaemon daemon_{desktop_, fcitxMethods};
     XConnection server_;
     DesktopWindows windows_{server_};
-    std::optional<PlainWindow> picture_;
     SessionBus bus_;
     X11Connection connection_;
     DesktopInputSources sources_{connection_, bus_.get()};
 };
 
-TEST_F(InputSourcesOfFcitx, giveTheSelectionToTheFirstWindowThatTypes)
+TEST_F(InputSourcesOfFcitx, takeASelectionBeforeAnyWindowTypes)
 {
+    const PlainWindow picture(server_, {.wmClass = wmClass("Picture")});
+    ASSERT_TRUE(windows_.activate(picture.window()));
     ASSERT_EQ(daemon_.current(), "");
+
     EXPECT_EQ(selectID(sources_, "fcitx5:pinyin"), 0);
     EXPECT_EQ(currentID(sources_), "fcitx5:pinyin");
+    EXPECT_TRUE(loopThroughout(
+        std::chrono::milliseconds{500}, [&] { return currentID(sources_) == "fcitx5:pinyin"; }));
 
     const TypingWindow window(windows_, "Typing");
-    EXPECT_TRUE(
-        loopUntil([&] { return daemon_.servesAWindow() && daemon_.current() == "pinyin"; }));
+    EXPECT_TRUE(comesTo("xkb:us::eng"));
 }
 
-TEST_F(InputSourcesOfFcitx, giveTheSelectionToAWindowThatGetsTheKeyboardLater)
+TEST_F(InputSourcesOfFcitx, giveTheSelectionToAWindowThatGetsTheKeyboardLate)
 {
+    const TypingWindow slow(windows_, "Slow");
     const TypingWindow before(windows_, "Before");
     EXPECT_TRUE(comesTo("xkb:us::eng"));
-    showPicture();
-    int told = 0;
-    const auto subscription = sources_.observeSelectionChanges([&] { ++told; });
-    EXPECT_EQ(selectID(sources_, "fcitx5:pinyin"), 0);
-    EXPECT_TRUE(loopUntil([&] { return told == 1; }));
-    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{500}, [&] { return told == 1; }));
+    std::vector<std::string> told;
+    const auto subscription
+        = sources_.observeSelectionChanges([&] { told.push_back(currentID(sources_)); });
+    const auto keyboardBefore = daemon_.context();
 
-    const TypingWindow window(windows_, "Typing");
-    EXPECT_TRUE(
-        loopUntil([&] { return daemon_.servesAWindow() && daemon_.current() == "pinyin"; }));
-    EXPECT_EQ(told, 1);
+    ::kill(slow.process(), SIGSTOP);
+    EXPECT_TRUE(windows_.activate(slow.window()));
+    EXPECT_TRUE(loopUntil([&] { return daemon_.context().empty(); }));
+    EXPECT_EQ(selectID(sources_, "fcitx5:pinyin"), 0);
+    EXPECT_TRUE(loopUntil([&] { return !told.empty() && told.back() == "fcitx5:pinyin"; }));
+    const auto all = told;
+    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{700}, [&] { return told == all; }));
+    ::kill(slow.process(), SIGCONT);
+
+    EXPECT_TRUE(loopUntil([&] {
+        const auto context = daemon_.context();
+        return !context.empty() && context != keyboardBefore && daemon_.current() == "pinyin";
+    }));
+    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{500}, [&] { return told == all; }));
     EXPECT_EQ(currentID(sources_), "fcitx5:pinyin");
 }
 
