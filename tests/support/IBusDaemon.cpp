@@ -92,8 +92,11 @@ std::string IBusDaemon::current() const
 
 bool IBusDaemon::select(const std::string& engine)
 {
-    const auto bus = address();
-    return bus && BusConnection(*bus).call(name, path, name, "SetGlobalEngine", {engine});
+    // While the daemon has much to do, an engine may not start in its time.
+    return eventually([&] {
+        const auto bus = address();
+        return bus && BusConnection(*bus).call(name, path, name, "SetGlobalEngine", {engine});
+    });
 }
 
 } // namespace brindlex

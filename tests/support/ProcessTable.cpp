@@ -29,7 +29,8 @@ std::vector<pid_t> processesWithVariable(const std::string& name, const std::str
 std::vector<pid_t> children()
 {
     std::vector<pid_t> processes;
-    for (const auto& thread : std::filesystem::directory_iterator("/proc/self/task")) {
+    std::error_code ignored;
+    for (const auto& thread : std::filesystem::directory_iterator("/proc/self/task", ignored)) {
         std::ifstream list(thread.path() / "children");
         for (pid_t process = 0; list >> process;)
             processes.push_back(process);

@@ -110,7 +110,7 @@ SelectionStatus Fcitx5InputSources::select(const std::string& id)
     const auto reply = pending.reply();
     if (question == question_)
         takeCurrent(reply);
-    // Without any window that types through the daemon nothing is selected; the next one gets it.
+    // While no window types through the daemon nothing is selected; the active one may soon do so.
     if (!isError(reply) && (!method_ || method_ == method)) {
         lookSoon(selection);
         return SelectionStatus::done;
