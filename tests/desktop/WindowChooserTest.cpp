@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <csignal>
 #include <cstdlib>
 #include <memory>
 
@@ -261,6 +263,37 @@ TEST_F(WindowChooser, isReadOverABrightWindow)
     EXPECT_EQ(picture.at(picture.width() / 2, padding + 6), (Screenshot::Pixel{44, 44, 46}));
     EXPECT_EQ(picture.at(picture.width() / 2, padding + rowHeight + 6),
         (Screenshot::Pixel{10, 100, 220}));
+}
+
+using WindowChooserInTime = WindowChooser;
+
+TEST_F(WindowChooserInTime, givesTheKeysBackWhenTheProgramIsStopped)
+{
+    constexpr std::chrono::milliseconds promised{1000};
+    open("Letter");
+    EventLogWindow window;
+    ASSERT_TRUE(opens());
+    desk.program->child().signal(SIGSTOP);
+    const auto getsKeys = [&] {
+        desk.keyboard.stroke(keycode::a);
+        desk.keyboard.settle();
+        return std::ranges::any_of(
+            window.lines(), [](const std::string& line) { return line.starts_with("key 38"); });
+    };
+
+    EXPECT_TRUE(eventually(getsKeys, promised));
+    EXPECT_TRUE(eventually([&] { return getsKeys() && !desk.isAnyDeviceTaken(); }));
+    EXPECT_TRUE(eventually([&] { return window.held() == MouseDesk::Lines{}; }));
+
+    desk.program->child().signal(SIGCONT);
+    EXPECT_TRUE(desk.program->logs("Mission Control: the list of windows was closed, as the "
+                                   "program did not answer"))
+        << desk.program->report();
+    EXPECT_TRUE(isGone());
+    EXPECT_TRUE(eventually([&] { return desk.isAnyDeviceTaken(); })) << desk.program->report();
+    EXPECT_TRUE(opens());
+    stroke(keycode::escape);
+    EXPECT_TRUE(isGone());
 }
 
 } // namespace

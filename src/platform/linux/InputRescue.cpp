@@ -68,6 +68,12 @@ void InputRescue::cut(std::uint32_t window)
     tidyAfter(window);
 }
 
+void InputRescue::close(std::uint32_t window)
+{
+    xcb_unmap_window(server_, window);
+    xcb_flush(server_);
+}
+
 void InputRescue::tidyAfter(std::uint32_t window)
 {
     const auto deadline = std::chrono::steady_clock::now() + timeToGo;

@@ -27,6 +27,9 @@ public:
     /// Ends the connection to which the window belongs, with all that it has taken, and tidies up.
     void cut(std::uint32_t window);
 
+    /// Takes the window from the screen: what it had grabbed ends with that.
+    void close(std::uint32_t window);
+
     /// Waits until the connection to which the window belongs has gone, and releases what was
     /// played to the applications in place of the devices and would stay down for ever. A button
     /// that a hand holds at that moment stays down; a key is up until it is pressed again.

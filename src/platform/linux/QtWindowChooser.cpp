@@ -72,6 +72,8 @@ public:
     void leave()
     {
         attempts_.stop();
+        hasInput_ = false;
+        owner_.watchdog_.rest();
         setMouseGrabEnabled(false);
         setKeyboardGrabEnabled(false);
         hide();
@@ -91,6 +93,11 @@ protected:
         if (isExposed() && !hasInput_ && !attempts_.isActive()) {
             attempts_.start();
             takeInput();
+        } else if (!isExposed() && hasInput_) {
+            Log::warn(
+                "Mission Control: the list of windows was closed, as the program did not answer",
+                logCategory::mouse);
+            owner_.close();
         }
     }
 
@@ -180,8 +187,10 @@ private:
     void takeInput()
     {
         hasInput_ = setKeyboardGrabEnabled(true) && setMouseGrabEnabled(true);
-        if (hasInput_)
+        if (hasInput_) {
+            owner_.watchdog_.watchOpen(static_cast<std::uint32_t>(winId()));
             return attempts_.stop();
+        }
         if (++made_ < mostAttempts)
             return;
         Log::warn("Mission Control: another program keeps the pointer or the keyboard; the list "

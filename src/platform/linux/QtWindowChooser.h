@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/linux/OpenWindow.h"
+#include "platform/linux/TapWatchdog.h"
 #include "platform/linux/X11Connection.h"
 
 #include <functional>
@@ -14,7 +15,8 @@ namespace brindlex {
 /// The list lies over everything and has the pointer and the keys to itself, as a menu has: arrows,
 /// Tab, Page Up and Down, Home, End, Return, Escape, the wheel and clicks. A click elsewhere closes
 /// it. It exists from `show` until it is closed, and costs nothing otherwise. When another program
-/// keeps the keys for a second, the list closes and the log says so. Main thread only.
+/// keeps the keys for a second, or the loop stands still while the user does something, the list
+/// closes and the log says so. Main thread only.
 class QtWindowChooser {
 public:
     using Choice = std::function<void(std::uint32_t window)>;
@@ -39,6 +41,8 @@ private:
 
     X11Connection& connection_;
     Choice choice_;
+    /// The list has the pointer and the keys to itself; the user gets them back if the loop hangs.
+    TapWatchdog watchdog_{TapWatchdog::besideThisProgram(), ""};
     std::unique_ptr<Window> window_;
 };
 

@@ -28,17 +28,17 @@ std::filesystem::path TapWatchdog::besideThisProgram()
         / "brindlex-watchdog";
 }
 
-void TapWatchdog::watch(std::uint32_t window)
+void TapWatchdog::watch(WatchdogMessage order)
 {
     if (!socket_)
         start();
-    if (std::exchange(watched_, window) != window)
-        tell({WatchdogMessage::Order::watch, window});
+    if (std::exchange(watched_, order) != order)
+        tell(order);
 }
 
 void TapWatchdog::rest()
 {
-    if (std::exchange(watched_, 0) != 0)
+    if (std::exchange(watched_, {}) != WatchdogMessage{})
         tell({WatchdogMessage::Order::rest});
 }
 
@@ -106,8 +106,9 @@ void TapWatchdog::answer()
         return;
     Log::warn("Input watchdog: ended", logCategory::mouse);
     ended();
-    if (const auto window = std::exchange(watched_, 0))
-        watch(window);
+    const auto order = std::exchange(watched_, {});
+    if (order != WatchdogMessage{})
+        watch(order);
 }
 
 void TapWatchdog::ended()

@@ -13,7 +13,7 @@ class QSocketNotifier;
 namespace brindlex {
 
 /// The process beside the program that gives the user's input back when the program hangs or dies
-/// with devices taken.
+/// with devices taken, or hangs while a window of its own keeps the pointer and the keys.
 ///
 /// It is started with the first need. While something is taken and the user does something, it asks
 /// now and then whether the loop still turns, and cuts the connection of the taps when no answer
@@ -30,7 +30,11 @@ public:
     static std::filesystem::path besideThisProgram();
 
     /// Devices are taken through the connection to which the window belongs.
-    void watch(std::uint32_t window);
+    void watch(std::uint32_t window) { watch({WatchdogMessage::Order::watch, window}); }
+
+    /// The window is open and keeps the pointer and the keys to itself; it is taken from the screen
+    /// if the program hangs.
+    void watchOpen(std::uint32_t window) { watch({WatchdogMessage::Order::watchOpen, window}); }
 
     /// Nothing is taken any more.
     void rest();
@@ -39,6 +43,7 @@ public:
     void dismiss();
 
 private:
+    void watch(WatchdogMessage order);
     void start();
     void tell(WatchdogMessage message) const;
     void answer();
@@ -49,7 +54,8 @@ private:
     FileHandle socket_;
     pid_t process_ = -1;
     int startsLeft_ = 3;
-    std::uint32_t watched_ = 0;
+    /// What is watched; an empty order for nothing.
+    WatchdogMessage watched_{};
     std::unique_ptr<QSocketNotifier> notifier_;
 };
 

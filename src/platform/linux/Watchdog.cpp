@@ -19,13 +19,13 @@ int Watchdog::run()
             ask();
             enter(State::asking);
         } else if (state_ == State::asking && isDue) {
-            rescue_.cut(window_);
+            giveBack();
             enter(State::resting);
         } else if (state_ == State::pausing && isDue) {
             enter(State::listening);
         }
     }
-    if (hasEnded_ && !isDismissed_)
+    if (hasEnded_ && !isDismissed_ && !isOpenWindow_)
         rescue_.tidyAfter(window_);
     return 0;
 }
@@ -63,7 +63,9 @@ void Watchdog::obey(const WatchdogMessage& message)
     case WatchdogMessage::Order::ask:
         return;
     case WatchdogMessage::Order::watch:
+    case WatchdogMessage::Order::watchOpen:
         window_ = message.window;
+        isOpenWindow_ = message.order == WatchdogMessage::Order::watchOpen;
         enter(State::listening);
         return;
     case WatchdogMessage::Order::rest:
@@ -88,6 +90,14 @@ void Watchdog::enter(State state)
         deadline_ = Clock::now() + patience;
     else if (state == State::pausing)
         deadline_ = Clock::now() + interval;
+}
+
+void Watchdog::giveBack()
+{
+    if (isOpenWindow_)
+        rescue_.close(window_);
+    else
+        rescue_.cut(window_);
 }
 
 void Watchdog::ask() const

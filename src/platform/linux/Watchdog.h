@@ -37,11 +37,13 @@ private:
     void obey(const WatchdogMessage& message);
     void enter(State state);
     void ask() const;
+    void giveBack();
 
     InputRescue rescue_;
     State state_ = State::resting;
     Clock::time_point deadline_{};
     std::uint32_t window_ = 0;
+    bool isOpenWindow_ = false;
     bool hasEnded_ = false;
     bool isDismissed_ = false;
 };

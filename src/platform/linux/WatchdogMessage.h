@@ -11,6 +11,9 @@ struct WatchdogMessage {
         ask,
         /// Input is taken through the connection of the window, and may have to be given back.
         watch,
+        /// The window keeps the pointer and the keys to itself, as a menu does, and may have to be
+        /// taken from the screen, which ends that.
+        watchOpen,
         /// Nothing is taken.
         rest,
         alive,
@@ -20,6 +23,8 @@ struct WatchdogMessage {
 
     Order order{};
     std::uint32_t window = 0;
+
+    bool operator==(const WatchdogMessage&) const = default;
 };
 
 /// The descriptor at which the watchdog finds its end of the connection.
