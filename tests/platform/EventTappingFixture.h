@@ -36,6 +36,18 @@ protected:
         session_.settle();
     }
 
+    /// Clicks two buttons, of which the tap sees and swallows the first.
+    void expectThatTheThirdButtonIsKept()
+    {
+        session_.press(3);
+        session_.release(3);
+        session_.press(4);
+        session_.release(4);
+
+        EXPECT_TRUE(session_.receives({"press 9", "release 9"}));
+        EXPECT_EQ(seen_, (std::vector<std::string>{"25 3", "26 3"}));
+    }
+
     static constexpr EventMask otherButtons = 0xE000000;
     static constexpr EventMask keys = 0xC00;
     static EventInterest button(std::int64_t number, std::optional<std::uint64_t> flags = {})

@@ -30,13 +30,7 @@ TYPED_TEST(EventTappingPromise, keepsWhatIsSwallowedFromTheApplications)
 {
     this->tap({this->button(3)}, EventVerdict::swallow);
 
-    this->session_.press(3);
-    this->session_.release(3);
-    this->session_.press(4);
-    this->session_.release(4);
-
-    EXPECT_TRUE(this->session_.receives({"press 9", "release 9"}));
-    EXPECT_EQ(this->seen_, (Lines{"25 3", "26 3"}));
+    this->expectThatTheThirdButtonIsKept();
 }
 
 TYPED_TEST(EventTappingPromise, keepsAlsoWhatIsSwallowedLate)
@@ -47,13 +41,7 @@ TYPED_TEST(EventTappingPromise, keepsAlsoWhatIsSwallowedLate)
     };
     this->tap({this->button(3)});
 
-    this->session_.press(3);
-    this->session_.release(3);
-    this->session_.press(4);
-    this->session_.release(4);
-
-    EXPECT_TRUE(this->session_.receives({"press 9", "release 9"}));
-    EXPECT_EQ(this->seen_, (Lines{"25 3", "26 3"}));
+    this->expectThatTheThirdButtonIsKept();
 }
 
 TYPED_TEST(EventTappingPromise, leavesAloneWhatIsNoTrigger)

@@ -54,6 +54,7 @@ private:
         xcb_window_t window = 0;
         /// The input context that had the keyboard when it was selected; empty for none.
         QString context{};
+        /// When it was last asked for.
         Clock::time_point since = Clock::now();
     };
 
@@ -64,6 +65,7 @@ private:
     void readCurrent(DBusDeadline deadline);
     void takeCurrent(const QDBusMessage& reply);
     void setCurrent(const std::string& method);
+    /// What there is to be known now: the current method, or what has become of the wish.
     void ask();
     /// Looks a moment after the daemon has answered, unless another selection came since: an engine
     /// that has to be started keeps the daemon from giving anybody the keyboard.

@@ -43,6 +43,7 @@ private:
     State state_ = State::resting;
     Clock::time_point deadline_{};
     std::uint32_t window_ = 0;
+    /// Whether the window itself keeps the pointer and the keys; else its connection has devices.
     bool isOpenWindow_ = false;
     bool hasEnded_ = false;
     bool isDismissed_ = false;
