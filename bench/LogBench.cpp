@@ -3,7 +3,7 @@
 /// Everything is real but the system log, which takes its messages and does nothing. A call
 /// includes the making of its message. Run it from a release build: `bench_log [folder]`.
 
-#include "app/LogWriter.h"
+#include "log/LogWriter.h"
 #include "platform/SystemLog.h"
 #include "platform/posix/PosixAppGroupContainer.h"
 #include "platform/posix/PosixClock.h"

@@ -1,7 +1,7 @@
 // What one event costs between the system and the applications.
 
 #include "CountedAllocations.h"
-#include "mouse/GlobalEventTap.h"
+#include "eventtap/GlobalEventTap.h"
 #include "mouse/MouseGesture.h"
 #include "mouse/ScrollMotion.h"
 #include "platform/simulated/SimulatedEventPermissions.h"

@@ -1,7 +1,7 @@
 #include "MousePeers.h"
 
-#include "support/Eventually.h"
-#include "support/ProcessTable.h"
+#include "support/basics/Eventually.h"
+#include "support/processes/ProcessTable.h"
 
 #include <cstdlib>
 #include <fstream>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "support/ChildProcess.h"
-#include "support/VirtualDesktop.h"
-#include "support/XConnection.h"
+#include "support/processes/ChildProcess.h"
+#include "support/screen/VirtualDesktop.h"
+#include "support/screen/XConnection.h"
 
 #include <memory>
 #include <string>

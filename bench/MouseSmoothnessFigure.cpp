@@ -1,9 +1,9 @@
 #include "MouseFigures.h"
 #include "MouseMeasuring.h"
 #include "mouse/ScrollMotion.h"
-#include "platform/linux/QtMainThread.h"
-#include "platform/linux/RandRDisplayLink.h"
-#include "platform/linux/WheelTicks.h"
+#include "platform/linux/input/WheelTicks.h"
+#include "platform/linux/system/QtMainThread.h"
+#include "platform/linux/windows/RandRDisplayLink.h"
 #include "platform/posix/PosixClock.h"
 
 #include <algorithm>

@@ -1,9 +1,10 @@
 // What one change of application costs in preferences: the learning record is written twice.
 
 #include "inputmethod/SmartInputMethodConfigStore.h"
-#include "platform/linux/JsonFileUserDefaults.h"
-#include "platform/linux/QtMainThread.h"
+#include "platform/linux/preferences/JsonFileUserDefaults.h"
+#include "platform/linux/system/QtMainThread.h"
 #include "platform/posix/SerialQueue.h"
+#include "preferences/UserDefaultsStorageBox.h"
 
 #include <QCoreApplication>
 #include <benchmark/benchmark.h>

@@ -7,17 +7,17 @@
 // naming the window to the server's keyboard having the group, seen by one other client.
 
 #include "Distribution.h"
-#include "platform/linux/XkbProtocol.h"
-#include "support/DesktopWindows.h"
-#include "support/Eventually.h"
-#include "support/InstalledApplication.h"
-#include "support/KeyboardGroup.h"
-#include "support/PlainWindow.h"
-#include "support/ProgramFiles.h"
-#include "support/RunningProgram.h"
-#include "support/SwitchingRules.h"
-#include "support/VirtualDesktop.h"
-#include "support/XConnection.h"
+#include "platform/linux/x11/XkbProtocol.h"
+#include "support/basics/Eventually.h"
+#include "support/hardware/KeyboardGroup.h"
+#include "support/processes/ProgramFiles.h"
+#include "support/processes/RunningProgram.h"
+#include "support/screen/DesktopWindows.h"
+#include "support/screen/VirtualDesktop.h"
+#include "support/screen/XConnection.h"
+#include "support/switching/SwitchingRules.h"
+#include "support/windows/InstalledApplication.h"
+#include "support/windows/PlainWindow.h"
 
 #include <poll.h>
 #include <unistd.h>

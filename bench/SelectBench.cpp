@@ -8,17 +8,17 @@
 // the answer to it. "select" is the call of the program's interface, by which the source is
 // selected unless the daemon takes longer than 30 ms.
 
-#include "platform/linux/DesktopInputSources.h"
-#include "platform/linux/IBusAddress.h"
-#include "platform/linux/X11RunningApplications.h"
-#include "platform/linux/X11WindowReading.h"
-#include "platform/linux/XkbProtocol.h"
-#include "support/ChildProcess.h"
-#include "support/DesktopWindows.h"
-#include "support/FcitxDaemon.h"
-#include "support/IBusDaemon.h"
-#include "support/TypingWindow.h"
-#include "support/VirtualDesktop.h"
+#include "platform/linux/applications/X11RunningApplications.h"
+#include "platform/linux/inputsources/DesktopInputSources.h"
+#include "platform/linux/inputsources/IBusAddress.h"
+#include "platform/linux/windows/X11WindowReading.h"
+#include "platform/linux/x11/XkbProtocol.h"
+#include "support/daemons/FcitxDaemon.h"
+#include "support/daemons/IBusDaemon.h"
+#include "support/processes/ChildProcess.h"
+#include "support/screen/DesktopWindows.h"
+#include "support/screen/VirtualDesktop.h"
+#include "support/windows/TypingWindow.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>

@@ -1,10 +1,10 @@
 #include "Distribution.h"
 #include "ProcessorTime.h"
 #include "TargetWindow.h"
-#include "support/ChildProcess.h"
-#include "support/Eventually.h"
-#include "support/PlayedHardware.h"
-#include "support/VirtualDesktop.h"
+#include "support/basics/Eventually.h"
+#include "support/hardware/PlayedHardware.h"
+#include "support/processes/ChildProcess.h"
+#include "support/screen/VirtualDesktop.h"
 
 #include <chrono>
 #include <cstdio>

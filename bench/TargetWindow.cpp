@@ -1,6 +1,6 @@
 #include "TargetWindow.h"
 
-#include "support/Eventually.h"
+#include "support/basics/Eventually.h"
 
 #include <algorithm>
 #include <poll.h>

@@ -1,10 +1,9 @@
 #include "app/AppLifecycleCoordinator.h"
 
-#include "app/AppGroupFolders.h"
-#include "app/Log.h"
-#include "app/PreferenceSeeding.h"
 #include "app/ProgramIdentity.h"
 #include "app/SingleInstanceManager.h"
+#include "log/Log.h"
+#include "platform/AppGroupFolders.h"
 
 namespace brindlex {
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/Platform.h"
 #include "app/SharedInstances.h"
 #include "foundation/Subscription.h"
+#include "platform/Platform.h"
 
 namespace brindlex {
 

@@ -1,11 +1,8 @@
 #pragma once
 
-#include "app/PreferenceAccess.h"
 #include "app/UserDefaultPreferenceKeys.h"
 #include "platform/UserDefaults.h"
 #include "platform/UserFolders.h"
-
-#include <type_traits>
 
 namespace brindlex {
 
@@ -17,9 +14,6 @@ namespace brindlex {
 /// Reading is allowed from any thread; everything else from the main thread only.
 class Preferences {
 public:
-    template <typename Value>
-    using Key = PreferenceKey<Value> UserDefaultPreferenceKeys::*;
-
     Preferences(UserDefaults& defaults, const UserFolders& folders)
         : defaults_(defaults), folders_(folders)
     {
@@ -29,29 +23,29 @@ public:
     UserDefaultPreferenceKeys keys() const { return UserDefaultPreferenceKeys::forUser(folders_); }
 
     /// The stored value; the default where there is none that can be read.
-    template <typename Value>
-    Value read(Key<Value> key) const
+    template <UserDefaultPreferenceKey Key>
+    typename Key::Value read(Key UserDefaultPreferenceKeys::*key) const
     {
         return readPreference(defaults_, keys().*key);
     }
 
     /// Whether anything is stored, readable or not.
-    template <typename Value>
-    bool hasStoredObject(Key<Value> key) const
+    template <UserDefaultPreferenceKey Key>
+    bool hasStoredObject(Key UserDefaultPreferenceKeys::*key) const
     {
         return defaults_.value((keys().*key).key).has_value();
     }
 
     /// Stores the value, whatever is stored so far.
-    template <typename Value>
-    void write(Key<Value> key, const std::type_identity_t<Value>& value)
+    template <UserDefaultPreferenceKey Key>
+    void write(Key UserDefaultPreferenceKeys::*key, const typename Key::Value& value)
     {
         writePreference(defaults_, keys().*key, value);
     }
 
     /// Takes away what is stored, so that the default holds.
-    template <typename Value>
-    void remove(Key<Value> key)
+    template <UserDefaultPreferenceKey Key>
+    void remove(Key UserDefaultPreferenceKeys::*key)
     {
         defaults_.set((keys().*key).key, {});
     }

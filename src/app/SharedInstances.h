@@ -1,12 +1,11 @@
 #pragma once
 
 #include "app/OverlayHUDController.h"
-#include "app/Platform.h"
 #include "app/Preferences.h"
+#include "eventtap/GlobalEventTap.h"
 #include "inputmethod/InputMethodConfigStore.h"
 #include "inputmethod/InputMethodSwitchCoordinator.h"
 #include "inputmethod/SmartInputMethodConfigStore.h"
-#include "mouse/GlobalEventTap.h"
 #include "mouse/MouseActionDispatcher.h"
 #include "mouse/MouseClickManager.h"
 #include "mouse/MouseConfigStore.h"
@@ -14,6 +13,7 @@
 #include "mouse/MouseResizeCursorDetector.h"
 #include "mouse/MouseScrollManager.h"
 #include "mouse/SpaceSwitcher.h"
+#include "platform/Platform.h"
 
 #include <memory>
 

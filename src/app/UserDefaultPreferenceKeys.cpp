@@ -1,6 +1,10 @@
 #include "app/UserDefaultPreferenceKeys.h"
 
+#include "preferences/UserDefaultsStorageBox.h"
+
 namespace brindlex {
+
+template struct PreferenceForm<HotkeyCombo>;
 
 UserDefaultPreferenceKeys UserDefaultPreferenceKeys::forUser(const UserFolders& folders)
 {

@@ -2,52 +2,69 @@
 
 #include "app/LanguagePreference.h"
 #include "app/MainWindowTab.h"
-#include "app/PreferenceKey.h"
-#include "inputmethod/InputMethodConfig.h"
-#include "inputmethod/SmartInputMethodConfig.h"
-#include "mouse/HotkeyCombo.h"
-#include "mouse/MouseConfig.h"
+#include "clipboard/ClipboardPreferenceKeys.h"
+#include "inputmethod/InputMethodPreferenceKeys.h"
+#include "mouse/MousePreferenceKeys.h"
 #include "platform/UserFolders.h"
+#include "preferences/PreferenceTable.h"
+#include "screenshot/ScreenshotPreferenceKeys.h"
 
-#include <cstdint>
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace brindlex {
 
-/// All preferences: the one place that knows under what they are stored and what their defaults
-/// are. A preference is named by its member, `&UserDefaultPreferenceKeys::launchAtLogin`.
+extern template struct PreferenceForm<HotkeyCombo>;
+
+/// All preferences of the program in their order: its own, and those that the subsystems declare.
+/// A preference is named by its member, `&UserDefaultPreferenceKeys::launchAtLogin`.
 struct UserDefaultPreferenceKeys {
+    using Keys = UserDefaultPreferenceKeys;
+    using Screenshot = ScreenshotPreferenceKeys;
+    using InputMethod = InputMethodPreferenceKeys;
+    using Clipboard = ClipboardPreferenceKeys;
+
     PreferenceKey<MainWindowTab> selectedMainWindowTab{
         MainWindowTab::general, "selectedMainWindowTab"};
     PreferenceKey<bool> launchAtLogin{false, "launchAtLogin"};
     PreferenceKey<bool> showsDockIcon{true, "showsDockIcon"};
     /// The default is the user's download folder; only `forUser` knows it.
-    PreferenceKey<std::string> screenshotSaveDirectoryPath{"", "screenshotSaveDirectoryPath"};
-    /// Option and the key A.
-    PreferenceKey<HotkeyCombo> screenshotHotkey{{0, ModifierSet::option}, "screenshotHotkey"};
-    PreferenceKey<std::string> baiduOCRAPIToken{"", "baiduOCRAPIToken"};
-    PreferenceKey<std::string> lastRunAppVersion{"", "lastRunAppVersion"};
-    PreferenceKey<std::string> updatedFromVersion{"", "updatedFromVersion"};
+    PreferenceKey<std::string> screenshotSaveDirectoryPath
+        = Screenshot{}.screenshotSaveDirectoryPath;
+    PreferenceKey<HotkeyCombo> screenshotHotkey = Screenshot{}.screenshotHotkey;
+    PreferenceKey<std::string> baiduOCRAPIToken = Screenshot{}.baiduOCRAPIToken;
+    PreferenceKey<std::string, Seeding::never> lastRunAppVersion{"", "lastRunAppVersion"};
+    PreferenceKey<std::string, Seeding::never> updatedFromVersion{"", "updatedFromVersion"};
     PreferenceKey<LanguagePreference> languagePreference{
         LanguagePreference::system, "languagePreference"};
-    PreferenceKey<InputMethodConfig> inputMethodConfig{{}, "inputMethodConfig"};
-    PreferenceKey<SmartInputMethodConfig> smartInputMethodConfig{{}, "smartInputMethodConfig"};
-    PreferenceKey<MouseConfig> mouseConfig{{}, "mouseConfig"};
-    PreferenceKey<bool> clipboardHistoryEnabled{true, "clipboardHistoryEnabled"};
-    PreferenceKey<bool> clipboardAutoPaste{true, "clipboardAutoPaste"};
-    PreferenceKey<std::int64_t> clipboardMaxItems{200, "clipboardMaxItems"};
-    /// Command, shift and the key V.
-    PreferenceKey<HotkeyCombo> clipboardHotkey{
-        {9, ModifierSet::command | ModifierSet::shift}, "clipboardHotkey"};
+    PreferenceKey<InputMethodConfig> inputMethodConfig = InputMethod{}.inputMethodConfig;
+    PreferenceKey<SmartInputMethodConfig> smartInputMethodConfig
+        = InputMethod{}.smartInputMethodConfig;
+    PreferenceKey<MouseConfig> mouseConfig = MousePreferenceKeys{}.mouseConfig;
+    PreferenceKey<bool> clipboardHistoryEnabled = Clipboard{}.clipboardHistoryEnabled;
+    PreferenceKey<bool> clipboardAutoPaste = Clipboard{}.clipboardAutoPaste;
+    PreferenceKey<std::int64_t> clipboardMaxItems = Clipboard{}.clipboardMaxItems;
+    PreferenceKey<HotkeyCombo> clipboardHotkey = Clipboard{}.clipboardHotkey;
     PreferenceKey<bool> shouldRestoreFocusAfterLanguageRelaunch{
         false, "shouldRestoreFocusAfterLanguageRelaunch"};
-    PreferenceKey<std::vector<std::string>> appleLanguages{{}, "AppleLanguages"};
+    PreferenceKey<std::vector<std::string>, Seeding::never> appleLanguages{{}, "AppleLanguages"};
 
     bool operator==(const UserDefaultPreferenceKeys&) const = default;
 
     /// The keys with the defaults that hold for the user at this moment.
     static UserDefaultPreferenceKeys forUser(const UserFolders& folders);
+
+    static constexpr auto members()
+    {
+        return std::tuple{&Keys::selectedMainWindowTab, &Keys::launchAtLogin, &Keys::showsDockIcon,
+            &Keys::screenshotSaveDirectoryPath, &Keys::screenshotHotkey, &Keys::baiduOCRAPIToken,
+            &Keys::lastRunAppVersion, &Keys::updatedFromVersion, &Keys::languagePreference,
+            &Keys::inputMethodConfig, &Keys::smartInputMethodConfig, &Keys::mouseConfig,
+            &Keys::clipboardHistoryEnabled, &Keys::clipboardAutoPaste, &Keys::clipboardMaxItems,
+            &Keys::clipboardHotkey, &Keys::shouldRestoreFocusAfterLanguageRelaunch,
+            &Keys::appleLanguages};
+    }
 };
 
 } // namespace brindlex

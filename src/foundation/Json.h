@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/JsonForm.h"
 #include "foundation/Result.h"
 
 #include <nlohmann/json.hpp>
@@ -9,20 +10,9 @@
 
 namespace brindlex {
 
-/// A JSON document; objects keep their keys in the order of insertion.
-using Json = nlohmann::ordered_json;
-
 /// A JSON document whose objects keep their keys sorted, which takes any number of keys in little
 /// time; in a `Json` object each key costs a look at all others.
 using SortedJson = nlohmann::json;
-
-/// Where a document does not have the declared form, and what is wrong there.
-struct JsonProblem {
-    std::string path{};
-    std::string reason{};
-
-    bool operator==(const JsonProblem&) const = default;
-};
 
 /// The document as compact text. Bytes that are not UTF-8 become U+FFFD.
 std::string jsonText(const Json& document);

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "foundation/Date.h"
+#include "foundation/FieldCount.h"
 #include "foundation/Json.h"
+#include "foundation/JsonEnumeration.h"
+#include "foundation/JsonForm.h"
 #include "foundation/Uuid.h"
 
 #include <cmath>
@@ -10,20 +13,17 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <tuple>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
 namespace brindlex {
 
-/// How a value of a type is written as JSON and read back:
+/// The value as a document, by its coding:
 ///
 ///     static Json encode(const Value&);
 ///     static Result<Value, JsonProblem> decode(const Json&);
-///
-/// Records get theirs from `JsonForm.h`, enumerations with stored values from `JsonEnumeration.h`.
-template <typename Value>
-struct JsonCoding;
-
 template <typename Value>
 Json toJson(const Value& value)
 {
@@ -170,6 +170,104 @@ struct JsonCoding<std::map<std::string, Element>> {
         }
         return values;
     }
+};
+
+template <HasStoredValues Enumeration>
+struct JsonCoding<Enumeration> {
+    using Stored = std::decay_t<decltype(storedValue(Enumeration{}))>;
+    using Decoded = std::conditional_t<std::is_integral_v<Stored>, Stored, std::string>;
+
+    static Json encode(Enumeration value) { return storedValue(value); }
+    static Result<Enumeration, JsonProblem> decode(const Json& document)
+    {
+        const auto stored = fromJson<Decoded>(document);
+        if (!stored)
+            return fail(stored.error());
+        const auto value = caseWithStoredValue<Enumeration>(*stored);
+        if (!value)
+            return fail(JsonProblem{"", "is not a value of the enumeration"});
+        return *value;
+    }
+};
+
+/// Whether the declared form names as many fields as the record has.
+template <HasJsonForm Record>
+constexpr bool jsonFormIsComplete
+    = std::tuple_size_v<decltype(Record::jsonForm())> == fieldCount<Record>();
+
+template <HasJsonForm Record>
+struct JsonCoding<Record> {
+    static_assert(jsonFormIsComplete<Record>);
+
+    static Json encode(const Record& record)
+    {
+        auto document = Json::object();
+        std::apply([&](const auto&... field) { (write(field, record, document), ...); },
+            Record::jsonForm());
+        return document;
+    }
+
+    static Result<Record, JsonProblem> decode(const Json& document)
+    {
+        if (!document.is_object())
+            return fail(JsonProblem{"", "is not an object"});
+        Record record{};
+        std::optional<JsonProblem> problem;
+        std::apply([&](const auto&... field) { (read(field, document, record, problem), ...); },
+            Record::jsonForm());
+        if (problem)
+            return fail(*std::move(problem));
+        if constexpr (requires { record.afterDecoding(); })
+            record.afterDecoding();
+        return record;
+    }
+
+private:
+    template <typename Member, MissingKey missing>
+    static void write(
+        const JsonField<Record, Member, missing>& field, const Record& record, Json& document)
+    {
+        const Member& value = record.*field.member;
+        if constexpr (missing == MissingKey::isAbsent) {
+            if (value)
+                document[field.key] = toJson(*value);
+        } else {
+            document[field.key] = toJson(value);
+        }
+    }
+
+    template <typename Member, MissingKey missing>
+    static void read(const JsonField<Record, Member, missing>& field, const Json& document,
+        Record& record, std::optional<JsonProblem>& problem)
+    {
+        if (problem)
+            return;
+        const auto found = document.find(field.key);
+        const bool isMissing
+            = found == document.end() || (missing != MissingKey::isAProblem && found->is_null());
+        if (isMissing) {
+            if constexpr (missing == MissingKey::isAProblem)
+                problem = JsonProblem{field.key, "is missing"};
+            else if constexpr (missing == MissingKey::isComputed)
+                record.*field.member = field.compute();
+            return;
+        }
+        using Stored = typename StoredType<Member>::Type;
+        auto value = fromJson<Stored>(*found);
+        if (value)
+            record.*field.member = *std::move(value);
+        else
+            problem = within(field.key, value.error());
+    }
+
+    template <typename Member>
+    struct StoredType {
+        using Type = Member;
+    };
+    template <typename Member>
+    struct StoredType<std::optional<Member>> {
+        using Type = Member;
+    };
 };
 
 } // namespace brindlex

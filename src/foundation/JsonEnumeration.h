@@ -1,7 +1,5 @@
 #pragma once
 
-#include "foundation/JsonCoding.h"
-
 #include <array>
 #include <optional>
 #include <type_traits>
@@ -56,23 +54,5 @@ constexpr std::optional<Enumeration> caseWithStoredValue(const Stored& wanted)
             return value;
     return {};
 }
-
-template <HasStoredValues Enumeration>
-struct JsonCoding<Enumeration> {
-    using Stored = std::decay_t<decltype(storedValue(Enumeration{}))>;
-    using Decoded = std::conditional_t<std::is_integral_v<Stored>, Stored, std::string>;
-
-    static Json encode(Enumeration value) { return storedValue(value); }
-    static Result<Enumeration, JsonProblem> decode(const Json& document)
-    {
-        const auto stored = fromJson<Decoded>(document);
-        if (!stored)
-            return fail(stored.error());
-        const auto value = caseWithStoredValue<Enumeration>(*stored);
-        if (!value)
-            return fail(JsonProblem{"", "is not a value of the enumeration"});
-        return *value;
-    }
-};
 
 } // namespace brindlex

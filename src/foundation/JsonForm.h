@@ -1,14 +1,31 @@
 #pragma once
 
-#include "foundation/JsonCoding.h"
+#include <nlohmann/json_fwd.hpp>
 
-#include <cstddef>
 #include <optional>
+#include <string>
 #include <tuple>
 #include <type_traits>
-#include <utility>
 
 namespace brindlex {
+
+/// A JSON document; objects keep their keys in the order of insertion. Whoever looks into one
+/// includes `Json.h`.
+using Json = nlohmann::ordered_json;
+
+/// Where a document does not have the declared form, and what is wrong there.
+struct JsonProblem {
+    std::string path{};
+    std::string reason{};
+
+    bool operator==(const JsonProblem&) const = default;
+};
+
+/// How a value is written as JSON and read back. Records with a form, enumerations with stored
+/// values and what they are made of have theirs in `JsonCoding.h`; any other type declares its own
+/// beside itself and defines it in its source, so that its readers need no JSON library.
+template <typename Value>
+struct JsonCoding;
 
 /// What a missing key of a record means. A key with the value null counts as missing, except for a
 /// required one.
@@ -50,116 +67,13 @@ constexpr auto omittedWhenAbsent(const char* key, std::optional<Member> Record::
     return JsonField<Record, std::optional<Member>, MissingKey::isAbsent>{key, member};
 }
 
-/// A record that declares its form as `static constexpr auto jsonForm()`, a tuple of `JsonField`.
-/// Where it also has a member `afterDecoding()`, reading ends with that.
+/// A record that declares its form as `static constexpr auto jsonForm()`, a tuple of `JsonField`
+/// for all of its fields; whoever codes it proves at compile time that none is forgotten. Where it
+/// also has a member `afterDecoding()`, reading ends with that.
 template <typename Record>
 concept HasJsonForm = std::is_class_v<Record> && requires
 {
     Record::jsonForm();
-};
-
-namespace detail {
-
-struct AnyField {
-    template <typename Field>
-    operator Field() const;
-};
-
-template <typename Record, std::size_t... index>
-constexpr bool acceptsFields(std::index_sequence<index...>)
-{
-    return requires { Record{(static_cast<void>(index), AnyField{})...}; };
-}
-
-} // namespace detail
-
-/// How many fields an aggregate has.
-template <typename Record, std::size_t count = 0>
-constexpr std::size_t fieldCount()
-{
-    if constexpr (detail::acceptsFields<Record>(std::make_index_sequence<count + 1>{}))
-        return fieldCount<Record, count + 1>();
-    else
-        return count;
-}
-
-/// Whether the declared form names as many fields as the record has. To be asserted beside every
-/// record that is stored.
-template <HasJsonForm Record>
-constexpr bool jsonFormIsComplete
-    = std::tuple_size_v<decltype(Record::jsonForm())> == fieldCount<Record>();
-
-template <HasJsonForm Record>
-struct JsonCoding<Record> {
-    static Json encode(const Record& record)
-    {
-        auto document = Json::object();
-        std::apply([&](const auto&... field) { (write(field, record, document), ...); },
-            Record::jsonForm());
-        return document;
-    }
-
-    static Result<Record, JsonProblem> decode(const Json& document)
-    {
-        if (!document.is_object())
-            return fail(JsonProblem{"", "is not an object"});
-        Record record{};
-        std::optional<JsonProblem> problem;
-        std::apply([&](const auto&... field) { (read(field, document, record, problem), ...); },
-            Record::jsonForm());
-        if (problem)
-            return fail(*std::move(problem));
-        if constexpr (requires { record.afterDecoding(); })
-            record.afterDecoding();
-        return record;
-    }
-
-private:
-    template <typename Member, MissingKey missing>
-    static void write(
-        const JsonField<Record, Member, missing>& field, const Record& record, Json& document)
-    {
-        const Member& value = record.*field.member;
-        if constexpr (missing == MissingKey::isAbsent) {
-            if (value)
-                document[field.key] = toJson(*value);
-        } else {
-            document[field.key] = toJson(value);
-        }
-    }
-
-    template <typename Member, MissingKey missing>
-    static void read(const JsonField<Record, Member, missing>& field, const Json& document,
-        Record& record, std::optional<JsonProblem>& problem)
-    {
-        if (problem)
-            return;
-        const auto found = document.find(field.key);
-        const bool isMissing
-            = found == document.end() || (missing != MissingKey::isAProblem && found->is_null());
-        if (isMissing) {
-            if constexpr (missing == MissingKey::isAProblem)
-                problem = JsonProblem{field.key, "is missing"};
-            else if constexpr (missing == MissingKey::isComputed)
-                record.*field.member = field.compute();
-            return;
-        }
-        using Stored = typename StoredType<Member>::Type;
-        auto value = fromJson<Stored>(*found);
-        if (value)
-            record.*field.member = *std::move(value);
-        else
-            problem = within(field.key, value.error());
-    }
-
-    template <typename Member>
-    struct StoredType {
-        using Type = Member;
-    };
-    template <typename Member>
-    struct StoredType<std::optional<Member>> {
-        using Type = Member;
-    };
 };
 
 } // namespace brindlex

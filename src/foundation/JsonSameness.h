@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Date.h"
 #include "foundation/JsonForm.h"
 
 #include <algorithm>

@@ -32,7 +32,6 @@ struct DomainInputMethodRule {
         };
     }
 };
-static_assert(jsonFormIsComplete<DomainInputMethodRule>);
 
 } // namespace brindlex
 

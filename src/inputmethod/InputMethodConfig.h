@@ -37,6 +37,5 @@ struct InputMethodConfig {
         };
     }
 };
-static_assert(jsonFormIsComplete<InputMethodConfig>);
 
 } // namespace brindlex

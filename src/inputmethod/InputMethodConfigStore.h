@@ -1,16 +1,17 @@
 #pragma once
 
-#include "app/ConfigurationStore.h"
-#include "app/UserDefaultPreferenceKeys.h"
-#include "inputmethod/InputMethodConfig.h"
+#include "inputmethod/InputMethodPreferenceKeys.h"
+#include "preferences/ConfigurationStore.h"
 
 namespace brindlex {
+
+extern template class ConfigurationStore<InputMethodConfig>;
 
 /// Keeps the hand-written switching rules under the preference "inputMethodConfig".
 class InputMethodConfigStore : public ConfigurationStore<InputMethodConfig> {
 public:
     explicit InputMethodConfigStore(UserDefaultsType& defaults)
-        : ConfigurationStore(defaults, UserDefaultPreferenceKeys{}.inputMethodConfig)
+        : ConfigurationStore(defaults, InputMethodPreferenceKeys{}.inputMethodConfig)
     {
     }
 };

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/AppIdentifier.h"
+#include "applications/AppIdentifier.h"
 #include "foundation/JsonForm.h"
 #include "foundation/Uuid.h"
 #include "platform/InputSourceIdentifiers.h"
@@ -32,7 +32,6 @@ struct InputMethodRule {
         };
     }
 };
-static_assert(jsonFormIsComplete<InputMethodRule>);
 
 } // namespace brindlex
 

@@ -1,10 +1,10 @@
 #include "inputmethod/InputMethodSwitchCoordinator.h"
 
-#include "app/AppIdentifierLoader.h"
-#include "app/Log.h"
+#include "applications/AppIdentifierLoader.h"
 #include "inputmethod/BrowserURLProvider.h"
 #include "inputmethod/SwitchReducer.h"
 #include "inputmethod/TextInputSourceService.h"
+#include "log/Log.h"
 
 namespace brindlex {
 namespace {

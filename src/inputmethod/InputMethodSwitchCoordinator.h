@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/AppIdentifier.h"
+#include "applications/AppIdentifier.h"
 #include "foundation/Subscription.h"
 #include "inputmethod/InputMethodConfigStore.h"
 #include "inputmethod/SmartInputMethodConfigStore.h"

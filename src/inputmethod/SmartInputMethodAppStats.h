@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/AppIdentifier.h"
+#include "applications/AppIdentifier.h"
 #include "foundation/Date.h"
 #include "foundation/JsonForm.h"
 #include "foundation/Uuid.h"
@@ -62,6 +62,5 @@ struct SmartInputMethodAppStats {
         };
     }
 };
-static_assert(jsonFormIsComplete<SmartInputMethodAppStats>);
 
 } // namespace brindlex

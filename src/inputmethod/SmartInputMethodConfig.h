@@ -77,6 +77,5 @@ struct SmartInputMethodConfig {
         };
     }
 };
-static_assert(jsonFormIsComplete<SmartInputMethodConfig>);
 
 } // namespace brindlex

@@ -1,13 +1,15 @@
 #include "inputmethod/SmartInputMethodConfigStore.h"
 
-#include "app/UserDefaultPreferenceKeys.h"
+#include "inputmethod/InputMethodPreferenceKeys.h"
 
 #include <utility>
 
 namespace brindlex {
 
+template class ConfigurationStore<SmartInputMethodConfig>;
+
 SmartInputMethodConfigStore::SmartInputMethodConfigStore(UserDefaultsType& defaults)
-    : ConfigurationStore(defaults, UserDefaultPreferenceKeys{}.smartInputMethodConfig)
+    : ConfigurationStore(defaults, InputMethodPreferenceKeys{}.smartInputMethodConfig)
 {
 }
 

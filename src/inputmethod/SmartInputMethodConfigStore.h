@@ -1,9 +1,11 @@
 #pragma once
 
-#include "app/ConfigurationStore.h"
 #include "inputmethod/SmartInputMethodConfig.h"
+#include "preferences/ConfigurationStore.h"
 
 namespace brindlex {
+
+extern template class ConfigurationStore<SmartInputMethodConfig>;
 
 /// Keeps what was learned from the user under the preference "smartInputMethodConfig".
 class SmartInputMethodConfigStore : public ConfigurationStore<SmartInputMethodConfig> {

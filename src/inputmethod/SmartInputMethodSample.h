@@ -28,6 +28,5 @@ struct SmartInputMethodSample {
 private:
     static Date timeOfReading();
 };
-static_assert(jsonFormIsComplete<SmartInputMethodSample>);
 
 } // namespace brindlex

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/AppIdentifier.h"
+#include "applications/AppIdentifier.h"
 #include "foundation/Date.h"
 
 #include <functional>

@@ -1,6 +1,6 @@
 #include "inputmethod/TextInputSourceService.h"
 
-#include "app/Log.h"
+#include "log/Log.h"
 
 namespace brindlex {
 namespace {

@@ -1,5 +1,7 @@
 #include "mouse/MouseAction.h"
 
+#include "foundation/JsonCoding.h"
+
 #include <array>
 #include <utility>
 

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "eventtap/ModifierSet.h"
 #include "foundation/Cases.h"
 #include "foundation/JsonForm.h"
-#include "mouse/ModifierSet.h"
+#include "foundation/Result.h"
 
 #include <cstdint>
 #include <string>
@@ -58,8 +59,6 @@ struct MouseAction {
     using Any = Cases<MissionControl, Back, Forward, ShowDesktop, SwitchSpaceLeft, SwitchSpaceRight,
         SendKeystroke, RunShellCommand>;
 };
-static_assert(jsonFormIsComplete<MouseAction::SendKeystroke>);
-static_assert(jsonFormIsComplete<MouseAction::RunShellCommand>);
 
 /// Stored as an object with one key, the case's name: `{"back":{}}`,
 /// `{"sendKeystroke":{"keyCode":49,"modifiers":1}}`, `{"runShellCommand":{"_0":"echo hi"}}`.

@@ -1,6 +1,6 @@
 #include "mouse/MouseActionDispatcher.h"
 
-#include "app/Log.h"
+#include "log/Log.h"
 #include "mouse/MouseActionEffect.h"
 #include "mouse/SpaceSwitcher.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "eventtap/ModifierSet.h"
 #include "foundation/JsonForm.h"
 #include "foundation/Uuid.h"
-#include "mouse/ModifierSet.h"
 #include "mouse/MouseAction.h"
 #include "mouse/MouseButton.h"
 
@@ -27,6 +27,5 @@ struct MouseClickBinding {
         };
     }
 };
-static_assert(jsonFormIsComplete<MouseClickBinding>);
 
 } // namespace brindlex

@@ -22,6 +22,5 @@ struct MouseClickConfig {
         };
     }
 };
-static_assert(jsonFormIsComplete<MouseClickConfig>);
 
 } // namespace brindlex

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "eventtap/TapClient.h"
 #include "foundation/Observable.h"
 #include "mouse/MouseActionDispatcher.h"
 #include "mouse/MouseClick.h"
 #include "mouse/MouseConfig.h"
-#include "mouse/TapClient.h"
 
 namespace brindlex {
 

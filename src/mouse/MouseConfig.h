@@ -24,6 +24,5 @@ struct MouseConfig {
         };
     }
 };
-static_assert(jsonFormIsComplete<MouseConfig>);
 
 } // namespace brindlex

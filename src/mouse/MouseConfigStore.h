@@ -1,16 +1,17 @@
 #pragma once
 
-#include "app/ConfigurationStore.h"
-#include "app/UserDefaultPreferenceKeys.h"
-#include "mouse/MouseConfig.h"
+#include "mouse/MousePreferenceKeys.h"
+#include "preferences/ConfigurationStore.h"
 
 namespace brindlex {
+
+extern template class ConfigurationStore<MouseConfig>;
 
 /// Keeps all that the user has set about the mouse under the preference "mouseConfig".
 class MouseConfigStore : public ConfigurationStore<MouseConfig> {
 public:
     explicit MouseConfigStore(UserDefaultsType& defaults)
-        : ConfigurationStore(defaults, UserDefaultPreferenceKeys{}.mouseConfig)
+        : ConfigurationStore(defaults, MousePreferenceKeys{}.mouseConfig)
     {
     }
 };

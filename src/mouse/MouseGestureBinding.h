@@ -1,8 +1,8 @@
 #pragma once
 
+#include "eventtap/ModifierSet.h"
 #include "foundation/JsonForm.h"
 #include "foundation/Uuid.h"
-#include "mouse/ModifierSet.h"
 #include "mouse/MouseAction.h"
 #include "mouse/MouseButton.h"
 #include "mouse/MouseDirection.h"
@@ -30,6 +30,5 @@ struct MouseGestureBinding {
         };
     }
 };
-static_assert(jsonFormIsComplete<MouseGestureBinding>);
 
 } // namespace brindlex

@@ -25,6 +25,5 @@ struct MouseGestureConfig {
         };
     }
 };
-static_assert(jsonFormIsComplete<MouseGestureConfig>);
 
 } // namespace brindlex

@@ -1,6 +1,6 @@
 #include "mouse/MouseGestureManager.h"
 
-#include "app/Log.h"
+#include "log/Log.h"
 
 namespace brindlex {
 

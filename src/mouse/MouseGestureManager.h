@@ -1,11 +1,11 @@
 #pragma once
 
+#include "eventtap/TapClient.h"
 #include "foundation/Observable.h"
 #include "mouse/MouseActionDispatcher.h"
 #include "mouse/MouseConfig.h"
 #include "mouse/MouseGesture.h"
 #include "mouse/MouseResizeCursorDetector.h"
-#include "mouse/TapClient.h"
 #include "platform/Clock.h"
 
 namespace brindlex {

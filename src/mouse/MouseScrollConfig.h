@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/AppIdentifier.h"
+#include "applications/AppIdentifier.h"
 #include "foundation/Date.h"
 #include "foundation/JsonForm.h"
 
@@ -37,6 +37,5 @@ struct MouseScrollConfig {
         };
     }
 };
-static_assert(jsonFormIsComplete<MouseScrollConfig>);
 
 } // namespace brindlex

@@ -1,6 +1,6 @@
 #include "mouse/MouseScrollManager.h"
 
-#include "app/Log.h"
+#include "log/Log.h"
 
 #include <array>
 #include <string>

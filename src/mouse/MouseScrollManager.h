@@ -1,9 +1,9 @@
 #pragma once
 
+#include "eventtap/TapClient.h"
 #include "foundation/Observable.h"
 #include "mouse/MouseConfig.h"
 #include "mouse/ScrollSmoother.h"
-#include "mouse/TapClient.h"
 #include "platform/Clock.h"
 #include "platform/EventPosting.h"
 #include "platform/RunningApplications.h"

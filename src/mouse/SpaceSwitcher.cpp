@@ -1,6 +1,6 @@
 #include "mouse/SpaceSwitcher.h"
 
-#include "app/Log.h"
+#include "log/Log.h"
 
 #include <algorithm>
 #include <cmath>

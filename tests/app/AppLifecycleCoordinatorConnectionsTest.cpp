@@ -1,6 +1,6 @@
 #include "app/AppLifecycleCoordinator.h"
 
-#include "app/LoggedProcess.h"
+#include "log/LoggedProcess.h"
 #include "platform/simulated/SimulatedMouse.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "app/AppLifecycleCoordinator.h"
 
-#include "support/RecordedLog.h"
-#include "support/SimulatedDesktop.h"
+#include "support/basics/RecordedLog.h"
+#include "support/switching/SimulatedDesktop.h"
 
 #include <gtest/gtest.h>
 

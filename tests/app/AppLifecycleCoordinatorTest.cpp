@@ -1,7 +1,7 @@
 #include "app/AppLifecycleCoordinator.h"
 
 #include "app/JournalledProcess.h"
-#include "app/LoggedProcess.h"
+#include "log/LoggedProcess.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "app/AppLifecycleCoordinator.h"
-#include "app/Log.h"
-#include "support/SimulatedDesktop.h"
-#include "support/TemporaryFolder.h"
+#include "log/Log.h"
+#include "support/basics/TemporaryFolder.h"
+#include "support/switching/SimulatedDesktop.h"
 
 #include <functional>
 #include <memory>

@@ -1,8 +1,8 @@
 #include "app/UserDefaultPreferenceKeys.h"
 
-#include "app/PreferenceForm.h"
 #include "foundation/JsonForm.h"
 #include "platform/simulated/SimulatedUserFolders.h"
+#include "preferences/PreferenceKey.h"
 
 #include <gtest/gtest.h>
 
@@ -18,10 +18,10 @@ using Keys = UserDefaultPreferenceKeys;
 /// What the table says of a preference: its name and the stored form of its default.
 using Row = std::pair<std::string, PreferenceValue>;
 
-template <typename Value>
-Row row(const PreferenceKey<Value>& key)
+template <UserDefaultPreferenceKey Key>
+Row row(const Key& key)
 {
-    return {key.key, PreferenceForm<Value>::stored(key.defaultValue)};
+    return {key.key, PreferenceForm<typename Key::Value>::stored(key.defaultValue)};
 }
 
 /// All keys in the order of the fields.

@@ -5,12 +5,12 @@
 namespace brindlex {
 namespace {
 
-/// Whether the folder has a header whose concept the test is named after, with or without words
-/// that say which side of it.
+/// Whether the folder or one inside it has a header whose concept the test is named after, with or
+/// without words that say which side of it.
 bool hasSubject(const std::filesystem::path& folder, const std::string& test)
 {
     std::error_code problem;
-    for (const auto& item : std::filesystem::directory_iterator(folder, problem))
+    for (const auto& item : std::filesystem::recursive_directory_iterator(folder, problem))
         if (item.path().extension() == ".h" && test.starts_with(item.path().stem().string()))
             return true;
     return false;

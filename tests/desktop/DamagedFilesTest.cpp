@@ -1,5 +1,5 @@
 #include "desktop/ProgramDesk.h"
-#include "support/ProcessTable.h"
+#include "support/processes/ProcessTable.h"
 
 #include <gtest/gtest.h>
 

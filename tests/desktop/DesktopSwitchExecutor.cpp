@@ -2,7 +2,7 @@
 
 #include "foundation/Json.h"
 #include "foundation/JsonCoding.h"
-#include "support/ProcessTable.h"
+#include "support/processes/ProcessTable.h"
 
 #include <algorithm>
 #include <set>

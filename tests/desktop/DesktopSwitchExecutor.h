@@ -1,8 +1,8 @@
 #pragma once
 
 #include "desktop/ProgramDesk.h"
-#include "support/PlainWindow.h"
-#include "support/SwitchScenario.h"
+#include "support/switching/SwitchScenario.h"
+#include "support/windows/PlainWindow.h"
 
 #include <chrono>
 #include <map>

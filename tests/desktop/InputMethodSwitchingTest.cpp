@@ -1,7 +1,7 @@
 #include "desktop/ProgramDesk.h"
-#include "support/FcitxDaemon.h"
-#include "support/IBusDaemon.h"
-#include "support/PlainWindow.h"
+#include "support/daemons/FcitxDaemon.h"
+#include "support/daemons/IBusDaemon.h"
+#include "support/windows/PlainWindow.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 #include "desktop/ProgramDesk.h"
-#include "support/BusConnection.h"
-#include "support/BusSignals.h"
+#include "support/bus/BusConnection.h"
+#include "support/bus/BusSignals.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 #include "desktop/MouseDesk.h"
 
-#include "app/UserDefaultsStorageBox.h"
 #include "foundation/FatalError.h"
-#include "support/ProcessTable.h"
+#include "preferences/UserDefaultsStorageBox.h"
+#include "support/processes/ProcessTable.h"
 
 #include <algorithm>
 #include <xcb/xinput.h>

@@ -1,14 +1,14 @@
 #pragma once
 
 #include "mouse/MouseConfig.h"
-#include "support/DesktopWindows.h"
-#include "support/EventLogWindow.h"
-#include "support/Eventually.h"
-#include "support/PlayedHardware.h"
-#include "support/ProgramFiles.h"
-#include "support/RunningProgram.h"
-#include "support/VirtualDesktop.h"
-#include "support/XConnection.h"
+#include "support/basics/Eventually.h"
+#include "support/hardware/PlayedHardware.h"
+#include "support/processes/ProgramFiles.h"
+#include "support/processes/RunningProgram.h"
+#include "support/screen/DesktopWindows.h"
+#include "support/screen/VirtualDesktop.h"
+#include "support/screen/XConnection.h"
+#include "support/windows/EventLogWindow.h"
 
 #include <memory>
 #include <optional>

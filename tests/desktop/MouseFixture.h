@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/MouseDesk.h"
-#include "support/Keycodes.h"
+#include "support/hardware/Keycodes.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "desktop/ProgramDesk.h"
-#include "support/Screenshot.h"
+#include "support/screen/Screenshot.h"
 
 #include <gtest/gtest.h>
 

@@ -1,16 +1,16 @@
 #pragma once
 
-#include "support/DesktopWindows.h"
-#include "support/Eventually.h"
-#include "support/InstalledApplication.h"
-#include "support/KeyboardGroup.h"
-#include "support/PlayedInput.h"
-#include "support/ProgramFiles.h"
-#include "support/RunningProgram.h"
-#include "support/SwitchingRules.h"
-#include "support/TypingWindow.h"
-#include "support/VirtualDesktop.h"
-#include "support/XConnection.h"
+#include "support/basics/Eventually.h"
+#include "support/hardware/KeyboardGroup.h"
+#include "support/hardware/PlayedInput.h"
+#include "support/processes/ProgramFiles.h"
+#include "support/processes/RunningProgram.h"
+#include "support/screen/DesktopWindows.h"
+#include "support/screen/VirtualDesktop.h"
+#include "support/screen/XConnection.h"
+#include "support/switching/SwitchingRules.h"
+#include "support/windows/InstalledApplication.h"
+#include "support/windows/TypingWindow.h"
 
 #include <vector>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/MouseDesk.h"
-#include "support/TypingWindow.h"
+#include "support/windows/TypingWindow.h"
 
 #include <functional>
 #include <string>

@@ -1,5 +1,5 @@
 #include "desktop/MouseDesk.h"
-#include "support/FakeElements.h"
+#include "support/browsers/FakeElements.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "desktop/ProgramDesk.h"
-#include "support/PlainWindow.h"
+#include "support/windows/PlainWindow.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "desktop/RecordedDesk.h"
-#include "support/Keycodes.h"
-#include "support/PlayedInput.h"
+#include "support/hardware/Keycodes.h"
+#include "support/hardware/PlayedInput.h"
 
 #include <gtest/gtest.h>
 

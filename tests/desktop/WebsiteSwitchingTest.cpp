@@ -1,5 +1,5 @@
 #include "desktop/ProgramDesk.h"
-#include "support/ChromiumBrowser.h"
+#include "support/browsers/ChromiumBrowser.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "desktop/MouseDesk.h"
-#include "support/Keycodes.h"
-#include "support/PlainWindow.h"
-#include "support/Screenshot.h"
+#include "support/hardware/Keycodes.h"
+#include "support/screen/Screenshot.h"
+#include "support/windows/PlainWindow.h"
 
 #include <gtest/gtest.h>
 

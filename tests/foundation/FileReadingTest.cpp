@@ -1,6 +1,6 @@
 #include "foundation/FileReading.h"
 
-#include "support/TemporaryFolder.h"
+#include "support/basics/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -2,7 +2,7 @@
 
 #include "foundation/FileReading.h"
 #include "foundation/FileReplacement.h"
-#include "support/TemporaryFolder.h"
+#include "support/basics/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "foundation/FileReplacementFixture.h"
-#include "support/FileSizeLimit.h"
+#include "support/basics/FileSizeLimit.h"
 
 #include <atomic>
 #include <csignal>

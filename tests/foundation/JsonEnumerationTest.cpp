@@ -1,5 +1,7 @@
 #include "foundation/JsonEnumeration.h"
 
+#include "foundation/JsonCoding.h"
+
 #include <gtest/gtest.h>
 
 #include <array>

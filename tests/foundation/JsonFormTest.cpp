@@ -1,5 +1,7 @@
 #include "foundation/JsonForm.h"
 
+#include "foundation/JsonCoding.h"
+
 #include <gtest/gtest.h>
 
 #include <string>

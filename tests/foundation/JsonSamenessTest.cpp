@@ -1,5 +1,7 @@
 #include "foundation/JsonSameness.h"
 
+#include "foundation/JsonCoding.h"
+
 #include <gtest/gtest.h>
 
 #include <limits>

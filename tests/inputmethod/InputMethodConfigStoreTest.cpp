@@ -1,6 +1,7 @@
 #include "inputmethod/InputMethodConfigStore.h"
 
 #include "platform/simulated/SimulatedUserDefaults.h"
+#include "preferences/UserDefaultsStorageBox.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "inputmethod/InputMethodSwitchCoordinator.h"
-#include "support/RecordedLog.h"
-#include "support/SimulatedDesktop.h"
+#include "support/basics/RecordedLog.h"
+#include "support/switching/SimulatedDesktop.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "inputmethod/SmartInputMethodConfig.h"
 
-#include "support/SwitchRecords.h"
-#include "support/SwitchText.h"
+#include "support/switching/SwitchRecords.h"
+#include "support/switching/SwitchText.h"
 
 #include <gtest/gtest.h>
 

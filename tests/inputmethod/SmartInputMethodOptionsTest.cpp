@@ -1,5 +1,7 @@
 #include "inputmethod/SmartInputMethodOptions.h"
 
+#include "foundation/JsonCoding.h"
+
 #include <gtest/gtest.h>
 
 namespace brindlex {

@@ -1,6 +1,6 @@
 #include "inputmethod/SwitchDecision.h"
 
-#include "support/SwitchRecords.h"
+#include "support/switching/SwitchRecords.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "inputmethod/SwitchReducer.h"
-#include "support/SwitchComputer.h"
-#include "support/SwitchRecords.h"
-#include "support/SwitchText.h"
+#include "support/switching/SwitchComputer.h"
+#include "support/switching/SwitchRecords.h"
+#include "support/switching/SwitchText.h"
 
 #include <gtest/gtest.h>
 

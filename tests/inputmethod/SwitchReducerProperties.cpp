@@ -1,6 +1,6 @@
 #include "inputmethod/SwitchReducerProperties.h"
 
-#include "support/SwitchText.h"
+#include "support/switching/SwitchText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "inputmethod/SwitchReducer.h"
-#include "support/SwitchComputer.h"
+#include "support/switching/SwitchComputer.h"
 
 #include <optional>
 #include <string>

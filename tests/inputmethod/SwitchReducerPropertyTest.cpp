@@ -1,8 +1,8 @@
 #include "inputmethod/SwitchReducer.h"
 
 #include "inputmethod/SwitchReducerProperties.h"
-#include "support/SwitchRecords.h"
-#include "support/SwitchText.h"
+#include "support/switching/SwitchRecords.h"
+#include "support/switching/SwitchText.h"
 
 #include <gtest/gtest.h>
 

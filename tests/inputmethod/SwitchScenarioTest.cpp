@@ -1,7 +1,7 @@
-#include "support/SwitchScenario.h"
+#include "support/switching/SwitchScenario.h"
 
-#include "support/MemorySwitchExecutor.h"
-#include "support/TemporaryFolder.h"
+#include "support/basics/TemporaryFolder.h"
+#include "support/switching/MemorySwitchExecutor.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include "platform/simulated/SimulatedClock.h"
 #include "platform/simulated/SimulatedInputSources.h"
 #include "platform/simulated/SimulatedMainThread.h"
-#include "support/RecordedLog.h"
+#include "support/basics/RecordedLog.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 #include "mouse/ExpectedArrivals.h"
 
-#include "platform/linux/SystemKeystroke.h"
-#include "platform/linux/VirtualKeyCodes.h"
-#include "platform/linux/X11Buttons.h"
+#include "platform/linux/input/SystemKeystroke.h"
+#include "platform/linux/input/VirtualKeyCodes.h"
+#include "platform/linux/x11/X11Buttons.h"
 
 #include <array>
 #include <cstdlib>

@@ -2,7 +2,7 @@
 
 #include "platform/EventTap.h"
 #include "platform/SyntheticEvent.h"
-#include "platform/linux/WheelTicks.h"
+#include "platform/linux/input/WheelTicks.h"
 
 #include <cstdint>
 #include <map>

@@ -6,7 +6,7 @@
 #include "platform/simulated/SimulatedInput.h"
 #include "platform/simulated/SimulatedMainThread.h"
 #include "platform/simulated/SimulatedProcessLaunching.h"
-#include "support/RecordedLog.h"
+#include "support/basics/RecordedLog.h"
 
 #include <gtest/gtest.h>
 

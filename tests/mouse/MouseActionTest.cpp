@@ -1,5 +1,7 @@
 #include "mouse/MouseAction.h"
 
+#include "foundation/JsonCoding.h"
+
 #include <gtest/gtest.h>
 
 #include <utility>

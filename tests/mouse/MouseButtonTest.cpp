@@ -1,5 +1,7 @@
 #include "mouse/MouseButton.h"
 
+#include "foundation/JsonCoding.h"
+
 #include <gtest/gtest.h>
 
 #include <string>

@@ -1,6 +1,7 @@
 #include "mouse/MouseConfigStore.h"
 
 #include "platform/simulated/SimulatedUserDefaults.h"
+#include "preferences/UserDefaultsStorageBox.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "mouse/MouseConfig.h"
 
-#include "foundation/Hashing.h"
-#include "mouse/HotkeyCombo.h"
+#include "eventtap/HotkeyCombo.h"
+#include "foundation/JsonCoding.h"
 
 #include <gtest/gtest.h>
 
@@ -138,15 +138,6 @@ TEST(MouseConfig, readsAnIdentifierInLowerCase)
     document["click"]["bindings"][0]["id"] = "00112233-4455-6677-8899-aabbccddeeff";
 
     EXPECT_EQ(fromJson<MouseConfig>(document).value(), example());
-}
-
-TEST(MouseConfig, hashesAllThatItHolds)
-{
-    auto other = example();
-    EXPECT_EQ(hashValue(other), hashValue(example()));
-    other.gesture.bindings[0].action = MouseAction::SendKeystroke{49, ModifierSet::shift};
-    EXPECT_NE(hashValue(other), hashValue(example()));
-    EXPECT_NE(hashValue(HotkeyCombo{9, ModifierSet::command}), hashValue(HotkeyCombo{9, {}}));
 }
 
 } // namespace

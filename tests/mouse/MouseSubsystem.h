@@ -14,7 +14,7 @@
 #include "platform/simulated/SimulatedProcessLaunching.h"
 #include "platform/simulated/SimulatedProgramActivation.h"
 #include "platform/simulated/SimulatedWindowList.h"
-#include "support/RecordedLog.h"
+#include "support/basics/RecordedLog.h"
 
 #include <utility>
 

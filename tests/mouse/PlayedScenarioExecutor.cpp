@@ -1,7 +1,7 @@
 #include "mouse/PlayedScenarioExecutor.h"
 
-#include "platform/linux/X11Buttons.h"
-#include "support/Keycodes.h"
+#include "platform/linux/x11/X11Buttons.h"
+#include "support/hardware/Keycodes.h"
 
 #include <array>
 #include <cmath>

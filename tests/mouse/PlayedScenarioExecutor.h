@@ -7,7 +7,7 @@
 #include "mouse/ScenarioPreparation.h"
 #include "mouse/ScenarioStage.h"
 #include "mouse/ScenarioWords.h"
-#include "support/TappedDesktop.h"
+#include "support/hardware/TappedDesktop.h"
 
 #include <cstdint>
 #include <memory>

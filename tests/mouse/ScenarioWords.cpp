@@ -1,6 +1,7 @@
 #include "mouse/ScenarioWords.h"
 
 #include "foundation/FatalError.h"
+#include "foundation/JsonCoding.h"
 #include "foundation/Text.h"
 
 #include <algorithm>

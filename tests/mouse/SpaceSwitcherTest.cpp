@@ -3,7 +3,7 @@
 #include "platform/simulated/SimulatedDisplayLink.h"
 #include "platform/simulated/SimulatedMainThread.h"
 #include "platform/simulated/SimulatedPosting.h"
-#include "support/RecordedLog.h"
+#include "support/basics/RecordedLog.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
 #include "platform/AccessibilityTree.h"
 
-#include "platform/linux/AccessibleElementTree.h"
+#include "platform/linux/accessibility/AccessibleElementTree.h"
 #include "platform/posix/SerialQueue.h"
 #include "platform/simulated/SimulatedAccessibilityTree.h"
-#include "support/ApplicationWindow.h"
-#include "support/DesktopWindows.h"
-#include "support/FakeElements.h"
-#include "support/VirtualDesktop.h"
+#include "support/browsers/FakeElements.h"
+#include "support/screen/DesktopWindows.h"
+#include "support/screen/VirtualDesktop.h"
+#include "support/windows/ApplicationWindow.h"
 
 #include <gtest/gtest.h>
 

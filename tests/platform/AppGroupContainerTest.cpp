@@ -1,6 +1,6 @@
 #include "platform/posix/PosixAppGroupContainer.h"
 #include "platform/simulated/SimulatedAppGroupContainer.h"
-#include "support/TemporaryFolder.h"
+#include "support/basics/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 

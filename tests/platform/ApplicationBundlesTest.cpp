@@ -1,8 +1,8 @@
 #include "platform/ApplicationBundles.h"
 
-#include "platform/linux/DesktopApplicationBundles.h"
+#include "platform/linux/applications/DesktopApplicationBundles.h"
 #include "platform/simulated/SimulatedApplicationBundles.h"
-#include "support/TemporaryFolder.h"
+#include "support/basics/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "platform/ApplicationOpening.h"
 
-#include "platform/linux/X11ApplicationOpening.h"
+#include "platform/linux/panels/X11ApplicationOpening.h"
 #include "platform/simulated/SimulatedApplicationOpening.h"
-#include "support/DesktopWindows.h"
-#include "support/LoopUntil.h"
-#include "support/PlainWindow.h"
+#include "support/loops/LoopUntil.h"
+#include "support/screen/DesktopWindows.h"
+#include "support/windows/PlainWindow.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>

@@ -1,7 +1,7 @@
 #include "platform/BrowserPageReading.h"
 
 #include "platform/simulated/SimulatedBrowserPages.h"
-#include "support/FakeBrowserPages.h"
+#include "support/browsers/FakeBrowserPages.h"
 
 #include <gtest/gtest.h>
 

@@ -1,9 +1,9 @@
 #include "platform/CursorReading.h"
 
-#include "platform/linux/X11CursorReading.h"
+#include "platform/linux/input/X11CursorReading.h"
 #include "platform/simulated/SimulatedCursor.h"
-#include "support/CursorWindow.h"
-#include "support/VirtualDesktop.h"
+#include "support/screen/VirtualDesktop.h"
+#include "support/windows/CursorWindow.h"
 
 #include <gtest/gtest.h>
 

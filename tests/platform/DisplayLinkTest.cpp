@@ -1,9 +1,9 @@
 #include "platform/DisplayLink.h"
 
-#include "platform/linux/RandRDisplayLink.h"
+#include "platform/linux/windows/RandRDisplayLink.h"
 #include "platform/simulated/SimulatedDisplayLink.h"
 #include "platform/simulated/SimulatedMainThread.h"
-#include "support/VirtualDesktop.h"
+#include "support/screen/VirtualDesktop.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "platform/DistributedNotifications.h"
 
-#include "platform/linux/DBusNotifications.h"
+#include "platform/linux/system/DBusNotifications.h"
 #include "platform/simulated/SimulatedNotifications.h"
-#include "support/PrivateBus.h"
-#include "support/QtLoop.h"
-#include "support/SimulatedLoop.h"
+#include "support/bus/PrivateBus.h"
+#include "support/loops/QtLoop.h"
+#include "support/loops/SimulatedLoop.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "platform/EventPermissions.h"
 
-#include "platform/linux/X11EventPermissions.h"
+#include "platform/linux/input/X11EventPermissions.h"
 #include "platform/simulated/SimulatedEventPermissions.h"
 #include "platform/simulated/SimulatedMainThread.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
-#include "support/VirtualDesktop.h"
+#include "support/screen/VirtualDesktop.h"
 
 #include <gtest/gtest.h>
 

@@ -1,17 +1,17 @@
 #include "platform/KeyboardInputSources.h"
 
-#include "platform/linux/DesktopInputSources.h"
+#include "platform/linux/inputsources/DesktopInputSources.h"
 #include "platform/simulated/SimulatedClock.h"
 #include "platform/simulated/SimulatedInputSources.h"
 #include "platform/simulated/SimulatedMainThread.h"
-#include "support/DesktopWindows.h"
-#include "support/FcitxDaemon.h"
-#include "support/IBusDaemon.h"
-#include "support/KeyboardGroup.h"
-#include "support/LoopUntil.h"
-#include "support/SessionBus.h"
-#include "support/TypingWindow.h"
-#include "support/VirtualDesktop.h"
+#include "support/bus/SessionBus.h"
+#include "support/daemons/FcitxDaemon.h"
+#include "support/daemons/IBusDaemon.h"
+#include "support/hardware/KeyboardGroup.h"
+#include "support/loops/LoopUntil.h"
+#include "support/screen/DesktopWindows.h"
+#include "support/screen/VirtualDesktop.h"
+#include "support/windows/TypingWindow.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #include "platform/MainThread.h"
 
-#include "support/QtLoop.h"
-#include "support/SimulatedLoop.h"
+#include "support/loops/QtLoop.h"
+#include "support/loops/SimulatedLoop.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "platform/OverlayPanel.h"
 
-#include "platform/linux/QtOverlayPanel.h"
+#include "platform/linux/panels/QtOverlayPanel.h"
 #include "platform/simulated/SimulatedMainThread.h"
 #include "platform/simulated/SimulatedOverlayPanel.h"
-#include "support/DesktopWindows.h"
-#include "support/LoopUntil.h"
+#include "support/loops/LoopUntil.h"
+#include "support/screen/DesktopWindows.h"
 
 #include <gtest/gtest.h>
 #include <unistd.h>

@@ -1,4 +1,4 @@
-#include "support/VirtualDesktop.h"
+#include "support/screen/VirtualDesktop.h"
 
 #include <QGuiApplication>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 #include "platform/ProcessLaunching.h"
 
-#include "platform/linux/PosixProcessLaunching.h"
-#include "platform/linux/QtMainThread.h"
+#include "platform/linux/system/PosixProcessLaunching.h"
+#include "platform/linux/system/QtMainThread.h"
 #include "platform/simulated/SimulatedProcessLaunching.h"
-#include "support/LoopUntil.h"
-#include "support/TemporaryFolder.h"
+#include "support/basics/TemporaryFolder.h"
+#include "support/loops/LoopUntil.h"
 
 #include <gtest/gtest.h>
 

@@ -1,10 +1,10 @@
 #include "platform/ProgramActivation.h"
 
-#include "platform/linux/QtProgramActivation.h"
+#include "platform/linux/panels/QtProgramActivation.h"
 #include "platform/simulated/SimulatedProgramActivation.h"
-#include "support/DesktopWindows.h"
-#include "support/LoopUntil.h"
-#include "support/PlainWindow.h"
+#include "support/loops/LoopUntil.h"
+#include "support/screen/DesktopWindows.h"
+#include "support/windows/PlainWindow.h"
 
 #include <QWindow>
 #include <gtest/gtest.h>

@@ -1,10 +1,10 @@
 #include "platform/ProgramInstances.h"
 
 #include "platform/simulated/SimulatedProgramInstances.h"
-#include "support/ChildProcess.h"
-#include "support/Eventually.h"
-#include "support/PrivateBus.h"
-#include "support/TemporaryFolder.h"
+#include "support/basics/Eventually.h"
+#include "support/basics/TemporaryFolder.h"
+#include "support/bus/PrivateBus.h"
+#include "support/processes/ChildProcess.h"
 
 #include <gtest/gtest.h>
 

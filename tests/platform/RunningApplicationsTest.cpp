@@ -1,12 +1,12 @@
 #include "platform/RunningApplications.h"
 
-#include "platform/linux/X11RunningApplications.h"
+#include "platform/linux/applications/X11RunningApplications.h"
 #include "platform/simulated/SimulatedApplications.h"
-#include "support/ApplicationWindow.h"
-#include "support/ChildProcess.h"
-#include "support/DesktopWindows.h"
-#include "support/LoopUntil.h"
-#include "support/VirtualDesktop.h"
+#include "support/loops/LoopUntil.h"
+#include "support/processes/ChildProcess.h"
+#include "support/screen/DesktopWindows.h"
+#include "support/screen/VirtualDesktop.h"
+#include "support/windows/ApplicationWindow.h"
 
 #include <gtest/gtest.h>
 #include <map>

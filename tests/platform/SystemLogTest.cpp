@@ -1,8 +1,8 @@
 #include "platform/SystemLog.h"
-#include "platform/linux/JournalSystemLog.h"
+#include "platform/linux/system/JournalSystemLog.h"
 #include "platform/simulated/SimulatedSystemLog.h"
-#include "support/DatagramSocket.h"
-#include "support/TemporaryFolder.h"
+#include "support/basics/DatagramSocket.h"
+#include "support/basics/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
 #pragma once
 
-#include "platform/linux/VirtualKeyCodes.h"
-#include "platform/linux/X11Buttons.h"
+#include "platform/linux/input/VirtualKeyCodes.h"
+#include "platform/linux/x11/X11Buttons.h"
 #include "platform/simulated/SimulatedInput.h"
 #include "platform/simulated/SimulatedKeyboard.h"
 #include "platform/simulated/SimulatedMouse.h"
-#include "support/Keycodes.h"
-#include "support/TappedDesktop.h"
+#include "support/hardware/Keycodes.h"
+#include "support/hardware/TappedDesktop.h"
 
 #include <gtest/gtest.h>
 

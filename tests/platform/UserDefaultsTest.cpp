@@ -1,11 +1,11 @@
 #include "platform/UserDefaults.h"
 
-#include "platform/linux/JsonFileUserDefaults.h"
+#include "platform/linux/preferences/JsonFileUserDefaults.h"
 #include "platform/posix/SerialQueue.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
-#include "support/QtLoop.h"
-#include "support/SimulatedLoop.h"
-#include "support/TemporaryFolder.h"
+#include "support/basics/TemporaryFolder.h"
+#include "support/loops/QtLoop.h"
+#include "support/loops/SimulatedLoop.h"
 
 #include <gtest/gtest.h>
 

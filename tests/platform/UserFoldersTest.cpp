@@ -1,8 +1,8 @@
 #include "platform/UserFolders.h"
 
-#include "platform/linux/XdgUserFolders.h"
+#include "platform/linux/system/XdgUserFolders.h"
 #include "platform/simulated/SimulatedUserFolders.h"
-#include "support/TemporaryFolder.h"
+#include "support/basics/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,11 +1,11 @@
 #include "platform/WindowList.h"
 
-#include "platform/linux/X11WindowList.h"
+#include "platform/linux/windows/X11WindowList.h"
 #include "platform/simulated/SimulatedWindowList.h"
-#include "support/ApplicationWindow.h"
-#include "support/DesktopWindows.h"
-#include "support/Eventually.h"
-#include "support/VirtualDesktop.h"
+#include "support/basics/Eventually.h"
+#include "support/screen/DesktopWindows.h"
+#include "support/screen/VirtualDesktop.h"
+#include "support/windows/ApplicationWindow.h"
 
 #include <gtest/gtest.h>
 

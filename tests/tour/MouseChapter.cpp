@@ -1,10 +1,10 @@
 #include "tour/MouseChapter.h"
 
 #include "desktop/MouseDesk.h"
-#include "support/InstalledApplication.h"
-#include "support/Keycodes.h"
-#include "support/Screenshot.h"
-#include "support/TypingWindow.h"
+#include "support/hardware/Keycodes.h"
+#include "support/screen/Screenshot.h"
+#include "support/windows/InstalledApplication.h"
+#include "support/windows/TypingWindow.h"
 #include "tour/TourDesktop.h"
 #include "tour/Wallpaper.h"
 

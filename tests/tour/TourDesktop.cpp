@@ -1,9 +1,9 @@
 #include "tour/TourDesktop.h"
 
-#include "support/Eventually.h"
-#include "support/InstalledApplication.h"
-#include "support/Screenshot.h"
-#include "support/SwitchingRules.h"
+#include "support/basics/Eventually.h"
+#include "support/screen/Screenshot.h"
+#include "support/switching/SwitchingRules.h"
+#include "support/windows/InstalledApplication.h"
 #include "tour/Wallpaper.h"
 
 namespace brindlex {

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "support/ChromiumBrowser.h"
-#include "support/DesktopWindows.h"
-#include "support/IBusDaemon.h"
-#include "support/LocalWebServer.h"
-#include "support/PlayedInput.h"
-#include "support/ProgramFiles.h"
-#include "support/RunningProgram.h"
-#include "support/TypingWindow.h"
-#include "support/VirtualDesktop.h"
+#include "support/browsers/ChromiumBrowser.h"
+#include "support/browsers/LocalWebServer.h"
+#include "support/daemons/IBusDaemon.h"
+#include "support/hardware/PlayedInput.h"
+#include "support/processes/ProgramFiles.h"
+#include "support/processes/RunningProgram.h"
+#include "support/screen/DesktopWindows.h"
+#include "support/screen/VirtualDesktop.h"
+#include "support/windows/TypingWindow.h"
 
 #include <optional>
 #include <string>

@@ -1,6 +1,6 @@
 #include "tour/TourReport.h"
 
-#include "support/Screenshot.h"
+#include "support/screen/Screenshot.h"
 
 #include <iostream>
 

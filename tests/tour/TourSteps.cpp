@@ -1,7 +1,7 @@
 #include "tour/TourSteps.h"
 
-#include "support/Eventually.h"
-#include "support/KeyboardGroup.h"
+#include "support/basics/Eventually.h"
+#include "support/hardware/KeyboardGroup.h"
 
 #include <chrono>
 #include <functional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "support/XConnection.h"
+#include "support/screen/XConnection.h"
 
 namespace brindlex {
 

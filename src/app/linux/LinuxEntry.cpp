@@ -1,11 +1,11 @@
 #include "app/linux/LinuxEntry.h"
 
 #include "app/AppLifecycleCoordinator.h"
-#include "app/Log.h"
 #include "app/SharedInstances.h"
 #include "app/linux/LinuxPlatform.h"
 #include "inputmethod/TextInputSourceService.h"
-#include "platform/linux/UnixSignals.h"
+#include "log/Log.h"
+#include "platform/linux/system/UnixSignals.h"
 
 #include <QGuiApplication>
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "app/LogWriter.h"
+#include "log/LogWriter.h"
 #include "platform/AppGroupContainer.h"
 #include "platform/Clock.h"
-#include "platform/linux/XdgUserFolders.h"
+#include "platform/linux/system/XdgUserFolders.h"
 
 namespace brindlex {
 

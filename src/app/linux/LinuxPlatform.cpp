@@ -1,7 +1,7 @@
 #include "app/linux/LinuxPlatform.h"
 
 #include "app/ProgramIdentity.h"
-#include "platform/linux/X11WindowActivation.h"
+#include "platform/linux/windows/X11WindowActivation.h"
 
 namespace brindlex {
 

@@ -1,6 +1,6 @@
 #include "platform/posix/PosixAppGroupContainer.h"
 
-#include "app/Log.h"
+#include "log/Log.h"
 
 #include <cerrno>
 #include <fcntl.h>

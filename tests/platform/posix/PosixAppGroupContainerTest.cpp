@@ -1,8 +1,8 @@
 #include "platform/posix/PosixAppGroupContainer.h"
 
-#include "support/OrdinaryUser.h"
-#include "support/RecordedLog.h"
-#include "support/TemporaryFolder.h"
+#include "support/basics/OrdinaryUser.h"
+#include "support/basics/RecordedLog.h"
+#include "support/basics/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,7 @@
+#include "inputmethod/InputMethodConfigStore.h"
+
+namespace brindlex {
+
+template class ConfigurationStore<InputMethodConfig>;
+
+} // namespace brindlex

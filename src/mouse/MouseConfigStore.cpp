@@ -1,0 +1,7 @@
+#include "mouse/MouseConfigStore.h"
+
+namespace brindlex {
+
+template class ConfigurationStore<MouseConfig>;
+
+} // namespace brindlex

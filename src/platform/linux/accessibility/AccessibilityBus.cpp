@@ -1,0 +1,240 @@
+#include "platform/linux/accessibility/AccessibilityBus.h"
+
+#include "log/Log.h"
+#include "platform/linux/accessibility/AccessibilityReply.h"
+
+#include <QDBusMessage>
+#include <algorithm>
+#include <atomic>
+
+namespace brindlex {
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+// Names and numbers of https://gitlab.gnome.org/GNOME/at-spi2-core/-/tree/main/xml.
+const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");
+const QString rootPath = QStringLiteral("/org/a11y/atspi/accessible/root");
+const QString nullPath = QStringLiteral("/org/a11y/atspi/null");
+const QString properties = QStringLiteral("org.freedesktop.DBus.Properties");
+constexpr unsigned relationEmbeds = 13;
+constexpr unsigned stateActive = 1;
+
+/// The launcher starts the bus itself on the first question for its address.
+constexpr auto timeForAddress = 200ms;
+
+QString nextConnectionName()
+{
+    static std::atomic<unsigned> count = 0;
+    return QStringLiteral("brindlex-accessibility-%1").arg(++count);
+}
+
+QDBusMessage question(const QString& service, const QString& path, const QString& interface,
+    const QString& member, const QVariantList& arguments)
+{
+    auto message = QDBusMessage::createMethodCall(service, path, interface, member);
+    message.setArguments(arguments);
+    message.setAutoStartService(false);
+    return message;
+}
+
+/// Where the session bus is. Left to itself the library would keep the answer for the life of the
+/// process, and start a bus where there is none.
+QString sessionAddress()
+{
+    const auto address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    if (!address.isEmpty())
+        return address;
+    return QStringLiteral("unix:path=%1/bus").arg(qEnvironmentVariable("XDG_RUNTIME_DIR"));
+}
+
+QDBusMessage launcherQuestion(
+    const QString& interface, const QString& member, const QVariantList& arguments = {})
+{
+    return question(QStringLiteral("org.a11y.Bus"), QStringLiteral("/org/a11y/bus"), interface,
+        member, arguments);
+}
+
+} // namespace
+
+bool AccessibleObject::isNull() const
+{
+    return service.isEmpty() || path.isEmpty() || path == nullPath;
+}
+
+AccessibilityBus::AccessibilityBus(const AccessibilityLimits& limits, const Loss& loss)
+    : limits_(limits), loss_(loss), connectionName_(nextConnectionName()),
+      sessionConnectionName_(connectionName_ + QStringLiteral("-session")),
+      connection_(connectionName_)
+{
+}
+
+AccessibilityBus::~AccessibilityBus()
+{
+    QDBusConnection::disconnectFromBus(connectionName_);
+    QDBusConnection::disconnectFromBus(sessionConnectionName_);
+}
+
+bool AccessibilityBus::begin(std::optional<std::chrono::milliseconds> time)
+{
+    const bool isThere = connection_.isConnected() || connect();
+    deadline_ = Clock::now() + time.value_or(limits_.perReading);
+    return isThere;
+}
+
+bool AccessibilityBus::connect()
+{
+    QDBusConnection::disconnectFromBus(connectionName_);
+    const auto found = address();
+    if (found)
+        connection_ = QDBusConnection::connectToBus(*found, connectionName_);
+    if (!found || !connection_.isConnected()) {
+        logOnce(isAbsenceLogged_, std::string("No accessibility bus: ") + loss_.withoutBus);
+        return false;
+    }
+    isAbsenceLogged_ = false;
+    return true;
+}
+
+std::optional<QString> AccessibilityBus::address()
+{
+    // Kept while there is no accessibility bus, since then every reading comes here.
+    auto session = QDBusConnection(sessionConnectionName_);
+    if (!session.isConnected()) {
+        QDBusConnection::disconnectFromBus(sessionConnectionName_);
+        session = QDBusConnection::connectToBus(sessionAddress(), sessionConnectionName_);
+    }
+    const auto answer = session.call(
+        launcherQuestion(QStringLiteral("org.a11y.Bus"), QStringLiteral("GetAddress")),
+        QDBus::Block, static_cast<int>(timeForAddress.count()));
+    const auto found = text(answer.arguments().value(0));
+    if (answer.type() != QDBusMessage::ReplyMessage || !found || found->isEmpty())
+        return {};
+
+    const auto isEnabled
+        = session.call(launcherQuestion(properties, QStringLiteral("Get"),
+                           {QStringLiteral("org.a11y.Status"), QStringLiteral("IsEnabled")}),
+            QDBus::Block, static_cast<int>(timeForAddress.count()));
+    const auto flag = unpacked(isEnabled.arguments().value(0));
+    if (flag.metaType() == QMetaType::fromType<bool>() && !flag.toBool())
+        logOnce(isDisabledLogged_, std::string("Accessibility is off: ") + loss_.whileOff);
+    QDBusConnection::disconnectFromBus(sessionConnectionName_);
+    return *found;
+}
+
+AccessibilityAnswer<std::vector<AccessibleObject>> AccessibilityBus::applications()
+{
+    return children({QStringLiteral("org.a11y.atspi.Registry"), rootPath});
+}
+
+AccessibilityAnswer<std::int64_t> AccessibilityBus::processIdentifier(const QString& service)
+{
+    const AccessibleObject bus{
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus")};
+    const auto answer = ask(bus, QStringLiteral("org.freedesktop.DBus"),
+        QStringLiteral("GetConnectionUnixProcessID"), {service});
+    if (!answer)
+        return fail(answer.error());
+    if (answer->metaType() != QMetaType::fromType<unsigned>())
+        return fail(AccessibilityProblem::refused);
+    return std::int64_t{answer->toUInt()};
+}
+
+AccessibilityAnswer<std::vector<AccessibleObject>> AccessibilityBus::children(
+    const AccessibleObject& object)
+{
+    const auto answer = ask(object, accessible, QStringLiteral("GetChildren"));
+    if (!answer)
+        return fail(answer.error());
+    const auto list = container(*answer, "a(so)");
+    if (!list)
+        return fail(AccessibilityProblem::refused);
+    return objects(*list);
+}
+
+AccessibilityAnswer<QString> AccessibilityBus::name(const AccessibleObject& object)
+{
+    const auto answer
+        = ask(object, properties, QStringLiteral("Get"), {accessible, QStringLiteral("Name")});
+    if (!answer)
+        return fail(answer.error());
+    return text(unpacked(*answer));
+}
+
+AccessibilityAnswer<bool> AccessibilityBus::isActive(const AccessibleObject& object)
+{
+    const auto answer = ask(object, accessible, QStringLiteral("GetState"));
+    if (!answer)
+        return fail(answer.error());
+    const auto words = container(*answer, "au");
+    if (!words)
+        return fail(AccessibilityProblem::refused);
+    words->beginArray();
+    unsigned first = 0;
+    if (!words->atEnd())
+        *words >> first;
+    words->endArray();
+    return ((first >> stateActive) & 1U) != 0;
+}
+
+AccessibilityAnswer<std::vector<AccessibleObject>> AccessibilityBus::embedded(
+    const AccessibleObject& object)
+{
+    const auto answer = ask(object, accessible, QStringLiteral("GetRelationSet"));
+    if (!answer)
+        return fail(answer.error());
+    const auto relations = container(*answer, "a(ua(so))");
+    if (!relations)
+        return fail(AccessibilityProblem::refused);
+    std::vector<AccessibleObject> found;
+    std::size_t count = 0;
+    relations->beginArray();
+    while (!relations->atEnd() && ++count <= mostListEntries && found.empty()) {
+        unsigned type = 0;
+        relations->beginStructure();
+        *relations >> type;
+        auto targets = objects(*relations);
+        relations->endStructure();
+        if (type == relationEmbeds)
+            found = std::move(targets);
+    }
+    relations->endArray();
+    return found;
+}
+
+AccessibilityAnswer<QString> AccessibilityBus::documentAttribute(
+    const AccessibleObject& document, const QString& attribute)
+{
+    const auto answer = ask(document, QStringLiteral("org.a11y.atspi.Document"),
+        QStringLiteral("GetAttributeValue"), {attribute});
+    if (!answer)
+        return fail(answer.error());
+    return text(*answer);
+}
+
+AccessibilityAnswer<QVariant> AccessibilityBus::ask(const AccessibleObject& object,
+    const QString& interface, const QString& member, const QVariantList& arguments)
+{
+    const auto left
+        = std::chrono::duration_cast<std::chrono::milliseconds>(deadline_ - Clock::now());
+    if (left <= 0ms)
+        return fail(AccessibilityProblem::noAnswer);
+    const auto answer
+        = connection_.call(question(object.service, object.path, interface, member, arguments),
+            QDBus::Block, static_cast<int>(std::min(left, limits_.perQuestion).count()));
+    if (answer.type() == QDBusMessage::ReplyMessage)
+        return answer.arguments().value(0);
+    const auto error = QDBusError(answer).type();
+    const bool isLate = error == QDBusError::NoReply || error == QDBusError::Timeout
+        || error == QDBusError::TimedOut;
+    return fail(isLate ? AccessibilityProblem::noAnswer : AccessibilityProblem::refused);
+}
+
+void AccessibilityBus::logOnce(bool& isLogged, const std::string& message) const
+{
+    if (!std::exchange(isLogged, true))
+        Log::info(message, loss_.category);
+}
+
+} // namespace brindlex

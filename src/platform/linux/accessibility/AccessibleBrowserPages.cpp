@@ -1,0 +1,132 @@
+#include "platform/linux/accessibility/AccessibleBrowserPages.h"
+
+#include "platform/linux/accessibility/AccessiblePageReader.h"
+
+#include <utility>
+
+namespace brindlex {
+
+/// What is asked and what was read. Lives on the main thread; the work on the queue and its way
+/// back hold it weakly.
+class AccessibleBrowserPages::Reading : public std::enable_shared_from_this<Reading> {
+public:
+    Reading(MainThread& mainThread, const Clock& clock, BackgroundQueue& queue,
+        ActiveWindowQuery activeWindow, const AccessibilityLimits& limits)
+        : mainThread_(mainThread), clock_(clock), queue_(queue),
+          activeWindow_(std::move(activeWindow)),
+          reader_(std::make_shared<AccessiblePageReader>(limits))
+    {
+    }
+
+    std::optional<std::string> ask(const std::string& bundleID)
+    {
+        const auto window = activeWindow_();
+        askedFor_ = bundleID;
+        answered_ = answer(window);
+        if (window && !isFresh(*window))
+            want({bundleID, *window});
+        return answered_;
+    }
+
+    Subscribers<std::function<void()>> observers;
+
+private:
+    struct Wish {
+        std::string bundleID{};
+        ActiveWindow window{};
+    };
+    struct Page {
+        std::string bundleID{};
+        std::uint32_t window = 0;
+        std::string url{};
+        Seconds readAt = 0;
+    };
+
+    std::optional<std::string> answer(const std::optional<ActiveWindow>& window) const
+    {
+        if (!window || !isOf(*window) || clock_.continuousTime() - page_->readAt > pageLife)
+            return {};
+        return page_->url;
+    }
+
+    bool isFresh(const ActiveWindow& window) const
+    {
+        return isOf(window) && clock_.continuousTime() - page_->readAt < pageFreshness;
+    }
+
+    /// Whether the page known is one of this window, read for the browser last asked for.
+    bool isOf(const ActiveWindow& window) const
+    {
+        return page_ && page_->window == window.window && page_->bundleID == askedFor_;
+    }
+
+    void want(Wish wish)
+    {
+        if (!beingRead_)
+            read(std::move(wish));
+        else if (beingRead_->window.window != wish.window.window
+            || beingRead_->bundleID != wish.bundleID)
+            next_ = std::move(wish);
+    }
+
+    void read(Wish wish)
+    {
+        beingRead_ = std::move(wish);
+        const auto began = clock_.continuousTime();
+        queue_.post([self = weak_from_this(), &mainThread = mainThread_, reader = reader_,
+                        window = beingRead_->window, began] {
+            mainThread.post([self, began, page = reader->read(window)] {
+                if (const auto alive = self.lock())
+                    alive->finish(page, began);
+            });
+        });
+    }
+
+    void finish(const Result<std::string, PageProblem>& page, Seconds began)
+    {
+        const auto done = *std::exchange(beingRead_, std::nullopt);
+        if (page)
+            page_ = Page{done.bundleID, done.window.window, *page, began};
+        else if (page.error() == PageProblem::unknown)
+            page_.reset();
+        if (auto wish = std::exchange(next_, std::nullopt))
+            read(std::move(*wish));
+        if (answer(activeWindow_()) != answered_)
+            observers.notify();
+    }
+
+    MainThread& mainThread_;
+    const Clock& clock_;
+    BackgroundQueue& queue_;
+    ActiveWindowQuery activeWindow_;
+    std::shared_ptr<AccessiblePageReader> reader_;
+
+    std::string askedFor_;
+    std::optional<std::string> answered_;
+    std::optional<Page> page_;
+    std::optional<Wish> beingRead_;
+    std::optional<Wish> next_;
+};
+
+AccessibleBrowserPages::AccessibleBrowserPages(MainThread& mainThread, const Clock& clock,
+    BackgroundQueue& queue, ActiveWindowQuery activeWindow, const AccessibilityLimits& limits)
+    : reading_(
+        std::make_shared<Reading>(mainThread, clock, queue, std::move(activeWindow), limits)),
+      queue_(queue)
+{
+}
+
+AccessibleBrowserPages::~AccessibleBrowserPages() { queue_.drain(); }
+
+std::optional<std::string> AccessibleBrowserPages::currentURL(
+    const std::string& bundleID, const std::string&)
+{
+    return reading_->ask(bundleID);
+}
+
+Subscription AccessibleBrowserPages::observeChanges(std::function<void()> handler)
+{
+    return reading_->observers.add(std::move(handler));
+}
+
+} // namespace brindlex

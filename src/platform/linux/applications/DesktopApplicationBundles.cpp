@@ -1,0 +1,38 @@
+#include "platform/linux/applications/DesktopApplicationBundles.h"
+
+#include "platform/linux/applications/ApplicationIdentity.h"
+#include "platform/linux/applications/DesktopIcons.h"
+
+namespace brindlex {
+namespace {
+
+std::optional<std::string> unlessEmpty(const std::string& text)
+{
+    return text.empty() ? std::nullopt : std::optional(text);
+}
+
+} // namespace
+
+DesktopApplicationBundles::DesktopApplicationBundles(const DesktopEntries& entries)
+    : entries_(entries)
+{
+}
+
+std::optional<ApplicationBundle> DesktopApplicationBundles::bundle(
+    const std::filesystem::path& path) const
+{
+    if (!path.native().ends_with(".desktop"))
+        return {};
+    const auto entry = entries_.read(path);
+    if (!entry)
+        return {};
+    const bool hasIdentifier = path.filename() != ".desktop";
+    return ApplicationBundle{
+        .identifier = hasIdentifier ? unlessEmpty(identifierOf(*entry)) : std::nullopt,
+        .displayName = unlessEmpty(entry->localizedName),
+        .name = unlessEmpty(entry->name),
+        .iconFile = iconFile(entry->icon, entries_.dataFolders()),
+    };
+}
+
+} // namespace brindlex

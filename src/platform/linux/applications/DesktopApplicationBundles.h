@@ -1,0 +1,20 @@
+#pragma once
+
+#include "platform/ApplicationBundles.h"
+#include "platform/linux/applications/DesktopEntries.h"
+
+namespace brindlex {
+
+/// The applications that are installed, as their desktop entries tell: a bundle's path is that of
+/// the entry.
+class DesktopApplicationBundles final : public ApplicationBundles {
+public:
+    explicit DesktopApplicationBundles(const DesktopEntries& entries);
+
+    std::optional<ApplicationBundle> bundle(const std::filesystem::path& path) const override;
+
+private:
+    const DesktopEntries& entries_;
+};
+
+} // namespace brindlex

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "foundation/Subscribers.h"
+#include "platform/RunningApplications.h"
+#include "platform/linux/applications/DesktopEntries.h"
+#include "platform/linux/windows/X11ActiveWindow.h"
+#include "platform/linux/windows/X11WindowReading.h"
+
+#include <map>
+#include <optional>
+
+namespace brindlex {
+
+/// The applications with windows on the X server, as the window manager and the windows tell.
+///
+/// Windows of this process count as none: while one of them is active there is no frontmost
+/// application, and the one that follows is told of, even if it is the one from before. A process
+/// identifier of 0 means that the window names none of this machine.
+class X11RunningApplications final : public RunningApplications {
+public:
+    X11RunningApplications(
+        X11Connection& connection, X11ActiveWindow& activeWindow, DesktopEntries& entries);
+
+    /// Costs no round trip.
+    std::optional<RunningApplication> frontmost() const override { return frontmost_; }
+    std::vector<RunningApplication> running() const override;
+    Subscription observeActivation(ActivationHandler handler) override;
+
+    /// The application of a window that says this of itself; costs no round trip.
+    RunningApplication applicationOf(const X11WindowDescription& description) const;
+
+private:
+    RunningApplication identify(const X11WindowDescription& description) const;
+    void readFrontmost();
+
+    X11Connection& connection_;
+    X11ActiveWindow& activeWindow_;
+    DesktopEntries& entries_;
+    std::optional<RunningApplication> frontmost_;
+    std::optional<RunningApplication> lastTold_;
+    mutable std::map<X11WindowDescription, RunningApplication> identified_;
+    Subscribers<ActivationHandler> observers_;
+    Subscription windowChanges_;
+    Subscription propertyChanges_;
+};
+
+} // namespace brindlex

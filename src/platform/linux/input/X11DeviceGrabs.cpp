@@ -1,0 +1,135 @@
+#include "platform/linux/input/X11DeviceGrabs.h"
+
+#include "log/Log.h"
+#include "platform/linux/input/X11Modifiers.h"
+
+#include <algorithm>
+#include <utility>
+#include <xcb/xinput.h>
+
+namespace brindlex {
+namespace {
+
+using Kind = X11InputDevice::Kind;
+
+/// What comes of a device while it is taken. Its fine motion comes raw: the place of a floating
+/// device is not that of the cursor.
+std::uint32_t eventsOf(const X11InputDevice& device)
+{
+    if (device.kind == Kind::keyboard)
+        return XCB_INPUT_XI_EVENT_MASK_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_KEY_RELEASE;
+    return XCB_INPUT_XI_EVENT_MASK_BUTTON_PRESS | XCB_INPUT_XI_EVENT_MASK_BUTTON_RELEASE
+        | (device.isAbsolute ? XCB_INPUT_XI_EVENT_MASK_MOTION : XCB_INPUT_XI_EVENT_MASK_RAW_MOTION);
+}
+
+std::uint8_t grabTypeOf(const X11InputDevice& device)
+{
+    return device.kind == Kind::keyboard ? XCB_INPUT_GRAB_TYPE_KEYCODE : XCB_INPUT_GRAB_TYPE_BUTTON;
+}
+
+/// The modifiers, each also with Caps Lock and Num Lock, of which no trigger knows.
+std::vector<std::uint32_t> modifierSets(const TapDemand::Trigger& trigger)
+{
+    if (!trigger.second)
+        return {XCB_INPUT_MODIFIER_MASK_ANY};
+    const auto mask = modifiersOfFlags(*trigger.second);
+    return {mask, mask | XCB_MOD_MASK_LOCK, mask | XCB_MOD_MASK_2,
+        mask | XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2};
+}
+
+} // namespace
+
+bool X11DeviceGrabs::apply(
+    const TapDemand& demand, std::span<const X11InputDevice> devices, bool mayLetGo)
+{
+    bool isDone = true;
+    for (const auto& device : devices) {
+        const bool isKeyboard = device.kind == Kind::keyboard;
+        const bool wantsAll = isKeyboard ? demand.takesKeyboards : demand.takesMice;
+        auto& grab = grabs_[device.id];
+        if (wantsAll && !grab.isTaken)
+            grab.isTaken = take(device);
+        report(device, grab, wantsAll);
+        // New triggers are there before the device is given back, so that none slips through.
+        setTriggers(device, grab, isKeyboard ? demand.keys : demand.buttons);
+        if (!wantsAll && grab.isTaken && mayLetGo) {
+            giveBack(device);
+            grab.isTaken = false;
+        }
+        isDone &= grab.isTaken == wantsAll;
+    }
+    xcb_flush(connection_.get());
+    return isDone;
+}
+
+bool X11DeviceGrabs::isTaken(std::uint16_t device) const
+{
+    const auto grab = grabs_.find(device);
+    return grab != grabs_.end() && grab->second.isTaken;
+}
+
+bool X11DeviceGrabs::mayHold(std::uint16_t device) const
+{
+    const auto grab = grabs_.find(device);
+    return grab != grabs_.end() && !grab->second.isNothing();
+}
+
+bool X11DeviceGrabs::isNothing() const
+{
+    return std::ranges::all_of(grabs_, [](const auto& grab) { return grab.second.isNothing(); });
+}
+
+bool X11DeviceGrabs::take(const X11InputDevice& device)
+{
+    const auto events = eventsOf(device);
+    auto* const server = connection_.get();
+    const auto request = xcb_input_xi_grab_device(server, connection_.root(), XCB_CURRENT_TIME,
+        XCB_CURSOR_NONE, device.id, XCB_INPUT_GRAB_MODE_22_ASYNC, XCB_INPUT_GRAB_MODE_22_ASYNC,
+        XCB_INPUT_GRAB_OWNER_NO_OWNER, 1, &events);
+    const X11Message<xcb_input_xi_grab_device_reply_t> reply(
+        xcb_input_xi_grab_device_reply(server, request, nullptr));
+    return reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
+}
+
+void X11DeviceGrabs::report(const X11InputDevice& device, Grab& grab, bool wantsAll)
+{
+    const bool isRefused = wantsAll && !grab.isTaken;
+    if (std::exchange(grab.isReported, isRefused) != isRefused && isRefused)
+        Log::warn(
+            "Another program has taken \"" + device.name + "\"; it is tapped once it is given back",
+            logCategory::mouse);
+}
+
+void X11DeviceGrabs::giveBack(const X11InputDevice& device)
+{
+    xcb_input_xi_ungrab_device(connection_.get(), XCB_CURRENT_TIME, device.id);
+}
+
+void X11DeviceGrabs::setTriggers(
+    const X11InputDevice& device, Grab& grab, const std::set<TapDemand::Trigger>& triggers)
+{
+    auto* const server = connection_.get();
+    const auto root = connection_.root();
+    const auto events = eventsOf(device);
+    // Old ones go first: the new may be the same with other modifiers.
+    for (const auto& trigger : grab.triggers) {
+        if (triggers.contains(trigger))
+            continue;
+        const auto modifiers = modifierSets(trigger);
+        xcb_input_xi_passive_ungrab_device(server, root, trigger.first, device.id,
+            static_cast<std::uint16_t>(modifiers.size()), grabTypeOf(device), modifiers.data());
+    }
+    for (const auto& trigger : triggers) {
+        if (grab.triggers.contains(trigger))
+            continue;
+        const auto modifiers = modifierSets(trigger);
+        const auto request = xcb_input_xi_passive_grab_device(server, XCB_CURRENT_TIME, root,
+            XCB_CURSOR_NONE, trigger.first, device.id, static_cast<std::uint16_t>(modifiers.size()),
+            1, grabTypeOf(device), XCB_INPUT_GRAB_MODE_22_ASYNC, XCB_INPUT_GRAB_MODE_22_ASYNC,
+            XCB_INPUT_GRAB_OWNER_NO_OWNER, &events, modifiers.data());
+        xcb_discard_reply(server, request.sequence);
+    }
+    grab.triggers = triggers;
+}
+
+} // namespace brindlex

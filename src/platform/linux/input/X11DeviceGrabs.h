@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/linux/input/TapDemand.h"
+#include "platform/linux/input/X11InputDevices.h"
+
+#include <map>
+#include <set>
+#include <span>
+
+namespace brindlex {
+
+/// Takes devices away from the applications, as little and as seldom as the demand allows.
+///
+/// A taken device floats: its events come to the connection alone. A device that is taken for a
+/// trigger floats from the press until the last of its buttons, or the key that was pressed, is up.
+/// No window notices. All is given back the moment the connection ends.
+class X11DeviceGrabs {
+public:
+    explicit X11DeviceGrabs(X11Connection& connection) : connection_(connection) { }
+
+    /// Asks the server for what the demand lacks and gives back what it has too much. False when
+    /// something is left to be done: another program holds a device, or one would have to be given
+    /// back while `mayLetGo` forbids it, as a button is held.
+    bool apply(const TapDemand& demand, std::span<const X11InputDevice> devices, bool mayLetGo);
+
+    /// Whether the device is taken all the time.
+    bool isTaken(std::uint16_t device) const;
+
+    /// Whether the device is taken, or can be by a trigger.
+    bool mayHold(std::uint16_t device) const;
+
+    /// Whether no device is taken, nor can be by a trigger.
+    bool isNothing() const;
+
+    /// The device has gone, and what was taken of it.
+    void forget(std::uint16_t device) { grabs_.erase(device); }
+
+private:
+    struct Grab {
+        bool isTaken = false;
+        /// Whether the log already says that another program holds it.
+        bool isReported = false;
+        std::set<TapDemand::Trigger> triggers{};
+
+        bool isNothing() const { return !isTaken && triggers.empty(); }
+    };
+
+    /// Whether nobody else holds the device.
+    bool take(const X11InputDevice& device);
+    static void report(const X11InputDevice& device, Grab& grab, bool wantsAll);
+    void giveBack(const X11InputDevice& device);
+    void setTriggers(
+        const X11InputDevice& device, Grab& grab, const std::set<TapDemand::Trigger>& triggers);
+
+    X11Connection& connection_;
+    std::map<std::uint16_t, Grab> grabs_;
+};
+
+} // namespace brindlex

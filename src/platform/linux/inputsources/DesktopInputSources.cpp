@@ -1,0 +1,252 @@
+#include "platform/linux/inputsources/DesktopInputSources.h"
+
+#include "log/Log.h"
+#include "platform/InputSourceIdentifiers.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto fcitxName = "org.fcitx.Fcitx5";
+constexpr auto ibusName = "org.freedesktop.IBus";
+constexpr auto busName = "org.freedesktop.DBus";
+constexpr auto busPath = "/org/freedesktop/DBus";
+constexpr int callLimitMilliseconds = 5000;
+constexpr auto startWait = 100ms;
+/// When to ask a daemon again that runs and could not be used: it may still be starting.
+constexpr std::array retryDelays{250ms, 500ms, 1000ms, 2000ms, 4000ms, 8000ms};
+
+InputSourceProperties propertiesOf(const InputSource& source)
+{
+    return {source.id, std::string(keyboardInputSourceCategory), source.name, true, true};
+}
+
+bool matches(const InputSourceFilter& filter, const InputSource& source)
+{
+    return (!filter.id || canonicalSourceID(*filter.id) == source.id)
+        && (!filter.category || *filter.category == keyboardInputSourceCategory)
+        && filter.isSelectCapable != false && filter.isEnabled != false;
+}
+
+} // namespace
+
+DesktopInputSources::DesktopInputSources(X11Connection& connection, QDBusConnection sessionBus)
+    : connection_(connection), bus_(std::move(sessionBus)), xkb_(connection, registry_),
+      backend_(&xkb_)
+{
+    settleSoon_.setSingleShot(true);
+    settleSoon_.setInterval(0);
+    QObject::connect(&settleSoon_, &QTimer::timeout, &context_, [this] { settle(); });
+    retry_.setSingleShot(true);
+    QObject::connect(&retry_, &QTimer::timeout, &context_, [this] {
+        takeFcitx(isFcitxRunning_, doNotWait);
+        takeIBus(isIBusRunning_, doNotWait);
+    });
+    xkbChanges_ = xkb_.observe([this] { settleSoon_.start(); });
+
+    if (bus_.isConnected()) {
+        for (const auto* daemon : {fcitxName, ibusName})
+            signals_.push_back(std::make_unique<DBusSignal>(bus_, QLatin1String(busPath),
+                QLatin1String(busName), QStringLiteral("NameOwnerChanged"),
+                QStringList{QLatin1String(daemon)}, [this, daemon](const QDBusMessage&) {
+                    retries_ = 0;
+                    if (daemon == fcitxName)
+                        dropFcitx();
+                    else
+                        dropIBus();
+                    findDaemons(doNotWait);
+                }));
+        signals_.push_back(
+            std::make_unique<DBusSignal>(bus_, QStringLiteral("/org/freedesktop/DBus/Local"),
+                QStringLiteral("org.freedesktop.DBus.Local"), QStringLiteral("Disconnected"),
+                QStringList(), [this](const QDBusMessage&) { takeFcitx(false, doNotWait); }));
+        findDaemons(std::chrono::steady_clock::now() + startWait);
+    }
+    announce(bestBackend());
+    toldSources_ = backend_->sources();
+    toldSelection_ = backend_->current();
+}
+
+DesktopInputSources::~DesktopInputSources() = default;
+
+std::optional<InputSourceProperties> DesktopInputSources::current()
+{
+    const auto id = backend_->current();
+    if (!id)
+        return {};
+    const auto& sources = backend_->sources();
+    const auto found = std::find_if(sources.begin(), sources.end(),
+        [&](const InputSource& source) { return source.id == *id; });
+    return propertiesOf(found == sources.end() ? InputSource{*id, *id} : *found);
+}
+
+std::optional<std::vector<InputSourceProperties>> DesktopInputSources::list(
+    const InputSourceFilter& filter)
+{
+    if (!backend_->isUsable())
+        return {};
+    std::vector<InputSourceProperties> found;
+    for (const auto& source : backend_->sources())
+        if (matches(filter, source))
+            found.push_back(propertiesOf(source));
+    return found;
+}
+
+int DesktopInputSources::select(const InputSourceProperties& source)
+{
+    const auto status = backend_->select(canonicalSourceID(source.id.value_or("")));
+    settleSoon_.start();
+    return static_cast<int>(status);
+}
+
+Subscription DesktopInputSources::observeSelectionChanges(std::function<void()> handler)
+{
+    return selectionObservers_.add(std::move(handler));
+}
+
+Subscription DesktopInputSources::observeEnabledSourcesChanges(std::function<void()> handler)
+{
+    return enabledSourcesObservers_.add(std::move(handler));
+}
+
+void DesktopInputSources::findDaemons(DBusDeadline deadline)
+{
+    const auto ask = [this](const char* daemon) {
+        auto question = QDBusMessage::createMethodCall(QLatin1String(busName),
+            QLatin1String(busPath), QLatin1String(busName), QStringLiteral("NameHasOwner"));
+        question.setArguments({QLatin1String(daemon)});
+        return bus_.asyncCall(question, callLimitMilliseconds);
+    };
+    const auto isYes = [](const QDBusMessage& reply) {
+        return reply.type() == QDBusMessage::ReplyMessage && !reply.arguments().isEmpty()
+            && reply.arguments().first().toBool();
+    };
+    const auto ibus = ask(ibusName);
+    whenAnswered(ask(fcitxName), deadline, &context_,
+        [this, ibus, isYes, deadline](const QDBusMessage& fcitxReply) {
+            takeFcitx(isYes(fcitxReply), deadline);
+            whenAnswered(
+                ibus, deadline, &context_, [this, isYes, deadline](const QDBusMessage& ibusReply) {
+                    // Fcitx 5 owns this name too, for programs that speak to IBus.
+                    takeIBus(isYes(ibusReply) && !isFcitxRunning_, deadline);
+                });
+        });
+}
+
+void DesktopInputSources::takeFcitx(bool isRunning, DBusDeadline deadline)
+{
+    isFcitxRunning_ = isRunning;
+    if (!isRunning) {
+        dropFcitx();
+    } else if (!fcitx_ || !fcitx_->hasAnswered()) {
+        dropFcitx();
+        fcitx_ = std::make_unique<Fcitx5InputSources>(bus_, connection_, registry_, deadline);
+        fcitxChanges_ = fcitx_->observe([this] { settleSoon_.start(); });
+    }
+    settleSoon_.start();
+}
+
+void DesktopInputSources::takeIBus(bool isRunning, DBusDeadline deadline)
+{
+    isIBusRunning_ = isRunning;
+    if (!isRunning) {
+        dropIBus();
+    } else if (!ibus_ || !ibus_->hasAnswered()) {
+        dropIBus();
+        ibus_ = std::make_unique<IBusInputSources>(xkb_, deadline);
+        ibusChanges_ = ibus_->observe([this] { settleSoon_.start(); });
+    }
+    settleSoon_.start();
+}
+
+void DesktopInputSources::dropFcitx()
+{
+    leave(fcitx_.get());
+    fcitxChanges_.reset();
+    fcitx_.reset();
+    settleSoon_.start();
+}
+
+void DesktopInputSources::dropIBus()
+{
+    leave(ibus_.get());
+    ibusChanges_.reset();
+    ibus_.reset();
+    settleSoon_.start();
+}
+
+void DesktopInputSources::leave(const InputSourceBackend* backend)
+{
+    if (!backend || backend != backend_)
+        return;
+    Log::warn(std::string(backend->name()) + " has gone", logCategory::inputMethod);
+    backend_ = &xkb_;
+}
+
+InputSourceBackend& DesktopInputSources::bestBackend()
+{
+    if (fcitx_ && fcitx_->isUsable())
+        return *fcitx_;
+    if (ibus_ && ibus_->isUsable())
+        return *ibus_;
+    return xkb_;
+}
+
+void DesktopInputSources::tryAgainLater()
+{
+    std::string problem;
+    if (fcitx_ && !fcitx_->hasAnswered() && !fcitx_->problem().empty())
+        problem = "Fcitx 5 cannot be used: " + fcitx_->problem();
+    else if (ibus_ && !ibus_->hasAnswered() && !ibus_->problem().empty())
+        problem = "IBus cannot be used: " + ibus_->problem();
+    if (problem.empty() || retry_.isActive())
+        return;
+    if (std::exchange(lastProblem_, problem) != problem)
+        Log::warn(problem, logCategory::inputMethod);
+    retry_.start(retryDelays[std::min(retries_, retryDelays.size() - 1)]);
+    ++retries_;
+}
+
+void DesktopInputSources::settle()
+{
+    // Its connection may end before the bus tells that its name has no owner any more.
+    if (ibus_ && !ibus_->hasAnswered())
+        leave(ibus_.get());
+    announce(bestBackend());
+    tryAgainLater();
+    tellOfSources();
+    tellOfSelection();
+}
+
+void DesktopInputSources::announce(InputSourceBackend& backend)
+{
+    backend_ = &backend;
+    if (std::exchange(announced_, backend.name()) != backend.name())
+        Log::info(
+            "Input sources come from " + std::string(backend.name()), logCategory::inputMethod);
+}
+
+void DesktopInputSources::tellOfSources()
+{
+    if (!backend_->isUsable() || backend_->sources() == toldSources_)
+        return;
+    toldSources_ = backend_->sources();
+    enabledSourcesObservers_.notify();
+}
+
+void DesktopInputSources::tellOfSelection()
+{
+    auto now = backend_->current();
+    if (!now || now == toldSelection_)
+        return;
+    toldSelection_ = std::move(now);
+    selectionObservers_.notify();
+}
+
+} // namespace brindlex

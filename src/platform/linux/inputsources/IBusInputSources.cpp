@@ -1,0 +1,239 @@
+#include "platform/linux/inputsources/IBusInputSources.h"
+
+#include "foundation/Text.h"
+#include "log/Log.h"
+#include "platform/InputSourceIdentifiers.h"
+#include "platform/linux/inputsources/XkbRegistry.h"
+
+#include <QDBusVariant>
+
+#include <algorithm>
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr IBusConnection::Service daemon{
+    "org.freedesktop.IBus", "/org/freedesktop/IBus", "org.freedesktop.IBus"};
+constexpr IBusConnection::Service daemonProperties{
+    "org.freedesktop.IBus", "/org/freedesktop/IBus", "org.freedesktop.DBus.Properties"};
+constexpr IBusConnection::Service settings{
+    "org.freedesktop.IBus.Config", "/org/freedesktop/IBus/Config", "org.freedesktop.IBus.Config"};
+
+/// How long `select` waits: a warm engine takes 1 to 15 ms, one that has to be started 120 ms.
+constexpr auto selectionWait = 30ms;
+
+QStringList textsOf(const QVariant& value)
+{
+    auto inner = value;
+    while (inner.metaType() == QMetaType::fromType<QDBusVariant>())
+        inner = inner.value<QDBusVariant>().variant();
+    return inner.toStringList();
+}
+
+QVariant firstOf(const QDBusMessage& message)
+{
+    return message.arguments().isEmpty() ? QVariant() : message.arguments().first();
+}
+
+bool isPlainLayout(const IBusEngine& engine) { return layoutOfSource(engine.name).has_value(); }
+
+InputSource sourceOf(const IBusEngine& engine)
+{
+    const auto catalogue = isPlainLayout(engine) ? "xkeyboard-config" : engine.catalogue;
+    const auto name = translated(catalogue, engine.longName);
+    return {sourceIDOfIBusEngine(engine.name), name.empty() ? engine.name : name};
+}
+
+} // namespace
+
+IBusInputSources::IBusInputSources(XkbInputSources& layouts, DBusDeadline deadline)
+    : layouts_(layouts), problem_(bus_.problem())
+{
+    if (!bus_.isConnected())
+        return;
+    bus_.greet(deadline, [this, deadline](const QDBusMessage& answer) {
+        if (answer.type() == QDBusMessage::ErrorMessage) {
+            fail(answer);
+            return;
+        }
+        listen();
+        readCurrent(deadline);
+        readEngineList(deadline);
+    });
+}
+
+IBusInputSources::~IBusInputSources() = default;
+
+bool IBusInputSources::isUsable() const
+{
+    const bool switches
+        = engines_.size() > 1 || (engines_.size() == 1 && !isPlainLayout(engines_.front()));
+    return hasAnswered() && switches;
+}
+
+std::optional<std::string> IBusInputSources::current()
+{
+    const auto engine = selection_.engine();
+    if (!engine)
+        return {};
+    return sourceIDOfIBusEngine(*engine);
+}
+
+SelectionStatus IBusInputSources::select(const std::string& id)
+{
+    if (!isUsable())
+        return SelectionStatus::notConnected;
+    const auto found = std::find_if(engines_.begin(), engines_.end(),
+        [&](const IBusEngine& engine) { return sourceIDOfIBusEngine(engine.name) == id; });
+    if (found == engines_.end())
+        return SelectionStatus::unknownSource;
+
+    const int groupBefore = layouts_.group();
+    const auto group = groupFor(*found);
+    if (group && *group != groupBefore)
+        layouts_.lockGroup(*group);
+
+    if (!selection_.want({found->name, groupBefore}))
+        return SelectionStatus::done;
+    return ask(std::chrono::steady_clock::now() + selectionWait);
+}
+
+SelectionStatus IBusInputSources::ask(DBusDeadline deadline)
+{
+    const auto asked = selection_.ask();
+    const auto pending
+        = bus_.call(daemon, "SetGlobalEngine", {QString::fromStdString(asked.engine)});
+    if (waitForAnswer(pending, deadline))
+        return finish(asked, pending.reply());
+    whenAnswered(pending, doNotWait, &context_,
+        [this, asked](const QDBusMessage& reply) { finish(asked, reply); });
+    return SelectionStatus::done;
+}
+
+SelectionStatus IBusInputSources::finish(
+    const IBusSelection::Wish& asked, const QDBusMessage& reply)
+{
+    const bool isRefused = reply.type() == QDBusMessage::ErrorMessage;
+    if (isRefused)
+        Log::warn("IBus did not select " + asked.engine + ": " + reply.errorMessage().toStdString(),
+            logCategory::inputMethod);
+    if (!selection_.take(isRefused)) {
+        ask(doNotWait);
+        return SelectionStatus::done;
+    }
+    if (isRefused)
+        layouts_.lockGroup(asked.groupBefore);
+    notify();
+    if (!isRefused)
+        return SelectionStatus::done;
+    return bus_.isConnected() ? SelectionStatus::refused : SelectionStatus::notConnected;
+}
+
+void IBusInputSources::listen()
+{
+    bus_.follow(daemon, "GlobalEngineChanged",
+        [this](const QDBusMessage& signal) { become(firstOf(signal).toString().toStdString()); });
+    bus_.follow(settings, "ValueChanged", [this](const QDBusMessage& signal) {
+        const auto& arguments = signal.arguments();
+        if (arguments.size() >= 3 && arguments[0] == QLatin1String("general")
+            && arguments[1] == QLatin1String("preload-engines"))
+            readEngines(textsOf(arguments[2]), doNotWait);
+    });
+    bus_.whenEnded([this] {
+        hasGone_ = true;
+        problem_ = "the connection has ended";
+        notify();
+    });
+}
+
+void IBusInputSources::readEngineList(DBusDeadline deadline)
+{
+    const QVariantList arguments{QStringLiteral("general"), QStringLiteral("preload-engines")};
+    whenAnswered(bus_.call(settings, "GetValue", arguments), deadline, &context_,
+        [this, deadline](const QDBusMessage& reply) {
+            if (reply.type() == QDBusMessage::ErrorMessage)
+                fail(reply);
+            else
+                readEngines(textsOf(firstOf(reply)), deadline);
+        });
+}
+
+void IBusInputSources::readEngines(const QStringList& names, DBusDeadline deadline)
+{
+    whenAnswered(bus_.call(daemon, "GetEnginesByNames", {names}), deadline, &context_,
+        [this, names](const QDBusMessage& reply) {
+            if (reply.type() == QDBusMessage::ErrorMessage) {
+                fail(reply);
+                return;
+            }
+            setEngines(names, firstOf(reply));
+        });
+}
+
+void IBusInputSources::setEngines(const QStringList& names, const QVariant& descriptions)
+{
+    const auto engines = ibusEngines(descriptions);
+    engines_.clear();
+    sources_.clear();
+    for (const auto& name : names) {
+        const auto found = std::find_if(engines.begin(), engines.end(),
+            [&](const IBusEngine& engine) { return engine.name == name.toStdString(); });
+        if (found == engines.end())
+            continue;
+        engines_.push_back(*found);
+        sources_.push_back(sourceOf(*found));
+    }
+    hasEngines_ = true;
+    notify();
+}
+
+void IBusInputSources::readCurrent(DBusDeadline deadline)
+{
+    const QVariantList arguments{QLatin1String(daemon.interface), QStringLiteral("GlobalEngine")};
+    whenAnswered(bus_.call(daemonProperties, "Get", arguments), deadline, &context_,
+        [this](const QDBusMessage& reply) {
+            // A daemon in which nothing was selected yet answers with this error.
+            const bool hasNone = reply.type() == QDBusMessage::ErrorMessage
+                && reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.Failed");
+            if (reply.type() == QDBusMessage::ErrorMessage && !hasNone) {
+                fail(reply);
+                return;
+            }
+            if (const auto engine = ibusEngine(firstOf(reply)))
+                selection_.begin(engine->name);
+            hasCurrent_ = true;
+            notify();
+        });
+}
+
+void IBusInputSources::become(const std::string& engine)
+{
+    if (selection_.hear(engine))
+        notify();
+}
+
+void IBusInputSources::fail(const QDBusMessage& reply)
+{
+    problem_ = reply.errorMessage().toStdString();
+    notify();
+}
+
+std::optional<int> IBusInputSources::groupFor(const IBusEngine& engine)
+{
+    const auto& layouts = layouts_.layouts();
+    if (layouts.empty())
+        return {};
+    // An engine for whichever layout composes text from Latin letters: the first is the user's own.
+    if (engine.layout.empty() || engine.layout == "default")
+        return 0;
+    const auto found
+        = std::find(layouts.begin(), layouts.end(), XkbLayout{engine.layout, engine.variant});
+    if (found == layouts.end())
+        return {};
+    return static_cast<int>(found - layouts.begin());
+}
+
+} // namespace brindlex

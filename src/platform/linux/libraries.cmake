@@ -1,0 +1,12 @@
+# The libraries of the system that the rooms for Linux are made of.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui)
+pkg_check_modules(XCB REQUIRED IMPORTED_TARGET GLOBAL xcb xcb-xkb)
+pkg_check_modules(XCB_RANDR REQUIRED IMPORTED_TARGET GLOBAL xcb-randr)
+pkg_check_modules(XCB_INPUT REQUIRED IMPORTED_TARGET GLOBAL
+    x11 xcb xcb-randr xcb-xfixes xcb-xinput xcb-xtest)
+pkg_check_modules(XKB_REGISTRY REQUIRED IMPORTED_TARGET GLOBAL xkbcommon xkbregistry)
+
+# Qt as every room uses it.
+add_library(brindlex_qt INTERFACE)
+target_link_libraries(brindlex_qt INTERFACE Qt6::Core)
+target_compile_definitions(brindlex_qt INTERFACE QT_NO_KEYWORDS QT_NO_CAST_TO_ASCII)

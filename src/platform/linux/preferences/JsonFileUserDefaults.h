@@ -1,0 +1,87 @@
+#pragma once
+
+#include "foundation/Subscribers.h"
+#include "platform/BackgroundQueue.h"
+#include "platform/MainThread.h"
+#include "platform/UserDefaults.h"
+#include "platform/linux/preferences/FolderWatcher.h"
+#include "platform/linux/preferences/PreferenceFile.h"
+
+#include <deque>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <set>
+#include <shared_mutex>
+#include <string>
+
+namespace brindlex {
+
+/// Preferences in a file that holds one JSON object and that other processes may read and write.
+///
+/// All that is set within 30 ms is written together, on the queue, which is this object's own; the
+/// main thread waits for the disk at construction, in `synchronize` and at destruction only. What
+/// another process writes is taken over under all keys but those that this process has set since
+/// and not written yet. A write that fails is repeated with the next change and by itself after 1
+/// s, 2 s and so on up to a minute. A file that was removed counts as empty after a second without
+/// it.
+class JsonFileUserDefaults : public UserDefaults {
+public:
+    JsonFileUserDefaults(
+        const std::filesystem::path& file, MainThread& mainThread, BackgroundQueue& queue);
+    ~JsonFileUserDefaults() override;
+    JsonFileUserDefaults(const JsonFileUserDefaults&) = delete;
+    JsonFileUserDefaults& operator=(const JsonFileUserDefaults&) = delete;
+
+    std::optional<PreferenceValue> value(const std::string& key) const override;
+    void set(const std::string& key, std::optional<PreferenceValue> object) override;
+    void synchronize() override;
+    Subscription observeChanges(std::function<void()> handler) override;
+
+private:
+    /// What a piece of work on the queue has done.
+    struct Outcome {
+        std::optional<PreferenceFile::Finding> found{};
+        std::optional<bool> isWritten{};
+        PreferenceDocument document{};
+    };
+
+    void watch();
+    void look(PreferenceFile::Patience patience);
+    void writeSoon();
+    void write();
+    void perform(std::function<Outcome(PreferenceFile&)> work);
+    void takeOutcomes();
+    void take(const Outcome& outcome);
+    void adopt(const PreferenceDocument& file);
+
+    const std::filesystem::path path_;
+    MainThread& mainThread_;
+    BackgroundQueue& queue_;
+    /// Used on the queue only, once it is constructed.
+    PreferenceFile file_;
+
+    mutable std::shared_mutex memoryMutex_;
+    PreferenceDocument memory_;
+    std::set<std::string> unwritten_;
+    std::set<std::string> beingWritten_;
+    bool isWriting_ = false;
+    bool isFileLost_ = false;
+    bool isLooking_ = false;
+    bool needsAnotherLook_ = false;
+    Seconds retryDelay_;
+    Subscribers<std::function<void()>> subscribers_;
+
+    std::mutex outcomesMutex_;
+    std::deque<Outcome> outcomes_;
+    std::shared_ptr<JsonFileUserDefaults*> self_;
+    Subscription nextWrite_;
+    Subscription nextTry_;
+    Subscription settling_;
+    std::unique_ptr<FolderWatcher> folderWatcher_;
+    std::unique_ptr<FolderWatcher> targetWatcher_;
+};
+
+} // namespace brindlex

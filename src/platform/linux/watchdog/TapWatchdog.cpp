@@ -1,0 +1,123 @@
+#include "platform/linux/watchdog/TapWatchdog.h"
+
+#include "log/Log.h"
+
+#include <QSocketNotifier>
+#include <spawn.h>
+#include <sys/socket.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstring>
+#include <utility>
+
+namespace brindlex {
+
+TapWatchdog::TapWatchdog(std::filesystem::path program, std::string display)
+    : program_(std::move(program)), display_(std::move(display))
+{
+}
+
+TapWatchdog::~TapWatchdog() { dismiss(); }
+
+std::filesystem::path TapWatchdog::besideThisProgram()
+{
+    std::error_code ignored;
+    return std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path()
+        / "brindlex-watchdog";
+}
+
+void TapWatchdog::watch(WatchdogMessage order)
+{
+    if (!socket_)
+        start();
+    if (std::exchange(watched_, order) != order)
+        tell(order);
+}
+
+void TapWatchdog::rest()
+{
+    if (std::exchange(watched_, {}) != WatchdogMessage{})
+        tell({WatchdogMessage::Order::rest});
+}
+
+void TapWatchdog::dismiss()
+{
+    if (!socket_)
+        return;
+    tell({WatchdogMessage::Order::dismiss});
+    ended();
+}
+
+void TapWatchdog::start()
+{
+    if (startsLeft_ == 0)
+        return;
+    --startsLeft_;
+    std::array<int, 2> ends{};
+    if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0) {
+        Log::warn(std::string("Input watchdog: ") + std::strerror(errno), logCategory::mouse);
+        return;
+    }
+    FileHandle own(ends[0]);
+    const FileHandle theirs(ends[1]);
+
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    posix_spawn_file_actions_adddup2(&actions, theirs.descriptor(), watchdogDescriptor);
+    posix_spawnattr_t attributes;
+    posix_spawnattr_init(&attributes);
+    // What is sent to the program's terminal or group does not concern it.
+    posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSID);
+    auto path = program_.string();
+    const std::array<char*, 3> arguments{path.data(), display_.data(), nullptr};
+    const int error
+        = posix_spawn(&process_, path.c_str(), &actions, &attributes, arguments.data(), environ);
+    posix_spawnattr_destroy(&attributes);
+    posix_spawn_file_actions_destroy(&actions);
+    if (error != 0) {
+        Log::warn("Input watchdog: cannot start " + path + ": " + std::strerror(error),
+            logCategory::mouse);
+        startsLeft_ = 0;
+        return;
+    }
+    socket_ = std::move(own);
+    notifier_ = std::make_unique<QSocketNotifier>(socket_.descriptor(), QSocketNotifier::Read);
+    QObject::connect(
+        notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { answer(); });
+}
+
+void TapWatchdog::tell(WatchdogMessage message) const
+{
+    if (socket_)
+        send(socket_.descriptor(), &message, sizeof(message), MSG_NOSIGNAL | MSG_DONTWAIT);
+}
+
+void TapWatchdog::answer()
+{
+    WatchdogMessage question;
+    const auto size = recv(socket_.descriptor(), &question, sizeof(question), MSG_DONTWAIT);
+    if (size > 0) {
+        tell({WatchdogMessage::Order::alive});
+        return;
+    }
+    if (size < 0 && (errno == EAGAIN || errno == EINTR))
+        return;
+    Log::warn("Input watchdog: ended", logCategory::mouse);
+    ended();
+    const auto order = std::exchange(watched_, {});
+    if (order != WatchdogMessage{})
+        watch(order);
+}
+
+void TapWatchdog::ended()
+{
+    // The notifier may be the caller.
+    notifier_->setEnabled(false);
+    notifier_.release()->deleteLater();
+    socket_.close();
+    waitpid(std::exchange(process_, -1), nullptr, WNOHANG);
+}
+
+} // namespace brindlex

@@ -1,0 +1,51 @@
+#include "eventtap/GlobalEventTapFixture.h"
+
+namespace brindlex {
+namespace {
+
+TEST_F(GlobalEventTapTest, letsAHandlerEndItsOwnSubscription)
+{
+    Uuid id;
+    id = tap.subscribe(1024, [&](const Event&) {
+        tap.unsubscribe(id);
+        return EventVerdict::swallow;
+    });
+
+    EXPECT_EQ(keyboard.press(9), EventVerdict::swallow);
+    EXPECT_EQ(keyboard.press(10), EventVerdict::pass);
+    EXPECT_FALSE(tap.isLive());
+}
+
+TEST_F(GlobalEventTapTest, walksTheSubscribersThatThereWereWhenTheEventCame)
+{
+    Uuid second;
+    bool isFirst = true;
+    tap.subscribe(1024, [&](const Event&) {
+        if (std::exchange(isFirst, false)) {
+            tap.unsubscribe(second);
+            tap.subscribe(1024, noting("third"));
+        }
+        return EventVerdict::pass;
+    });
+    second = tap.subscribe(1024, noting("second"));
+
+    keyboard.press(9);
+    EXPECT_EQ(calls, Lines{"second"});
+    keyboard.press(9);
+    EXPECT_EQ(calls, (Lines{"second", "third"}));
+}
+
+TEST_F(GlobalEventTapTest, survivesTheLossOfPermissionInsideAHandler)
+{
+    tap.subscribe(1024, [&](const Event&) {
+        permissions.set(false);
+        permissions.tell();
+        return EventVerdict::swallow;
+    });
+
+    EXPECT_EQ(keyboard.press(9), EventVerdict::swallow);
+    EXPECT_EQ(keyboard.press(9), EventVerdict::pass);
+}
+
+} // namespace
+} // namespace brindlex

@@ -1,0 +1,142 @@
+#include "eventtap/GlobalEventTap.h"
+
+#include "platform/simulated/SimulatedEventPermissions.h"
+#include "platform/simulated/SimulatedInput.h"
+#include "platform/simulated/SimulatedKeyboard.h"
+#include "platform/simulated/SimulatedMouse.h"
+#include "platform/simulated/SimulatedProgramActivation.h"
+#include "support/basics/RecordedLog.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace brindlex {
+namespace {
+
+using Lines = std::vector<std::string>;
+
+const EventTriggers sideButton{{{3, {}}}, {}, false};
+const EventTriggers middleButton{{{2, {}}}, {}, false};
+const EventTriggers forwardButton{{{4, {}}}, {}, false};
+
+EventVerdict swallowing(const Event&) { return EventVerdict::swallow; }
+EventVerdict passing(const Event&) { return EventVerdict::pass; }
+
+class GlobalEventTapInterestsTest : public testing::Test {
+protected:
+    SimulatedInput input{SimulatedInput::TapPlace::devices};
+    SimulatedEventPermissions permissions;
+    SimulatedProgramActivation activation;
+    SimulatedMouse mouse{input};
+    GlobalEventTap tap{input, permissions, activation};
+};
+
+TEST_F(GlobalEventTapInterestsTest, changeForOneSubscriberAlone)
+{
+    const auto first = tap.subscribe(0xE000000, swallowing, sideButton);
+    tap.subscribe(0xE000000, passing, middleButton);
+
+    tap.setTriggers(first, forwardButton);
+
+    EXPECT_EQ(mouse.press(3), EventVerdict::pass);
+    mouse.release(3);
+    EXPECT_EQ(mouse.press(2), EventVerdict::swallow) << "as the second still asks for it";
+    mouse.release(2);
+    EXPECT_EQ(mouse.press(4), EventVerdict::swallow);
+}
+
+TEST_F(GlobalEventTapInterestsTest, changeForNobodyUnderAnIdentifierThatIsNotKnown)
+{
+    tap.subscribe(0xE000000, swallowing, sideButton);
+
+    tap.setTriggers(Uuid::random(), forwardButton);
+
+    EXPECT_EQ(mouse.press(4), EventVerdict::pass);
+    EXPECT_EQ(mouse.press(3), EventVerdict::swallow);
+}
+
+TEST_F(GlobalEventTapInterestsTest, changedWithoutATapCountForTheNextOne)
+{
+    const auto id = tap.subscribe(0xE000000, swallowing, sideButton);
+    permissions.set(false);
+    permissions.tell();
+
+    tap.setTriggers(id, forwardButton);
+
+    EXPECT_FALSE(tap.isLive());
+    permissions.set(true);
+    permissions.tell();
+    EXPECT_EQ(mouse.press(3), EventVerdict::pass);
+    EXPECT_EQ(mouse.press(4), EventVerdict::swallow);
+}
+
+/// A tapping that notes what is done to its taps, and keeps the newest handler.
+class NotedTapping : public EventTapping {
+public:
+    std::unique_ptr<EventTap> createTap(
+        EventMask mask, std::vector<EventInterest>, Handler given) override
+    {
+        notes.push_back("made " + std::to_string(mask));
+        handler = std::move(given);
+        return std::make_unique<Tap>(notes);
+    }
+
+    Lines notes;
+    Handler handler;
+
+private:
+    class Tap : public EventTap {
+    public:
+        explicit Tap(Lines& notes) : notes_(notes) { }
+        ~Tap() override { notes_.emplace_back("gone"); }
+        void setEnabled(bool isEnabled) override { notes_.emplace_back(isEnabled ? "on" : "off"); }
+        void setInterests(std::vector<EventInterest>) override { notes_.emplace_back("interests"); }
+
+    private:
+        Lines& notes_;
+    };
+};
+
+class GlobalEventTapsLifeTest : public testing::Test {
+protected:
+    RecordedLog log;
+    NotedTapping tapping;
+    SimulatedEventPermissions permissions;
+    SimulatedProgramActivation activation;
+    GlobalEventTap tap{tapping, permissions, activation};
+};
+
+TEST_F(GlobalEventTapsLifeTest, isSwitchedOffBeforeItGoes)
+{
+    const auto id = tap.subscribe(1024, passing);
+    tap.subscribe(0x400000, passing);
+    tap.unsubscribe(id);
+    permissions.set(false);
+    permissions.tell();
+
+    EXPECT_EQ(tapping.notes,
+        (Lines{"made 1024", "on", "off", "gone", "made 4195328", "on", "off", "gone",
+            "made 4194304", "on", "off", "gone"}));
+}
+
+TEST_F(GlobalEventTapsLifeTest, doesNotBeginAgainByWordOfATapThatIsGone)
+{
+    tap.subscribe(1024, swallowing);
+    const auto handler = tapping.handler;
+    permissions.set(false);
+    permissions.tell();
+    log.takeLines();
+    tapping.notes.clear();
+
+    for (const auto type : {EventType::tapDisabledByTimeout, EventType::tapDisabledByUserInput})
+        EXPECT_EQ(handler({type, {}, 0, {}}), EventVerdict::pass);
+
+    EXPECT_EQ(log.lines(), Lines{});
+    EXPECT_EQ(tapping.notes, Lines{});
+}
+
+} // namespace
+} // namespace brindlex

@@ -1,0 +1,98 @@
+#include "platform/linux/input/X11EventPermissions.h"
+
+#include "platform/linux/input/X11EventTapping.h"
+#include "platform/linux/system/QtMainThread.h"
+#include "platform/simulated/SimulatedMainThread.h"
+#include "platform/simulated/SimulatedUserDefaults.h"
+#include "support/loops/LoopUntil.h"
+#include "support/screen/VirtualDesktop.h"
+
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+using namespace std::chrono_literals;
+
+TEST(X11EventPermissions, areMissingWithoutAServer)
+{
+    VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    desktop.endDisplayServer();
+    SimulatedClock time;
+    SimulatedMainThread mainThread(time);
+    SimulatedUserDefaults defaults;
+    X11InputStream stream(mainThread);
+    X11EventPermissions permissions(stream, defaults);
+
+    EXPECT_EQ(EventPermissionState::ask(permissions), (EventPermissionState{false, false}));
+}
+
+TEST(X11EventPermissions, areKeptWhileAConnectionThatWasCutIsMadeAnew)
+{
+    VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    QtMainThread mainThread;
+    SimulatedUserDefaults defaults;
+    X11InputStream stream(mainThread);
+    X11EventPermissions permissions(stream, defaults);
+    X11EventTapping tapping(stream);
+    ASSERT_EQ(EventPermissionState::ask(permissions), (EventPermissionState{true, true}));
+
+    desktop.endDisplayServer();
+
+    EXPECT_TRUE(loopUntil([&] { return !stream.session(); }));
+    EXPECT_EQ(EventPermissionState::ask(permissions), (EventPermissionState{true, true}));
+    EXPECT_NE(tapping.createTap(0, {}, [](const Event&) { return EventVerdict::pass; }), nullptr);
+    EXPECT_TRUE(loopThroughout(100ms, [&] { return permissions.isAccessibilityTrusted(); }));
+}
+
+TEST(X11EventPermissions, areMissingOnAServerOnWhichNothingCanBePlayed)
+{
+    const VirtualDesktop desktop(
+        {.windowManager = false, .sessionBus = false, .disabledExtension = "XTEST"});
+    SimulatedClock time;
+    SimulatedMainThread mainThread(time);
+    SimulatedUserDefaults defaults;
+    X11InputStream stream(mainThread);
+    X11EventPermissions permissions(stream, defaults);
+
+    EXPECT_EQ(EventPermissionState::ask(permissions), (EventPermissionState{false, false}));
+}
+
+TEST(X11EventPermissions, areForbiddenByNothingButTheWordFalse)
+{
+    const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    SimulatedClock time;
+    SimulatedMainThread mainThread(time);
+    SimulatedUserDefaults defaults;
+    X11InputStream stream(mainThread);
+    X11EventPermissions permissions(stream, defaults);
+
+    for (const auto& value : std::vector{
+             PreferenceValue(true), PreferenceValue(std::int64_t{0}), PreferenceValue("false")}) {
+        defaults.set("allowsAccessibility", value);
+        EXPECT_TRUE(permissions.isAccessibilityTrusted());
+    }
+    defaults.set("allowsAccessibility", false);
+    EXPECT_FALSE(permissions.isAccessibilityTrusted());
+}
+
+TEST(X11EventPermissions, tellNothingOfOtherPreferences)
+{
+    const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    SimulatedClock time;
+    SimulatedMainThread mainThread(time);
+    SimulatedUserDefaults defaults;
+    X11InputStream stream(mainThread);
+    X11EventPermissions permissions(stream, defaults);
+    int told = 0;
+    const auto observation = permissions.observeAccessibilityChanges([&] { ++told; });
+
+    defaults.set("mouseConfig", "{}");
+    defaults.set("allowsAccessibility", true);
+    EXPECT_EQ(told, 0);
+    defaults.set("allowsInputMonitoring", false);
+    EXPECT_EQ(told, 1);
+}
+
+} // namespace
+} // namespace brindlex

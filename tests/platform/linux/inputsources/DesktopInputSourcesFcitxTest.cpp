@@ -1,0 +1,161 @@
+#include "platform/linux/inputsources/DesktopInputSourcesSteps.h"
+
+#include "support/bus/SessionBus.h"
+#include "support/daemons/FcitxDaemon.h"
+#include "support/screen/DesktopWindows.h"
+#include "support/windows/PlainWindow.h"
+#include "support/windows/TypingWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+namespace brindlex {
+namespace {
+
+const std::vector<std::string> fcitxMethods{"keyboard-us", "pinyin"};
+
+TEST(DesktopInputSources, findsFcitxAgainAfterItWasKilled)
+{
+    VirtualDesktop desktop;
+    const SessionBus bus;
+    X11Connection connection;
+    DesktopInputSources sources(connection, bus.get());
+    EXPECT_EQ(sources.backendName(), "XKB");
+    FcitxDaemon daemon(desktop, fcitxMethods);
+    EXPECT_TRUE(becomes(sources, "Fcitx 5"));
+    EXPECT_EQ(idsOf(sources), (std::vector<std::string>{"xkb:us::eng", "fcitx5:pinyin"}));
+    daemon.stop();
+    EXPECT_TRUE(becomes(sources, "XKB"));
+    daemon.start();
+    EXPECT_TRUE(becomes(sources, "Fcitx 5"));
+    EXPECT_EQ(idsOf(sources), (std::vector<std::string>{"xkb:us::eng", "fcitx5:pinyin"}));
+}
+
+TEST(DesktopInputSources, doesNotHangWithAnFcitxThatHangs)
+{
+    VirtualDesktop desktop;
+    FcitxDaemon daemon(desktop, fcitxMethods);
+    const XConnection server;
+    const DesktopWindows windows(server);
+    const TypingWindow window(windows, "Typing");
+    const auto process = processOf(desktop, "fcitx5");
+    ASSERT_GT(process, 0);
+    const SessionBus bus;
+    X11Connection connection;
+    DesktopInputSources sources(connection, bus.get());
+    ASSERT_TRUE(becomes(sources, "Fcitx 5"));
+    ASSERT_TRUE(loopUntil([&] { return !currentID(sources).empty(); }));
+    ::kill(process, SIGSTOP);
+    EXPECT_TRUE(isBounded([&] { selectID(sources, "fcitx5:pinyin"); }));
+    EXPECT_TRUE(isBounded([&] { currentID(sources); }));
+    ::kill(process, SIGCONT);
+    EXPECT_TRUE(loopUntil([&] { return daemon.current() == "pinyin"; }));
+    EXPECT_TRUE(loopUntil([&] { return currentID(sources) == "fcitx5:pinyin"; }));
+}
+
+TEST(DesktopInputSources, goesOnWithTheServersGroupsWhenTheBusEnds)
+{
+    VirtualDesktop desktop({.keyboardLayouts = "us,de"});
+    FcitxDaemon daemon(desktop, fcitxMethods);
+    const SessionBus bus;
+    X11Connection connection;
+    DesktopInputSources sources(connection, bus.get());
+    ASSERT_TRUE(becomes(sources, "Fcitx 5"));
+    desktop.endSessionBus();
+    EXPECT_TRUE(becomes(sources, "XKB"));
+    // The daemon has given the server a layout of its own.
+    desktop.setKeyboardLayouts("us,de");
+    EXPECT_TRUE(loopUntil([&] { return selectID(sources, "xkb:de::deu") == 0; }));
+    EXPECT_EQ(currentID(sources), "xkb:de::deu");
+}
+
+/// A user of Fcitx whose windows have a method of their own each, as is usual.
+class InputSourcesOfFcitx : public testing::Test {
+protected:
+    InputSourcesOfFcitx() { EXPECT_TRUE(becomes(sources_, "Fcitx 5")); }
+
+    bool comesTo(const std::string& id)
+    {
+        return loopUntil([&] { return currentID(sources_) == id; });
+    }
+
+    VirtualDesktop desktop_;
+    FcitxDaemon daemon_{desktop_, fcitxMethods};
+    XConnection server_;
+    DesktopWindows windows_{server_};
+    SessionBus bus_;
+    X11Connection connection_;
+    DesktopInputSources sources_{connection_, bus_.get()};
+};
+
+TEST_F(InputSourcesOfFcitx, takeASelectionBeforeAnyWindowTypes)
+{
+    const PlainWindow picture(server_, {.wmClass = wmClass("Picture")});
+    ASSERT_TRUE(windows_.activate(picture.window()));
+    ASSERT_EQ(daemon_.current(), "");
+
+    EXPECT_EQ(selectID(sources_, "fcitx5:pinyin"), 0);
+    EXPECT_EQ(currentID(sources_), "fcitx5:pinyin");
+    EXPECT_TRUE(loopThroughout(
+        std::chrono::milliseconds{500}, [&] { return currentID(sources_) == "fcitx5:pinyin"; }));
+
+    const TypingWindow window(windows_, "Typing");
+    EXPECT_TRUE(comesTo("xkb:us::eng"));
+}
+
+TEST_F(InputSourcesOfFcitx, giveTheSelectionToAWindowThatGetsTheKeyboardLate)
+{
+    const TypingWindow slow(windows_, "Slow");
+    const TypingWindow before(windows_, "Before");
+    EXPECT_TRUE(comesTo("xkb:us::eng"));
+    std::vector<std::string> told;
+    const auto subscription
+        = sources_.observeSelectionChanges([&] { told.push_back(currentID(sources_)); });
+    const auto keyboardBefore = daemon_.context();
+
+    ::kill(slow.process(), SIGSTOP);
+    EXPECT_TRUE(windows_.activate(slow.window()));
+    EXPECT_TRUE(loopUntil([&] { return daemon_.context().empty(); }));
+    EXPECT_EQ(selectID(sources_, "fcitx5:pinyin"), 0);
+    EXPECT_TRUE(loopUntil([&] { return !told.empty() && told.back() == "fcitx5:pinyin"; }));
+    const auto all = told;
+    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{700}, [&] { return told == all; }));
+    ::kill(slow.process(), SIGCONT);
+
+    EXPECT_TRUE(loopUntil([&] {
+        const auto context = daemon_.context();
+        return !context.empty() && context != keyboardBefore && daemon_.current() == "pinyin";
+    }));
+    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{500}, [&] { return told == all; }));
+    EXPECT_EQ(currentID(sources_), "fcitx5:pinyin");
+}
+
+TEST_F(InputSourcesOfFcitx, giveTheSelectionToOneWindowOnly)
+{
+    const TypingWindow window(windows_, "Typing");
+    EXPECT_TRUE(comesTo("xkb:us::eng"));
+    EXPECT_EQ(selectID(sources_, "fcitx5:pinyin"), 0);
+    EXPECT_TRUE(loopUntil([&] { return daemon_.current() == "pinyin"; }));
+    EXPECT_TRUE(loopThroughout(
+        std::chrono::milliseconds{500}, [&] { return currentID(sources_) == "fcitx5:pinyin"; }));
+
+    const TypingWindow another(windows_, "Another");
+    EXPECT_TRUE(comesTo("xkb:us::eng"));
+    EXPECT_EQ(daemon_.current(), "keyboard-us");
+}
+
+TEST_F(InputSourcesOfFcitx, leaveTheUserTheChoiceRightAfterASelection)
+{
+    const TypingWindow window(windows_, "Typing");
+    EXPECT_TRUE(comesTo("xkb:us::eng"));
+    EXPECT_EQ(selectID(sources_, "fcitx5:pinyin"), 0);
+    EXPECT_TRUE(daemon_.select("keyboard-us"));
+    EXPECT_TRUE(comesTo("xkb:us::eng"));
+    EXPECT_TRUE(loopThroughout(
+        std::chrono::milliseconds{500}, [&] { return currentID(sources_) == "xkb:us::eng"; }));
+    EXPECT_EQ(daemon_.current(), "keyboard-us");
+}
+
+} // namespace
+} // namespace brindlex

@@ -1,0 +1,146 @@
+#include "support/browsers/AccessibleProgram.h"
+#include "support/browsers/FakeBrowser.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <systemd/sd-bus.h>
+#include <thread>
+
+namespace brindlex {
+namespace {
+
+using Behaviour = FakeBrowser::Behaviour;
+using namespace std::chrono_literals;
+
+/// The program behind `FakeBrowser`: reads its offer anew at each question.
+struct Program {
+    const AccessibleProgram& bus;
+    std::string folder;
+    std::vector<FakeBrowser::Window> windows;
+    Behaviour behaviour = Behaviour::answers;
+
+    void readOffer()
+    {
+        const auto offer
+            = nlohmann::json::parse(contentOf(folder + "/offer"), nullptr, /*exceptions*/ false);
+        windows.clear();
+        if (!offer.is_object())
+            return;
+        for (const auto& window : offer["windows"])
+            windows.push_back(
+                {window["name"], window["url"], window["isActive"], window["attribute"]});
+        behaviour = static_cast<Behaviour>(offer["behaviour"].get<int>());
+    }
+
+    /// The window of an object named "w<number>" or "d<number>", its document.
+    const FakeBrowser::Window* windowOf(const std::string& object) const
+    {
+        const auto number = static_cast<std::size_t>(std::atoi(object.substr(1).c_str()));
+        return number < windows.size() ? &windows[number] : nullptr;
+    }
+
+    void appendChildren(sd_bus_message* reply, const std::string& object) const
+    {
+        sd_bus_message_open_container(reply, 'a', "(so)");
+        if (behaviour == Behaviour::huge)
+            for (int index = 0; index < 100'000; ++index)
+                bus.append(reply, "x" + std::to_string(index));
+        else if (behaviour == Behaviour::circular && object != "root")
+            bus.append(reply, object);
+        else if (object == "root")
+            for (std::size_t index = 0; index < windows.size(); ++index)
+                bus.append(reply, "w" + std::to_string(index));
+        sd_bus_message_close_container(reply);
+    }
+
+    void appendRelation(sd_bus_message* reply, unsigned type, const std::string& target) const
+    {
+        sd_bus_message_open_container(reply, 'r', "ua(so)");
+        sd_bus_message_append(reply, "u", type);
+        sd_bus_message_open_container(reply, 'a', "(so)");
+        if (behaviour == Behaviour::dangling)
+            sd_bus_message_append(reply, "(so)", ":1.987654", "/nowhere");
+        else
+            bus.append(reply, target);
+        sd_bus_message_close_container(reply);
+        sd_bus_message_close_container(reply);
+    }
+
+    void appendRelations(sd_bus_message* reply, const std::string& object) const
+    {
+        constexpr unsigned labelledBy = 2;
+        constexpr unsigned embeds = 13;
+        sd_bus_message_open_container(reply, 'a', "(ua(so))");
+        if (behaviour == Behaviour::huge)
+            for (int index = 0; index < 100'000; ++index)
+                appendRelation(reply, labelledBy, object);
+        appendRelation(reply, labelledBy, object);
+        appendRelation(
+            reply, embeds, behaviour == Behaviour::circular ? object : "d" + object.substr(1));
+        sd_bus_message_close_container(reply);
+    }
+
+    int answer(sd_bus_message* question, const std::string& object)
+    {
+        const std::string member = sd_bus_message_get_member(question);
+        std::ofstream(folder + "/questions", std::ios::app) << member << '\n';
+        readOffer();
+        if (behaviour == Behaviour::busy)
+            std::this_thread::sleep_for(800ms);
+        if (behaviour == Behaviour::silent)
+            return 1;
+        if (behaviour == Behaviour::garbage)
+            return sd_bus_reply_method_return(question, "i", 42);
+        return AccessibleProgram::reply(
+            question, [&](sd_bus_message* reply) { return fill(question, reply, member, object); });
+    }
+
+    /// Whether the question is one that it answers.
+    bool fill(sd_bus_message* question, sd_bus_message* reply, const std::string& member,
+        const std::string& object) const
+    {
+        const auto* window = windowOf(object);
+        if (member == "GetChildren") {
+            appendChildren(reply, object);
+        } else if (member == "Get") {
+            sd_bus_message_append(reply, "v", "s", window ? window->name.c_str() : "Fake Browser");
+        } else if (member == "GetState") {
+            sd_bus_message_append(reply, "au", 2, window && window->isActive ? 2U : 0U, 0U);
+        } else if (member == "GetRelationSet") {
+            if (behaviour == Behaviour::dies)
+                std::_Exit(1);
+            appendRelations(reply, object);
+        } else if (member == "GetAttributeValue" && object.starts_with("d") && window) {
+            const char* attribute = "";
+            sd_bus_message_read(question, "s", &attribute);
+            const auto url = behaviour == Behaviour::huge ? std::string(1'000'000, 'x')
+                : attribute == window->attribute          ? window->url
+                                                          : std::string();
+            sd_bus_message_append(reply, "s", url.c_str());
+        } else {
+            return false;
+        }
+        return true;
+    }
+};
+
+int runProgram(const std::string& folder)
+{
+    AccessibleProgram bus;
+    if (!bus.isConnected())
+        return 1;
+    Program program{.bus = bus, .folder = folder, .windows = {}};
+    return bus.run(folder, [&](sd_bus_message* question, const std::string& object) {
+        return program.answer(question, object);
+    });
+}
+
+} // namespace
+} // namespace brindlex
+
+int main(int count, char** arguments)
+{
+    return count == 2 ? brindlex::runProgram(arguments[1]) : 4;
+}

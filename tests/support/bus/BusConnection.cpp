@@ -1,0 +1,165 @@
+#include "support/bus/BusConnection.h"
+
+#include <cstdint>
+#include <cstdlib>
+#include <systemd/sd-bus.h>
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+constexpr std::uint64_t timeToAnswer = 5'000'000; // in microseconds
+
+void append(sd_bus_message* message, const std::vector<std::string>& arguments)
+{
+    for (const auto& argument : arguments)
+        sd_bus_message_append_basic(message, SD_BUS_TYPE_STRING, argument.c_str());
+}
+
+sd_bus* connect(const std::string& address)
+{
+    sd_bus* bus = nullptr;
+    if (sd_bus_new(&bus) < 0)
+        return nullptr;
+    sd_bus_set_address(bus, address.c_str());
+    sd_bus_set_bus_client(bus, 1);
+    if (sd_bus_start(bus) < 0)
+        return sd_bus_unref(bus);
+    sd_bus_set_method_call_timeout(bus, timeToAnswer);
+    return bus;
+}
+
+} // namespace
+
+BusAnswer::BusAnswer(sd_bus_message* message) : message_(message) { }
+
+BusAnswer::~BusAnswer() { sd_bus_message_unref(message_); }
+
+BusAnswer::BusAnswer(BusAnswer&& other) noexcept : message_(std::exchange(other.message_, nullptr))
+{
+}
+
+void BusAnswer::enter()
+{
+    char type = 0;
+    const char* contents = nullptr;
+    if (message_ && sd_bus_message_peek_type(message_, &type, &contents) > 0)
+        sd_bus_message_enter_container(message_, type, contents);
+}
+
+void BusAnswer::skip()
+{
+    char type = 0;
+    const char* contents = nullptr;
+    if (!message_ || sd_bus_message_peek_type(message_, &type, &contents) <= 0)
+        return;
+    std::string signature(1, type);
+    if (type == SD_BUS_TYPE_ARRAY)
+        signature += contents;
+    else if (type == SD_BUS_TYPE_STRUCT)
+        signature = "(" + std::string(contents) + ")";
+    sd_bus_message_skip(message_, signature.c_str());
+}
+
+std::string BusAnswer::text()
+{
+    const char* text = nullptr;
+    if (!message_ || sd_bus_message_read_basic(message_, SD_BUS_TYPE_STRING, &text) <= 0)
+        return {};
+    return text;
+}
+
+bool BusAnswer::boolean()
+{
+    int value = 0;
+    return message_ && sd_bus_message_read_basic(message_, SD_BUS_TYPE_BOOLEAN, &value) > 0
+        && value != 0;
+}
+
+std::vector<std::string> BusAnswer::texts()
+{
+    char** list = nullptr;
+    std::vector<std::string> texts;
+    if (!message_ || sd_bus_message_read_strv(message_, &list) < 0)
+        return texts;
+    for (auto entry = list; entry && *entry; ++entry) {
+        texts.emplace_back(*entry);
+        std::free(*entry);
+    }
+    std::free(list);
+    return texts;
+}
+
+BusConnection::BusConnection() : bus_(nullptr)
+{
+    if (const auto address = std::getenv("DBUS_SESSION_BUS_ADDRESS"))
+        bus_ = connect(address);
+}
+
+BusConnection::BusConnection(const std::string& address) : bus_(connect(address)) { }
+
+BusConnection::~BusConnection() { sd_bus_flush_close_unref(bus_); }
+
+bool BusConnection::isOpen() const { return bus_ && sd_bus_is_open(bus_) > 0; }
+
+bool BusConnection::hasOwner(const std::string& name) const
+{
+    return call("org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus",
+        "NameHasOwner", {name})
+        .boolean();
+}
+
+std::optional<int> BusConnection::processOf(const std::string& name) const
+{
+    if (!bus_)
+        return std::nullopt;
+    sd_bus_creds* owner = nullptr;
+    pid_t process = 0;
+    const auto found = sd_bus_get_name_creds(bus_, name.c_str(), SD_BUS_CREDS_PID, &owner) >= 0
+        && sd_bus_creds_get_pid(owner, &process) >= 0;
+    sd_bus_creds_unref(owner);
+    return found ? std::optional<int>(process) : std::nullopt;
+}
+
+BusAnswer BusConnection::call(const std::string& service, const std::string& path,
+    const std::string& interface, const std::string& operation,
+    const std::vector<std::string>& arguments) const
+{
+    sd_bus_message* question = nullptr;
+    sd_bus_message* answer = nullptr;
+    if (bus_
+        && sd_bus_message_new_method_call(
+               bus_, &question, service.c_str(), path.c_str(), interface.c_str(), operation.c_str())
+            >= 0) {
+        sd_bus_message_set_auto_start(question, 0);
+        append(question, arguments);
+        sd_bus_call(bus_, question, timeToAnswer, nullptr, &answer);
+        sd_bus_message_unref(question);
+    }
+    return BusAnswer(answer);
+}
+
+BusAnswer BusConnection::property(const std::string& service, const std::string& path,
+    const std::string& interface, const std::string& name) const
+{
+    auto answer = call(service, path, "org.freedesktop.DBus.Properties", "Get", {interface, name});
+    answer.enter();
+    return answer;
+}
+
+void BusConnection::emit(const std::string& path, const std::string& interface,
+    const std::string& signal, const std::vector<std::string>& arguments) const
+{
+    sd_bus_message* message = nullptr;
+    if (!bus_
+        || sd_bus_message_new_signal(
+               bus_, &message, path.c_str(), interface.c_str(), signal.c_str())
+            < 0)
+        return;
+    append(message, arguments);
+    sd_bus_send(bus_, message, nullptr);
+    sd_bus_flush(bus_);
+    sd_bus_message_unref(message);
+}
+
+} // namespace brindlex

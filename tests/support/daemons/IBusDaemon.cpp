@@ -1,0 +1,102 @@
+#include "support/daemons/IBusDaemon.h"
+
+#include "foundation/FatalError.h"
+#include "support/basics/Eventually.h"
+#include "support/bus/BusConnection.h"
+#include "support/windows/XInputMethodServer.h"
+
+#include <csignal>
+
+namespace brindlex {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto name = "org.freedesktop.IBus";
+constexpr auto path = "/org/freedesktop/IBus";
+
+} // namespace
+
+IBusDaemon::IBusDaemon(VirtualDesktop& desktop, const std::vector<std::string>& engines)
+    : desktop_(desktop)
+{
+    std::string list;
+    for (const auto& engine : engines)
+        list += (list.empty() ? "'" : ", '") + engine + "'";
+    // The daemon reads its settings itself, whatever place programs are told to keep theirs.
+    const ChildProcess::Start enable{
+        .command = {"dconf", "write", "/desktop/ibus/general/preload-engines", "[" + list + "]"},
+        .output = desktop.outputFolder() / "dconf",
+    };
+    if (run(enable, 60s) != ProcessEnd{0, {}})
+        fatalError("The engines could not be enabled.\n" + contentOf(enable.output));
+    for (const auto variable : {"GTK_IM_MODULE", "QT_IM_MODULE"})
+        desktop.setVariable(variable, "ibus");
+    desktop.setVariable("XMODIFIERS", "@im=ibus");
+    start();
+}
+
+void IBusDaemon::start()
+{
+    daemon_ = std::make_unique<ChildProcess>(ChildProcess::Start{
+        .command = {"ibus-daemon", "--replace", "--xim", "--panel", "disable"},
+        .output = desktop_.outputFolder() / "ibus-daemon",
+    });
+    const auto answers = [this] {
+        const auto bus = address();
+        return bus && BusConnection(*bus).hasOwner("org.freedesktop.IBus.Config")
+            && hasXInputMethodServer("ibus");
+    };
+    if (!eventually(answers, 60s))
+        fatalError("IBus did not start.\n" + daemon_->output());
+}
+
+void IBusDaemon::stop()
+{
+    daemon_->signal(SIGKILL);
+    daemon_.reset();
+    // Its helper for X programs ends after it, and new programs would still turn to that.
+    if (!eventually([] { return !hasXInputMethodServer("ibus"); }, 60s))
+        fatalError("The helper of IBus did not end.");
+}
+
+std::optional<std::string> IBusDaemon::address() const
+{
+    // The name of the file in this folder is made of machine and display, both ours alone.
+    std::error_code ignored;
+    for (const auto& file :
+        std::filesystem::directory_iterator(desktop_.configFolder() / "ibus/bus", ignored)) {
+        const auto content = contentOf(file.path());
+        const std::string key = "IBUS_ADDRESS=";
+        if (const auto start = content.find("\n" + key); start != std::string::npos) {
+            const auto from = start + 1 + key.size();
+            return content.substr(from, content.find('\n', from) - from);
+        }
+    }
+    return std::nullopt;
+}
+
+std::string IBusDaemon::current() const
+{
+    const auto bus = address();
+    if (!bus)
+        return {};
+    // A variant in a variant: (type, attachments, name, ...).
+    auto answer = BusConnection(*bus).property(name, path, name, "GlobalEngine");
+    answer.enter();
+    answer.enter();
+    answer.skip();
+    answer.skip();
+    return answer.text();
+}
+
+bool IBusDaemon::select(const std::string& engine)
+{
+    // While the daemon has much to do, an engine may not start in its time.
+    return eventually([&] {
+        const auto bus = address();
+        return bus && BusConnection(*bus).call(name, path, name, "SetGlobalEngine", {engine});
+    });
+}
+
+} // namespace brindlex

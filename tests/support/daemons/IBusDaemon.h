@@ -1,0 +1,37 @@
+#pragma once
+
+#include "support/processes/ChildProcess.h"
+#include "support/screen/VirtualDesktop.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace brindlex {
+
+/// The IBus input-method daemon, running on a virtual desktop; programs that are started after it
+/// type through it.
+class IBusDaemon {
+public:
+    /// Starts the daemon with these engines enabled, such as `xkb:us::eng` and `libpinyin`.
+    IBusDaemon(VirtualDesktop& desktop, const std::vector<std::string>& engines);
+
+    /// The selected engine; empty when none is, or the daemon does not answer.
+    std::string current() const;
+    /// Selects an engine, as the user does in the daemon's menu; false when that failed.
+    bool select(const std::string& engine);
+
+    /// Starts the daemon that was stopped.
+    void start();
+    /// Kills the daemon, as a crash of it would.
+    void stop();
+
+private:
+    std::optional<std::string> address() const;
+
+    VirtualDesktop& desktop_;
+    std::unique_ptr<ChildProcess> daemon_;
+};
+
+} // namespace brindlex

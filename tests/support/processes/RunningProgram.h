@@ -1,0 +1,53 @@
+#pragma once
+
+#include "support/processes/ChildProcess.h"
+#include "support/processes/ProgramFiles.h"
+#include "support/screen/VirtualDesktop.h"
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace brindlex {
+
+/// The program itself, running on a virtual desktop.
+class RunningProgram {
+public:
+    /// Starts the program that was built together with this one.
+    explicit RunningProgram(
+        const VirtualDesktop& desktop, const std::vector<std::string>& arguments = {});
+
+    /// Waits until it says in its log that it has launched.
+    bool launches() const { return logs("Brindlex launched"); }
+
+    int process() const { return process_.id(); }
+    const ChildProcess& child() const { return process_; }
+
+    /// Asks the program to end as a session does, and waits; how it ended.
+    std::optional<ProcessEnd> quit();
+    /// Kills the program, as a crash of it would, and waits.
+    void kill();
+
+    /// Waits until the log since the start has a message that begins so.
+    bool logs(const std::string& beginning) const;
+    /// The messages since the start.
+    std::vector<std::string> messages() const;
+
+    /// What it printed and what it logged, for the words of a failure.
+    std::string report() const;
+
+private:
+    const VirtualDesktop& desktop_;
+    ProgramFiles files_;
+    std::size_t linesBefore_;
+    ChildProcess process_;
+};
+
+/// The name under which the first instance is found on the session bus.
+inline constexpr auto programBusName = "com.brindlex.Brindlex";
+
+/// Where the program stands in the build.
+std::filesystem::path programFile();
+
+} // namespace brindlex
