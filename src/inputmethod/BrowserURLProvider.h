@@ -16,7 +16,7 @@ public:
     static bool isSupported(std::string_view bundleID);
 
     /// The question for the browser's current tab, in the words of a system that asks by script;
-    /// nothing for an unsupported browser.
+    /// nothing for an unsupported browser, and for one that cannot be asked so.
     static std::optional<std::string> script(std::string_view bundleID);
 
     /// The normalised domain of the browser's page; nothing without a browser, for an unsupported

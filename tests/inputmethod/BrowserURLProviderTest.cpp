@@ -37,8 +37,14 @@ INSTANTIATE_TEST_SUITE_P(BrowserURLProvider, BrowserURLProviderTable,
         Row{"com.microsoft.edgemac", "active tab"},
         Row{"com.microsoft.edgemac.Canary", "active tab"}, Row{"com.brave.Browser", "active tab"},
         Row{"com.brave.Browser.beta", "active tab"}, Row{"com.operasoftware.Opera", "active tab"},
-        Row{"company.thebrowser.Browser", "active tab"}, Row{"org.chromium.Chromium", "active tab"},
-        Row{"org.mozilla.firefox", "active tab"}));
+        Row{"company.thebrowser.Browser", "active tab"},
+        Row{"org.chromium.Chromium", "active tab"}));
+
+TEST(BrowserURLProvider, knowsFirefoxWhichCannotBeAskedByScript)
+{
+    EXPECT_TRUE(BrowserURLProvider::isSupported("org.mozilla.firefox"));
+    EXPECT_EQ(BrowserURLProvider::script("org.mozilla.firefox"), std::nullopt);
+}
 
 TEST(BrowserURLProvider, asksSafariInExactlyTheseWords)
 {
@@ -82,6 +88,11 @@ struct BrowserURLProviderTest : testing::Test {
     SimulatedMainThread mainThread{clock};
     SimulatedBrowserPages pages{mainThread};
 };
+
+TEST_F(BrowserURLProviderTest, knowsThePageOfABrowserWithoutAScript)
+{
+    EXPECT_EQ(hostOf("org.mozilla.firefox", "https://www.example.de/"), "example.de");
+}
 
 TEST_F(BrowserURLProviderTest, itsHostIsTheNormalisedDomainOfThePage)
 {
