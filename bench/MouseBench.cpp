@@ -74,7 +74,7 @@ void gestureStepOfADrag(benchmark::State& state)
     config.distanceThreshold = 1e9;
     for (const auto direction : allCases<MouseDirection>())
         config.bindings.push_back(
-            {{}, MouseButton::button4, {}, direction, MouseAction::Forward{}});
+            {{}, MouseButton::button4, {}, direction, MouseAction::Plain::forward});
     const std::function<MouseResizeDragDecision(Point)> decide
         = [](Point) { return MouseResizeDragDecision{}; };
     MouseGestureState pending;

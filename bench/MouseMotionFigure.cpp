@@ -39,8 +39,8 @@ void measureMotion(
 MouseConfig leftGesture()
 {
     MouseConfig config;
-    config.gesture.bindings
-        = {gesture(MouseButton::left, {}, MouseDirection::right, MouseAction::SwitchSpaceRight{})};
+    config.gesture.bindings = {gesture(
+        MouseButton::left, {}, MouseDirection::right, MouseAction::Plain::switchSpaceRight)};
     return config;
 }
 

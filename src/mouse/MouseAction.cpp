@@ -1,8 +1,9 @@
 #include "mouse/MouseAction.h"
 
 #include "foundation/JsonCoding.h"
+#include "mouse/PlainMouseActions.h"
 
-#include <array>
+#include <optional>
 #include <utility>
 
 namespace brindlex {
@@ -10,26 +11,8 @@ namespace {
 
 using Action = MouseAction::Any;
 
-struct PlainCase {
-    const char* key;
-    Action action;
-};
-
-/// The keys of the cases without payload, in the order in which reading looks for them.
-const auto& plainCases()
-{
-    static const std::array cases{
-        PlainCase{"missionControl", MouseAction::MissionControl{}},
-        PlainCase{"launchpad", MouseAction::MissionControl{}},
-        PlainCase{"back", MouseAction::Back{}},
-        PlainCase{"forward", MouseAction::Forward{}},
-        PlainCase{"showDesktop", MouseAction::ShowDesktop{}},
-        PlainCase{"switchSpaceLeft", MouseAction::SwitchSpaceLeft{}},
-        PlainCase{"switchSpaceRight", MouseAction::SwitchSpaceRight{}},
-    };
-    return cases;
-}
-
+/// The key of an action that is gone; it becomes `missionControl`.
+constexpr const char* launchpad = "launchpad";
 constexpr const char* sendKeystroke = "sendKeystroke";
 constexpr const char* runShellCommand = "runShellCommand";
 
@@ -40,7 +23,16 @@ Json object(const char* key, Json value)
     return document;
 }
 
-Json plain(const char* key) { return object(key, Json::object()); }
+/// The action without payload whose key the document has.
+std::optional<MouseAction::Plain> decodePlain(const Json& document)
+{
+    if (document.contains(launchpad))
+        return MouseAction::Plain::missionControl;
+    for (const auto& row : plainMouseActions())
+        if (document.contains(row.key))
+            return row.action;
+    return {};
+}
 
 template <typename Payload>
 Result<Action, JsonProblem> decodePayload(const char* key, const Json& document)
@@ -63,12 +55,10 @@ Result<Action, JsonProblem> decodeShellCommand(const Json& document)
 Json JsonCoding<MouseAction::Any>::encode(const MouseAction::Any& action)
 {
     return match(
-        action, [](const MouseAction::MissionControl&) { return plain("missionControl"); },
-        [](const MouseAction::Back&) { return plain("back"); },
-        [](const MouseAction::Forward&) { return plain("forward"); },
-        [](const MouseAction::ShowDesktop&) { return plain("showDesktop"); },
-        [](const MouseAction::SwitchSpaceLeft&) { return plain("switchSpaceLeft"); },
-        [](const MouseAction::SwitchSpaceRight&) { return plain("switchSpaceRight"); },
+        action,
+        [](MouseAction::Plain plain) {
+            return object(plainMouseAction(plain).key, Json::object());
+        },
         [](const MouseAction::SendKeystroke& keystroke) {
             return object(sendKeystroke, toJson(keystroke));
         },
@@ -81,9 +71,8 @@ Result<MouseAction::Any, JsonProblem> JsonCoding<MouseAction::Any>::decode(const
 {
     if (!document.is_object())
         return fail(JsonProblem{"", "is not an object"});
-    for (const auto& [key, action] : plainCases())
-        if (document.contains(key))
-            return action;
+    if (const auto plain = decodePlain(document))
+        return Action(*plain);
     if (const auto payload = document.find(sendKeystroke); payload != document.end())
         return decodePayload<MouseAction::SendKeystroke>(sendKeystroke, *payload);
     if (const auto payload = document.find(runShellCommand); payload != document.end())

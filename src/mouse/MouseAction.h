@@ -12,23 +12,15 @@ namespace brindlex {
 
 /// What a binding makes the computer do.
 struct MouseAction {
-    struct MissionControl {
-        bool operator==(const MissionControl&) const = default;
-    };
-    struct Back {
-        bool operator==(const Back&) const = default;
-    };
-    struct Forward {
-        bool operator==(const Forward&) const = default;
-    };
-    struct ShowDesktop {
-        bool operator==(const ShowDesktop&) const = default;
-    };
-    struct SwitchSpaceLeft {
-        bool operator==(const SwitchSpaceLeft&) const = default;
-    };
-    struct SwitchSpaceRight {
-        bool operator==(const SwitchSpaceRight&) const = default;
+    /// The actions without payload; what there is to know of each is its row in
+    /// `PlainMouseActions.h`.
+    enum class Plain {
+        missionControl,
+        back,
+        forward,
+        showDesktop,
+        switchSpaceLeft,
+        switchSpaceRight,
     };
     /// A press of a key by its virtual key code; a negative code is a key not yet chosen.
     struct SendKeystroke {
@@ -56,8 +48,7 @@ struct MouseAction {
         }
     };
 
-    using Any = Cases<MissionControl, Back, Forward, ShowDesktop, SwitchSpaceLeft, SwitchSpaceRight,
-        SendKeystroke, RunShellCommand>;
+    using Any = Cases<Plain, SendKeystroke, RunShellCommand>;
 };
 
 /// Stored as an object with one key, the case's name: `{"back":{}}`,

@@ -1,7 +1,7 @@
 #include "mouse/MouseActionEffect.h"
 
 #include "foundation/FatalError.h"
-#include "platform/Event.h"
+#include "mouse/PlainMouseActions.h"
 
 #include <utility>
 
@@ -9,10 +9,6 @@ namespace brindlex {
 namespace {
 
 using Effect = MouseActionEffect::Any;
-
-constexpr std::uint16_t rightBracketKey = 30;
-constexpr std::uint16_t leftBracketKey = 33;
-constexpr std::uint16_t f11Key = 103;
 
 std::uint16_t keyCodeOf(const MouseAction::SendKeystroke& keystroke)
 {
@@ -27,12 +23,7 @@ std::string_view logLabel(const MouseAction::Any& action)
 {
     using Label = std::string_view;
     return match(
-        action, [](const MouseAction::MissionControl&) { return Label("Mission Control"); },
-        [](const MouseAction::Back&) { return Label("Back"); },
-        [](const MouseAction::Forward&) { return Label("Forward"); },
-        [](const MouseAction::ShowDesktop&) { return Label("Show Desktop"); },
-        [](const MouseAction::SwitchSpaceLeft&) { return Label("Switch Space Left"); },
-        [](const MouseAction::SwitchSpaceRight&) { return Label("Switch Space Right"); },
+        action, [](MouseAction::Plain plain) { return plainMouseAction(plain).logLabel; },
         [](const MouseAction::SendKeystroke&) { return Label("Custom Shortcut"); },
         [](const MouseAction::RunShellCommand&) { return Label("Run Shell Command"); });
 }
@@ -40,25 +31,7 @@ std::string_view logLabel(const MouseAction::Any& action)
 MouseActionEffect::Any effectOf(const MouseAction::Any& action)
 {
     return match(
-        action,
-        [](const MouseAction::MissionControl&) -> Effect {
-            return MouseActionEffect::OpenApplication{"/System/Applications/Mission Control.app"};
-        },
-        [](const MouseAction::Back&) -> Effect {
-            return MouseActionEffect::PostKeystroke{leftBracketKey, eventFlag::command};
-        },
-        [](const MouseAction::Forward&) -> Effect {
-            return MouseActionEffect::PostKeystroke{rightBracketKey, eventFlag::command};
-        },
-        [](const MouseAction::ShowDesktop&) -> Effect {
-            return MouseActionEffect::PostKeystroke{f11Key, 0};
-        },
-        [](const MouseAction::SwitchSpaceLeft&) -> Effect {
-            return MouseActionEffect::SwitchSpace{false};
-        },
-        [](const MouseAction::SwitchSpaceRight&) -> Effect {
-            return MouseActionEffect::SwitchSpace{true};
-        },
+        action, [](MouseAction::Plain plain) -> Effect { return plainMouseAction(plain).effect; },
         [](const MouseAction::SendKeystroke& keystroke) -> Effect {
             return MouseActionEffect::PostKeystroke{
                 keyCodeOf(keystroke), keystroke.modifiers.eventFlags()};

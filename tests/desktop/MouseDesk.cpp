@@ -136,15 +136,16 @@ MouseConfig everything()
 {
     MouseConfig config;
     config.gesture.bindings = {
-        gesture(MouseButton::button4, {}, MouseDirection::left, MouseAction::Back{}),
-        gesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{}),
-        gesture(MouseButton::button4, {}, MouseDirection::up, MouseAction::SwitchSpaceRight{}),
-        gesture(MouseButton::button4, {}, MouseDirection::down, MouseAction::SwitchSpaceLeft{}),
+        gesture(MouseButton::button4, {}, MouseDirection::left, MouseAction::Plain::back),
+        gesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward),
+        gesture(MouseButton::button4, {}, MouseDirection::up, MouseAction::Plain::switchSpaceRight),
+        gesture(
+            MouseButton::button4, {}, MouseDirection::down, MouseAction::Plain::switchSpaceLeft),
         gesture(MouseButton::left, ModifierSet::command, MouseDirection::up,
-            MouseAction::MissionControl{}),
+            MouseAction::Plain::missionControl),
     };
     config.click.bindings
-        = {click(MouseButton::button3, ModifierSet::command, MouseAction::ShowDesktop{})};
+        = {click(MouseButton::button3, ModifierSet::command, MouseAction::Plain::showDesktop)};
     config.scroll.smoothEnabled = true;
     config.scroll.smoothDuration = 0.05;
     return config;

@@ -59,7 +59,7 @@ protected:
         MouseConfig config;
         for (const auto direction : allCases<MouseDirection>())
             config.gesture.bindings.push_back(
-                gesture(MouseButton::left, {}, direction, MouseAction::Forward{}));
+                gesture(MouseButton::left, {}, direction, MouseAction::Plain::forward));
         // With the wheel the mouse is away as a whole, so that one can see when the tap is there.
         config.scroll.smoothEnabled = true;
         desk.start(config);

@@ -24,7 +24,7 @@ protected:
     {
         auto config = everything();
         config.click.bindings
-            = {brindlex::click(MouseButton::button3, {}, MouseAction::MissionControl{})};
+            = {brindlex::click(MouseButton::button3, {}, MouseAction::Plain::missionControl)};
         desk.start(config);
     }
 

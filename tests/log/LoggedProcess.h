@@ -20,7 +20,7 @@ inline MouseConfig leftGesture()
 {
     MouseConfig config;
     config.gesture.bindings.push_back(
-        {{}, MouseButton::left, {}, MouseDirection::right, MouseAction::Forward{}});
+        {{}, MouseButton::left, {}, MouseDirection::right, MouseAction::Plain::forward});
     return config;
 }
 

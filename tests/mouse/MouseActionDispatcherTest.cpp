@@ -35,7 +35,7 @@ protected:
 
 TEST_F(MouseActionDispatcherTest, pressesAndReleasesTheKeyOfAnAction)
 {
-    dispatcher.perform(MouseAction::ShowDesktop{});
+    dispatcher.perform(MouseAction::Plain::showDesktop);
 
     EXPECT_EQ(log.lines(), (Lines{"INFO [mouse] dispatch action: Show Desktop"}));
     EXPECT_EQ(input.delivered(),
@@ -46,7 +46,7 @@ TEST_F(MouseActionDispatcherTest, addsNoModifierThatIsHeld)
 {
     input.heldFlags = eventFlag::shift | eventFlag::option;
 
-    dispatcher.perform(MouseAction::Back{});
+    dispatcher.perform(MouseAction::Plain::back);
     dispatcher.perform(MouseAction::SendKeystroke{49, {}});
 
     EXPECT_EQ(input.delivered(),
@@ -60,7 +60,7 @@ TEST_F(MouseActionDispatcherTest, postsTheReleaseWhenThePressCannotBeMade)
     input.setCannotMake(
         [](const SyntheticEvent& event) { return event.type == EventType::keyDown; });
 
-    dispatcher.perform(MouseAction::Forward{});
+    dispatcher.perform(MouseAction::Plain::forward);
 
     EXPECT_EQ(input.delivered(), (std::vector{keyEvent(EventType::keyUp, 30, eventFlag::command)}));
 }
@@ -81,7 +81,7 @@ TEST_F(MouseActionDispatcherTest, showsItsKeystrokesToTheTap)
 
 TEST_F(MouseActionDispatcherTest, opensMissionControl)
 {
-    dispatcher.perform(MouseAction::MissionControl{});
+    dispatcher.perform(MouseAction::Plain::missionControl);
 
     EXPECT_EQ(applications.opened,
         (std::vector<std::filesystem::path>{"/System/Applications/Mission Control.app"}));
@@ -111,9 +111,9 @@ TEST_F(MouseActionDispatcherTest, saysWhyTheShellDidNotStart)
 
 TEST_F(MouseActionDispatcherTest, asksForTheSecondSpaceSwitchInVain)
 {
-    dispatcher.perform(MouseAction::SwitchSpaceLeft{});
+    dispatcher.perform(MouseAction::Plain::switchSpaceLeft);
     mainThread.advance(0.2);
-    dispatcher.perform(MouseAction::SwitchSpaceLeft{});
+    dispatcher.perform(MouseAction::Plain::switchSpaceLeft);
 
     EXPECT_EQ(log.lines(),
         (Lines{"INFO [mouse] dispatch action: Switch Space Left",
@@ -124,7 +124,7 @@ TEST_F(MouseActionDispatcherTest, asksForTheSecondSpaceSwitchInVain)
 
 TEST_F(MouseActionDispatcherTest, switchesToTheRight)
 {
-    dispatcher.perform(MouseAction::SwitchSpaceRight{});
+    dispatcher.perform(MouseAction::Plain::switchSpaceRight);
     displayLink.frame(1);
     displayLink.frame(2);
 

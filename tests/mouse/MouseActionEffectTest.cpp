@@ -14,14 +14,14 @@ using Effect = MouseActionEffect::Any;
 TEST(MouseActionEffect, andLabelAreThoseOfTheActionsRow)
 {
     const std::vector<std::tuple<MouseAction::Any, std::string, Effect>> rows{
-        {MouseAction::MissionControl{}, "Mission Control",
+        {MouseAction::Plain::missionControl, "Mission Control",
             MouseActionEffect::OpenApplication{"/System/Applications/Mission Control.app"}},
-        {MouseAction::Back{}, "Back", MouseActionEffect::PostKeystroke{33, 0x100000}},
-        {MouseAction::Forward{}, "Forward", MouseActionEffect::PostKeystroke{30, 0x100000}},
-        {MouseAction::ShowDesktop{}, "Show Desktop", MouseActionEffect::PostKeystroke{103, 0}},
-        {MouseAction::SwitchSpaceLeft{}, "Switch Space Left",
+        {MouseAction::Plain::back, "Back", MouseActionEffect::PostKeystroke{33, 0x100000}},
+        {MouseAction::Plain::forward, "Forward", MouseActionEffect::PostKeystroke{30, 0x100000}},
+        {MouseAction::Plain::showDesktop, "Show Desktop", MouseActionEffect::PostKeystroke{103, 0}},
+        {MouseAction::Plain::switchSpaceLeft, "Switch Space Left",
             MouseActionEffect::SwitchSpace{false}},
-        {MouseAction::SwitchSpaceRight{}, "Switch Space Right",
+        {MouseAction::Plain::switchSpaceRight, "Switch Space Right",
             MouseActionEffect::SwitchSpace{true}},
         {MouseAction::SendKeystroke{49, ModifierSet{15}}, "Custom Shortcut",
             MouseActionEffect::PostKeystroke{49, 0x1E0000}},

@@ -20,12 +20,12 @@ Result<Action, JsonProblem> read(std::string_view text)
 TEST(MouseAction, isStoredUnderTheNameOfItsCase)
 {
     const std::vector<std::pair<Action, std::string>> rows{
-        {MouseAction::MissionControl{}, R"({"missionControl":{}})"},
-        {MouseAction::Back{}, R"({"back":{}})"},
-        {MouseAction::Forward{}, R"({"forward":{}})"},
-        {MouseAction::ShowDesktop{}, R"({"showDesktop":{}})"},
-        {MouseAction::SwitchSpaceLeft{}, R"({"switchSpaceLeft":{}})"},
-        {MouseAction::SwitchSpaceRight{}, R"({"switchSpaceRight":{}})"},
+        {MouseAction::Plain::missionControl, R"({"missionControl":{}})"},
+        {MouseAction::Plain::back, R"({"back":{}})"},
+        {MouseAction::Plain::forward, R"({"forward":{}})"},
+        {MouseAction::Plain::showDesktop, R"({"showDesktop":{}})"},
+        {MouseAction::Plain::switchSpaceLeft, R"({"switchSpaceLeft":{}})"},
+        {MouseAction::Plain::switchSpaceRight, R"({"switchSpaceRight":{}})"},
         {MouseAction::SendKeystroke{49, ModifierSet::command},
             R"({"sendKeystroke":{"keyCode":49,"modifiers":1}})"},
         {MouseAction::RunShellCommand{"echo hi"}, R"({"runShellCommand":{"_0":"echo hi"}})"},
@@ -40,7 +40,7 @@ TEST(MouseAction, ofARetiredNameBecomesMissionControl)
 {
     const auto action = read(R"({"launchpad":{}})").value();
 
-    EXPECT_EQ(action, Action(MouseAction::MissionControl{}));
+    EXPECT_EQ(action, Action(MouseAction::Plain::missionControl));
     EXPECT_EQ(jsonText(toJson(action)), R"({"missionControl":{}})");
 }
 
@@ -48,17 +48,17 @@ TEST(MouseAction, looksOnlyForThePresenceOfAPlainKey)
 {
     for (const auto* text : {R"({"back":null})", R"({"back":7})", R"({"back":"x"})",
              R"({"back":{"extra":1}})", R"({"back":[]})"})
-        EXPECT_EQ(read(text).value(), Action(MouseAction::Back{})) << text;
+        EXPECT_EQ(read(text).value(), Action(MouseAction::Plain::back)) << text;
 }
 
 TEST(MouseAction, looksForItsKeysInOneOrder)
 {
     const std::vector<std::string> keys{"missionControl", "back", "forward", "showDesktop",
         "switchSpaceLeft", "switchSpaceRight", "sendKeystroke", "runShellCommand"};
-    const std::vector<Action> actions{MouseAction::MissionControl{}, MouseAction::Back{},
-        MouseAction::Forward{}, MouseAction::ShowDesktop{}, MouseAction::SwitchSpaceLeft{},
-        MouseAction::SwitchSpaceRight{}, MouseAction::SendKeystroke{1, {}},
-        MouseAction::RunShellCommand{"x"}};
+    const std::vector<Action> actions{MouseAction::Plain::missionControl, MouseAction::Plain::back,
+        MouseAction::Plain::forward, MouseAction::Plain::showDesktop,
+        MouseAction::Plain::switchSpaceLeft, MouseAction::Plain::switchSpaceRight,
+        MouseAction::SendKeystroke{1, {}}, MouseAction::RunShellCommand{"x"}};
     for (std::size_t first = 0; first < keys.size(); ++first) {
         auto document = Json::object();
         for (auto key = keys.size(); key-- > first;)
@@ -69,7 +69,8 @@ TEST(MouseAction, looksForItsKeysInOneOrder)
             document.erase("sendKeystroke");
         EXPECT_EQ(fromJson<Action>(document).value(), actions[first]) << jsonText(document);
     }
-    EXPECT_EQ(read(R"({"back":{},"launchpad":{}})").value(), Action(MouseAction::MissionControl{}));
+    EXPECT_EQ(
+        read(R"({"back":{},"launchpad":{}})").value(), Action(MouseAction::Plain::missionControl));
 }
 
 TEST(MouseAction, readsBothFormsOfAShellCommand)

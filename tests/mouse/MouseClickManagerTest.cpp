@@ -17,7 +17,7 @@ class MouseClickManagerTest : public testing::Test, protected MouseSession { };
 TEST_F(MouseClickManagerTest, takesTheOtherButtonsWhateverTheSettingSays)
 {
     edit([](MouseConfig& value) { value.click.enabled = false; });
-    bindClick(MouseButton::button4, {}, MouseAction::Back{});
+    bindClick(MouseButton::button4, {}, MouseAction::Plain::back);
 
     clicks.start();
     clicks.start();
@@ -47,7 +47,7 @@ TEST_F(MouseClickManagerTest, readsTheBindingsAtEachPress)
     EXPECT_EQ(mouse.press(3), EventVerdict::pass);
     EXPECT_EQ(mouse.release(3), EventVerdict::pass);
 
-    bindClick(MouseButton::button4, {}, MouseAction::Back{});
+    bindClick(MouseButton::button4, {}, MouseAction::Plain::back);
 
     EXPECT_EQ(mouse.press(3), EventVerdict::swallow);
 }
@@ -56,7 +56,7 @@ TEST(MouseClickManager, takesFromTheDevicesWhatItsBindingsAreAboutNow)
 {
     MouseSession session({}, SimulatedInput::TapPlace::devices);
     session.clicks.start();
-    session.bindClick(MouseButton::button4, {}, MouseAction::Back{});
+    session.bindClick(MouseButton::button4, {}, MouseAction::Plain::back);
 
     EXPECT_EQ(session.mouse.press(3), EventVerdict::swallow);
     session.mouse.release(3);
@@ -68,7 +68,7 @@ TEST(MouseClickManager, takesFromTheDevicesWhatItsBindingsAreAboutNow)
 
 TEST_F(MouseClickManagerTest, forgetsAHiddenPressWhenItIsTornDown)
 {
-    bindClick(MouseButton::button4, {}, MouseAction::Back{});
+    bindClick(MouseButton::button4, {}, MouseAction::Plain::back);
     clicks.start();
     mouse.press(3);
     clicks.tearDown();
@@ -102,8 +102,8 @@ TEST_F(MouseClickManagerTest, waitsForPermission)
 TEST_F(MouseClickManagerTest, performsOnceMoreForAClickThatAGestureGaveBack)
 {
     clicks.start();
-    bindClick(MouseButton::button4, {}, MouseAction::Back{});
-    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bindClick(MouseButton::button4, {}, MouseAction::Plain::back);
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
 
     mouse.press(3);
     mouse.release(3);
@@ -123,7 +123,7 @@ TEST_F(MouseClickManagerTest, performsOnceMoreForAClickThatAGestureGaveBack)
 TEST_F(MouseClickManagerTest, canGoWhileAnEventIsOnItsWay)
 {
     auto second = std::make_unique<MouseClickManager>(config, environment, dispatcher);
-    bindClick(MouseButton::button4, {}, MouseAction::Back{});
+    bindClick(MouseButton::button4, {}, MouseAction::Plain::back);
     tap.subscribe(0x6000000, [&](const Event&) {
         second.reset();
         return EventVerdict::pass;

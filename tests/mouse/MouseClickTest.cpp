@@ -39,9 +39,9 @@ protected:
 
 TEST_F(MouseClickTest, performsAndHidesThePressAndTheRelease)
 {
-    bind(MouseButton::button4, {}, MouseAction::Back{});
+    bind(MouseButton::button4, {}, MouseAction::Plain::back);
 
-    EXPECT_EQ(down(3), (Outcome{swallow, MouseAction::Back{}}));
+    EXPECT_EQ(down(3), (Outcome{swallow, MouseAction::Plain::back}));
     EXPECT_EQ(up(3), (Outcome{swallow, {}}));
     EXPECT_EQ(up(3), (Outcome{pass, {}}));
     EXPECT_EQ(state, MouseClickState{});
@@ -49,7 +49,7 @@ TEST_F(MouseClickTest, performsAndHidesThePressAndTheRelease)
 
 TEST_F(MouseClickTest, passesAReleaseWhosePressWasNotHidden)
 {
-    bind(MouseButton::button4, {}, MouseAction::Back{});
+    bind(MouseButton::button4, {}, MouseAction::Plain::back);
 
     EXPECT_EQ(up(3), Outcome{});
     EXPECT_EQ(down(2), Outcome{});
@@ -58,26 +58,26 @@ TEST_F(MouseClickTest, passesAReleaseWhosePressWasNotHidden)
 
 TEST_F(MouseClickTest, needsExactlyItsModifiers)
 {
-    bind(MouseButton::button3, ModifierSet::command, MouseAction::Back{});
+    bind(MouseButton::button3, ModifierSet::command, MouseAction::Plain::back);
 
     EXPECT_EQ(down(2, eventFlag::command | eventFlag::shift), Outcome{});
     EXPECT_EQ(down(2), Outcome{});
-    EXPECT_EQ(
-        down(2, eventFlag::command | eventFlag::capsLock), (Outcome{swallow, MouseAction::Back{}}));
+    EXPECT_EQ(down(2, eventFlag::command | eventFlag::capsLock),
+        (Outcome{swallow, MouseAction::Plain::back}));
 }
 
 TEST_F(MouseClickTest, takesTheFirstBindingThatFits)
 {
-    bind(MouseButton::button3, {}, MouseAction::Forward{});
-    bind(MouseButton::button3, {}, MouseAction::Back{});
+    bind(MouseButton::button3, {}, MouseAction::Plain::forward);
+    bind(MouseButton::button3, {}, MouseAction::Plain::back);
 
-    EXPECT_EQ(down(2).action, MouseAction::Any(MouseAction::Forward{}));
+    EXPECT_EQ(down(2).action, MouseAction::Any(MouseAction::Plain::forward));
 }
 
 TEST_F(MouseClickTest, passesAButtonAboveTheFive)
 {
     for (const auto button : allCases<MouseButton>())
-        bind(button, {}, MouseAction::Back{});
+        bind(button, {}, MouseAction::Plain::back);
     for (const std::int64_t number : {5, 63, -1}) {
         EXPECT_EQ(down(number), Outcome{});
         EXPECT_EQ(up(number), Outcome{});
@@ -86,17 +86,17 @@ TEST_F(MouseClickTest, passesAButtonAboveTheFive)
 
 TEST_F(MouseClickTest, performsForAReplayedPressAndLetsItPass)
 {
-    bind(MouseButton::button4, {}, MouseAction::Back{});
+    bind(MouseButton::button4, {}, MouseAction::Plain::back);
     const MouseClickState before = state;
 
-    EXPECT_EQ(down(3, 0, mouseEventTag::replay), (Outcome{pass, MouseAction::Back{}}));
+    EXPECT_EQ(down(3, 0, mouseEventTag::replay), (Outcome{pass, MouseAction::Plain::back}));
     EXPECT_EQ(up(3, mouseEventTag::replay), Outcome{});
     EXPECT_EQ(state, before);
 }
 
 TEST_F(MouseClickTest, leavesItsNoteOfAHiddenPressAtAReplayedRelease)
 {
-    bind(MouseButton::button4, {}, MouseAction::Back{});
+    bind(MouseButton::button4, {}, MouseAction::Plain::back);
     down(3);
 
     EXPECT_EQ(up(3, mouseEventTag::replay), Outcome{});
@@ -105,7 +105,7 @@ TEST_F(MouseClickTest, leavesItsNoteOfAHiddenPressAtAReplayedRelease)
 
 TEST_F(MouseClickTest, treatsAnotherTagAsNone)
 {
-    bind(MouseButton::button4, {}, MouseAction::Back{});
+    bind(MouseButton::button4, {}, MouseAction::Plain::back);
 
     EXPECT_EQ(down(3, 0, mouseEventTag::scroll).verdict, swallow);
 }
@@ -113,15 +113,15 @@ TEST_F(MouseClickTest, treatsAnotherTagAsNone)
 TEST_F(MouseClickTest, workWhetherTheyAreEnabledOrNot)
 {
     config.enabled = false;
-    bind(MouseButton::button4, {}, MouseAction::Back{});
+    bind(MouseButton::button4, {}, MouseAction::Plain::back);
 
-    EXPECT_EQ(down(3), (Outcome{swallow, MouseAction::Back{}}));
+    EXPECT_EQ(down(3), (Outcome{swallow, MouseAction::Plain::back}));
 }
 
 TEST_F(MouseClickTest, passesEventsOfOtherTypes)
 {
-    bind(MouseButton::left, {}, MouseAction::Back{});
-    bind(MouseButton::button3, {}, MouseAction::Back{});
+    bind(MouseButton::left, {}, MouseAction::Plain::back);
+    bind(MouseButton::button3, {}, MouseAction::Plain::back);
 
     EXPECT_EQ(step(EventType::leftMouseDown, 0), Outcome{});
     EXPECT_EQ(step(EventType::otherMouseDragged, 2), Outcome{});
@@ -129,9 +129,9 @@ TEST_F(MouseClickTest, passesEventsOfOtherTypes)
 
 TEST_F(MouseClickTest, takesOnlyTheOtherButtons)
 {
-    bind(MouseButton::left, {}, MouseAction::Back{});
-    bind(MouseButton::right, {}, MouseAction::Back{});
-    bind(MouseButton::button4, ModifierSet::command, MouseAction::Back{});
+    bind(MouseButton::left, {}, MouseAction::Plain::back);
+    bind(MouseButton::right, {}, MouseAction::Plain::back);
+    bind(MouseButton::button4, ModifierSet::command, MouseAction::Plain::back);
 
     EXPECT_EQ(mouseClickEventMask, 0x6000000u);
     EXPECT_EQ(eventTriggers(config), (EventTriggers{{{3, eventFlag::command}}, {}, false}));

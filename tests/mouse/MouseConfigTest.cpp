@@ -22,8 +22,8 @@ MouseConfig example()
 {
     MouseConfig config;
     config.click.enabled = false;
-    config.click.bindings
-        = {{*Uuid::fromText(id), MouseButton::button4, ModifierSet::command, MouseAction::Back{}}};
+    config.click.bindings = {{*Uuid::fromText(id), MouseButton::button4, ModifierSet::command,
+        MouseAction::Plain::back}};
     config.gesture.bindings = {{*Uuid::fromText(id), MouseButton::right, {}, MouseDirection::up,
         MouseAction::SendKeystroke{49, ModifierSet::option}}};
     config.gesture.distanceThreshold = 45;

@@ -12,7 +12,7 @@ TEST(eventMask, isTheUnionOfTheButtonGroupsInUse)
     const auto maskOf = [](std::vector<MouseButton> buttons) {
         std::vector<MouseGestureBinding> bindings;
         for (const auto button : buttons)
-            bindings.push_back({{}, button, {}, MouseDirection::up, MouseAction::Back{}});
+            bindings.push_back({{}, button, {}, MouseDirection::up, MouseAction::Plain::back});
         return eventMask(true, bindings);
     };
     EXPECT_EQ(maskOf({}), 0u);
@@ -28,18 +28,18 @@ TEST(eventMask, isTheUnionOfTheButtonGroupsInUse)
 
 TEST(eventMask, isZeroWhenGesturesAreOff)
 {
-    EXPECT_EQ(
-        eventMask(false, {{{}, MouseButton::left, {}, MouseDirection::up, MouseAction::Back{}}}),
+    EXPECT_EQ(eventMask(false,
+                  {{{}, MouseButton::left, {}, MouseDirection::up, MouseAction::Plain::back}}),
         0u);
 }
 
 TEST(eventTriggers, ofGesturesAreTheirButtonsWithAnyModifiers)
 {
     MouseGestureConfig config;
-    config.bindings
-        = {{{}, MouseButton::button5, ModifierSet::shift, MouseDirection::up, MouseAction::Back{}},
-            {{}, MouseButton::left, {}, MouseDirection::up, MouseAction::Back{}},
-            {{}, MouseButton::button5, {}, MouseDirection::up, MouseAction::Back{}}};
+    config.bindings = {{{}, MouseButton::button5, ModifierSet::shift, MouseDirection::up,
+                           MouseAction::Plain::back},
+        {{}, MouseButton::left, {}, MouseDirection::up, MouseAction::Plain::back},
+        {{}, MouseButton::button5, {}, MouseDirection::up, MouseAction::Plain::back}};
 
     EXPECT_EQ(eventTriggers(config), (EventTriggers{{{0, {}}, {4, {}}}, {}, false}));
 }

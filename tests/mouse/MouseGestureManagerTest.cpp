@@ -29,7 +29,7 @@ TEST_F(MouseGestureManagerTest, takesNothingWithoutBindings)
 
 TEST_F(MouseGestureManagerTest, performsADragAndHidesIt)
 {
-    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
     EXPECT_EQ(input.tapMasks(), Masks{0xE000000});
     mouse.moveTo({100, 100});
@@ -52,7 +52,7 @@ TEST_F(MouseGestureManagerTest, performsADragAndHidesIt)
 
 TEST_F(MouseGestureManagerTest, givesAMiddleClickBackToTheApplication)
 {
-    bindGesture(MouseButton::button3, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::button3, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
     mouse.moveTo({100, 100});
     input.takeDelivered();
@@ -67,8 +67,8 @@ TEST_F(MouseGestureManagerTest, givesAMiddleClickBackToTheApplication)
 
 TEST_F(MouseGestureManagerTest, givesBackAClickWithTheModifiersThatAreHeld)
 {
-    bindGesture(
-        MouseButton::button3, ModifierSet::control, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::button3, ModifierSet::control, MouseDirection::right,
+        MouseAction::Plain::forward);
     gestures.start();
     keyboard.holdModifiers(eventFlag::control);
     input.takeDelivered();
@@ -83,7 +83,7 @@ TEST_F(MouseGestureManagerTest, givesBackAClickWithTheModifiersThatAreHeld)
 
 TEST_F(MouseGestureManagerTest, givesBackNothingWhenThePressCannotBeMade)
 {
-    bindGesture(MouseButton::button3, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::button3, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
     input.setCannotMake(
         [](const SyntheticEvent& event) { return event.type == EventType::otherMouseDown; });
@@ -96,10 +96,10 @@ TEST_F(MouseGestureManagerTest, givesBackNothingWhenThePressCannotBeMade)
 
 TEST_F(MouseGestureManagerTest, staysAtItsPlaceWhenBindingsChangeWithinTheirButtons)
 {
-    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
     gestures.install(0xE000000);
-    bindGesture(MouseButton::button5, {}, MouseDirection::left, MouseAction::Back{});
+    bindGesture(MouseButton::button5, {}, MouseDirection::left, MouseAction::Plain::back);
     EXPECT_EQ(input.tapsMade(), 1u);
 
     mouse.moveTo({100, 100});
@@ -112,9 +112,10 @@ TEST_F(MouseGestureManagerTest, staysAtItsPlaceWhenBindingsChangeWithinTheirButt
 TEST(MouseGestureManager, takesFromTheDevicesWhatItsBindingsAreAboutNow)
 {
     MouseSession session({}, SimulatedInput::TapPlace::devices);
-    session.bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    session.bindGesture(
+        MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     session.gestures.start();
-    session.bindGesture(MouseButton::button5, {}, MouseDirection::right, MouseAction::Back{});
+    session.bindGesture(MouseButton::button5, {}, MouseDirection::right, MouseAction::Plain::back);
 
     EXPECT_EQ(session.mouse.press(4), EventVerdict::swallow);
     session.mouse.release(4);
@@ -126,11 +127,11 @@ TEST(MouseGestureManager, takesFromTheDevicesWhatItsBindingsAreAboutNow)
 
 TEST_F(MouseGestureManagerTest, takesAnotherPlaceForOtherButtons)
 {
-    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
     mouse.press(3);
 
-    bindGesture(MouseButton::right, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::right, {}, MouseDirection::right, MouseAction::Plain::forward);
 
     EXPECT_EQ(input.tapMasks(), Masks{0xE000098});
     log.takeLines();
@@ -140,7 +141,7 @@ TEST_F(MouseGestureManagerTest, takesAnotherPlaceForOtherButtons)
 
 TEST_F(MouseGestureManagerTest, letsGoOfAPressWhenGesturesAreSwitchedOff)
 {
-    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
     mouse.press(3);
     log.takeLines();
@@ -156,7 +157,7 @@ TEST_F(MouseGestureManagerTest, letsGoOfAPressWhenGesturesAreSwitchedOff)
 
 TEST_F(MouseGestureManagerTest, knowsNothingOfAPressFromBeforeItWasSwitchedOff)
 {
-    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
     mouse.press(3);
     edit([](MouseConfig& value) { value.gesture.enabled = false; });
@@ -171,11 +172,11 @@ TEST_F(MouseGestureManagerTest, knowsNothingOfAPressFromBeforeItWasSwitchedOff)
 
 TEST_F(MouseGestureManagerTest, givesUpItsPlaceWhenItMayNotTakeAnother)
 {
-    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
     permissions.canListen = false;
 
-    bindGesture(MouseButton::left, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::left, {}, MouseDirection::right, MouseAction::Plain::forward);
 
     EXPECT_EQ(log.lines(),
         (Lines{"WARN [mouse] MouseGesture: missing Accessibility or Input Monitoring permission; "
@@ -189,7 +190,7 @@ TEST_F(MouseGestureManagerTest, givesUpItsPlaceWhenItMayNotTakeAnother)
 TEST_F(MouseGestureManagerTest, waitsForPermission)
 {
     permissions.canListen = false;
-    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     log.takeLines();
     const Lines missing{"WARN [mouse] MouseGesture: missing Accessibility or Input Monitoring "
                         "permission; not starting"};
@@ -202,7 +203,7 @@ TEST_F(MouseGestureManagerTest, waitsForPermission)
     EXPECT_EQ(log.takeLines(), missing);
     EXPECT_EQ(input.tapsMade(), 0u);
 
-    bindGesture(MouseButton::left, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::left, {}, MouseDirection::right, MouseAction::Plain::forward);
     log.takeLines();
     permissions.canListen = true;
     mainThread.advance(2);
@@ -215,7 +216,7 @@ TEST_F(MouseGestureManagerTest, waitsForPermission)
 TEST_F(MouseGestureManagerTest, triesNoMoreAfterTearDown)
 {
     permissions.set(false);
-    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
 
     gestures.tearDown();
@@ -228,7 +229,7 @@ TEST_F(MouseGestureManagerTest, triesNoMoreAfterTearDown)
 
 TEST_F(MouseGestureManagerTest, standsAsideForAResizeOfAWindow)
 {
-    bindGesture(MouseButton::left, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::left, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
     windows.windows = {{0, 1.0, Rect{{0, 0}, {100, 100}}}};
     mouse.moveTo({103, 50});
@@ -251,7 +252,7 @@ TEST_F(MouseGestureManagerTest, standsAsideForAResizeOfAWindow)
 
 TEST_F(MouseGestureManagerTest, comesBackWithTheTap)
 {
-    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
     permissions.set(false);
     permissions.tell();
@@ -266,7 +267,7 @@ TEST_F(MouseGestureManagerTest, canGoWhileAnEventIsOnItsWay)
 {
     auto second = std::make_unique<MouseGestureManager>(
         config, environment, MouseGestureManager::Abilities{input, dispatcher, detector, clock});
-    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     second->tearDown();
     gestures.tearDown();
     tap.subscribe(0x6000000, [&](const Event&) {

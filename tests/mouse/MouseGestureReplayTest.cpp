@@ -8,7 +8,7 @@ namespace {
 
 TEST_F(MouseGestureTest, givesBackAClickThatDidNotMove)
 {
-    bind(MouseButton::button3, {}, MouseDirection::up, MouseAction::Back{});
+    bind(MouseButton::button3, {}, MouseDirection::up, MouseAction::Plain::back);
     down(2, {7, 8});
     drag(2, {27, 8});
 
@@ -17,7 +17,7 @@ TEST_F(MouseGestureTest, givesBackAClickThatDidNotMove)
 
 TEST_F(MouseGestureTest, givesBackARightClickUpToSixPoints)
 {
-    bind(MouseButton::right, {}, MouseDirection::up, MouseAction::Back{});
+    bind(MouseButton::right, {}, MouseDirection::up, MouseAction::Plain::back);
     down(1);
     drag(1, {106, 100});
     EXPECT_EQ(up(1), (Outcome{swallow, {replay(MouseButton::right, {100, 100})}}));
@@ -32,7 +32,7 @@ TEST_F(MouseGestureTest, limitsTheWanderingOfTheRightButtonAlone)
     for (const auto button :
         {MouseButton::left, MouseButton::button3, MouseButton::button4, MouseButton::button5}) {
         config.bindings.clear();
-        bind(button, {}, MouseDirection::up, MouseAction::Back{});
+        bind(button, {}, MouseDirection::up, MouseAction::Plain::back);
         const auto number = storedValue(button);
         down(number);
         drag(number, {129, 100});
@@ -42,7 +42,7 @@ TEST_F(MouseGestureTest, limitsTheWanderingOfTheRightButtonAlone)
 
 TEST_F(MouseGestureTest, passesItsOwnReplaysUnseen)
 {
-    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     for (const auto type :
         {EventType::otherMouseDown, EventType::otherMouseDragged, EventType::otherMouseUp})
         EXPECT_EQ(step(type, 3, {500, 0}, 0, 0x4D4F534547535452), Outcome{});

@@ -13,8 +13,8 @@ protected:
             [](Point) { return MouseResizeDragDecision{}; });
     }
 
-    const MouseGestureConfig config{
-        true, {{{}, MouseButton::left, {}, MouseDirection::right, MouseAction::Forward{}}}, 30};
+    const MouseGestureConfig config{true,
+        {{{}, MouseButton::left, {}, MouseDirection::right, MouseAction::Plain::forward}}, 30};
     MouseGestureState state;
 };
 

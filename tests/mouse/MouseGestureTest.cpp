@@ -5,14 +5,14 @@ namespace {
 
 TEST_F(MouseGestureTest, performsTheActionWhenTheDirectionLocks)
 {
-    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
 
     EXPECT_EQ(down(3), (Outcome{swallow, {info("pending Side Back (4)")}}));
     EXPECT_EQ(drag(3, {129, 100}), (Outcome{swallow, {}}));
     EXPECT_EQ(drag(3, {130, 100}),
         (Outcome{swallow,
             {info("locked Side Back (4) Right"), info("dispatched on lock Side Back (4) Right"),
-                perform(MouseAction::Forward{})}}));
+                perform(MouseAction::Plain::forward)}}));
     EXPECT_EQ(drag(3, {100, 300}), (Outcome{swallow, {}}));
     EXPECT_EQ(up(3), (Outcome{swallow, {}}));
     EXPECT_EQ(state, MouseGestureState{});
@@ -20,7 +20,7 @@ TEST_F(MouseGestureTest, performsTheActionWhenTheDirectionLocks)
 
 TEST_F(MouseGestureTest, endsWithNothingForADirectionWithoutBinding)
 {
-    bind(MouseButton::right, {}, MouseDirection::up, MouseAction::Back{});
+    bind(MouseButton::right, {}, MouseDirection::up, MouseAction::Plain::back);
     down(1);
 
     EXPECT_EQ(drag(1, {60, 100}),
@@ -32,7 +32,7 @@ TEST_F(MouseGestureTest, endsWithNothingForADirectionWithoutBinding)
 
 TEST_F(MouseGestureTest, passesAPressWithOtherModifiers)
 {
-    bind(MouseButton::button4, ModifierSet::command, MouseDirection::up, MouseAction::Back{});
+    bind(MouseButton::button4, ModifierSet::command, MouseDirection::up, MouseAction::Plain::back);
 
     EXPECT_EQ(down(3), Outcome{});
     EXPECT_EQ(down(3, {}, eventFlag::command | eventFlag::shift), Outcome{});
@@ -43,7 +43,7 @@ TEST_F(MouseGestureTest, passesAPressWithOtherModifiers)
 
 TEST_F(MouseGestureTest, readsTheModifiersAgainWhenTheDirectionLocks)
 {
-    bind(MouseButton::button4, ModifierSet::command, MouseDirection::up, MouseAction::Back{});
+    bind(MouseButton::button4, ModifierSet::command, MouseDirection::up, MouseAction::Plain::back);
     down(3, {100, 100}, eventFlag::command);
 
     EXPECT_EQ(drag(3, {100, 70}),
@@ -54,17 +54,17 @@ TEST_F(MouseGestureTest, readsTheModifiersAgainWhenTheDirectionLocks)
 
 TEST_F(MouseGestureTest, takesTheFirstBindingThatFits)
 {
-    bind(MouseButton::button4, {}, MouseDirection::down, MouseAction::Back{});
-    bind(MouseButton::button4, {}, MouseDirection::up, MouseAction::Forward{});
-    bind(MouseButton::button4, {}, MouseDirection::up, MouseAction::ShowDesktop{});
+    bind(MouseButton::button4, {}, MouseDirection::down, MouseAction::Plain::back);
+    bind(MouseButton::button4, {}, MouseDirection::up, MouseAction::Plain::forward);
+    bind(MouseButton::button4, {}, MouseDirection::up, MouseAction::Plain::showDesktop);
     down(3);
 
-    EXPECT_EQ(drag(3, {100, 0}).effects.back(), perform(MouseAction::Forward{}));
+    EXPECT_EQ(drag(3, {100, 0}).effects.back(), perform(MouseAction::Plain::forward));
 }
 
 TEST_F(MouseGestureTest, readsTheThresholdAtEachEvent)
 {
-    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     down(3);
     config.distanceThreshold = 60;
     EXPECT_EQ(drag(3, {150, 100}), (Outcome{swallow, {}}));
@@ -75,7 +75,7 @@ TEST_F(MouseGestureTest, readsTheThresholdAtEachEvent)
 
 TEST_F(MouseGestureTest, putsANewPressInThePlaceOfAnOldOne)
 {
-    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     down(3, {0, 0});
     drag(3, {50, 0});
     now = Date{1001};
@@ -86,19 +86,19 @@ TEST_F(MouseGestureTest, putsANewPressInThePlaceOfAnOldOne)
 
 TEST_F(MouseGestureTest, keepsTheButtonsApart)
 {
-    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
-    bind(MouseButton::button5, {}, MouseDirection::right, MouseAction::Back{});
+    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
+    bind(MouseButton::button5, {}, MouseDirection::right, MouseAction::Plain::back);
     down(3, {0, 0});
     down(4, {10, 0});
 
-    EXPECT_EQ(drag(4, {60, 0}).effects.back(), perform(MouseAction::Back{}));
+    EXPECT_EQ(drag(4, {60, 0}).effects.back(), perform(MouseAction::Plain::back));
     EXPECT_EQ(up(3).effects, (std::vector{replay(MouseButton::button4, {0, 0})}));
     EXPECT_EQ(up(4), (Outcome{swallow, {}}));
 }
 
 TEST_F(MouseGestureTest, passesAButtonThatIsNone)
 {
-    bind(MouseButton::button5, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::button5, {}, MouseDirection::right, MouseAction::Plain::forward);
     for (const std::int64_t number : {5, 11, -1}) {
         EXPECT_EQ(step(EventType::otherMouseDown, number, {}), Outcome{});
         EXPECT_EQ(step(EventType::otherMouseDragged, number, {900, 0}), Outcome{});
@@ -108,7 +108,7 @@ TEST_F(MouseGestureTest, passesAButtonThatIsNone)
 
 TEST_F(MouseGestureTest, saysNothingOfAnUpThatNoBindingUses)
 {
-    bind(MouseButton::button5, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::button5, {}, MouseDirection::right, MouseAction::Plain::forward);
 
     EXPECT_EQ(up(2), Outcome{});
     EXPECT_EQ(up(4), (Outcome{pass, {info("up without pending Side Forward (5)")}}));
@@ -116,7 +116,7 @@ TEST_F(MouseGestureTest, saysNothingOfAnUpThatNoBindingUses)
 
 TEST_F(MouseGestureTest, passesEventsOfOtherTypes)
 {
-    bind(MouseButton::left, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::left, {}, MouseDirection::right, MouseAction::Plain::forward);
     for (const auto type : {EventType::mouseMoved, EventType::keyDown, EventType::scrollWheel,
              EventType::tapDisabledByTimeout})
         EXPECT_EQ(step(type, 0, {}), Outcome{});
@@ -124,8 +124,9 @@ TEST_F(MouseGestureTest, passesEventsOfOtherTypes)
 
 TEST_F(MouseGestureTest, asksAboutResizingOnlyForALeftPressWithABinding)
 {
-    bind(MouseButton::left, ModifierSet::option, MouseDirection::right, MouseAction::Forward{});
-    bind(MouseButton::right, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(
+        MouseButton::left, ModifierSet::option, MouseDirection::right, MouseAction::Plain::forward);
+    bind(MouseButton::right, {}, MouseDirection::right, MouseAction::Plain::forward);
     down(0);
     down(1);
     EXPECT_TRUE(asks.empty());
@@ -140,7 +141,7 @@ TEST_F(MouseGestureTest, asksAboutResizingOnlyForALeftPressWithABinding)
 
 TEST_F(MouseGestureTest, standsAsideForAResize)
 {
-    bind(MouseButton::left, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::left, {}, MouseDirection::right, MouseAction::Plain::forward);
     decision.shouldBypass = true;
     decision.reason = "cursor";
 
@@ -155,10 +156,10 @@ TEST_F(MouseGestureTest, standsAsideForAResize)
 
 TEST_F(MouseGestureTest, performsALockThatWasNeverDispatchedAtTheUp)
 {
-    bind(MouseButton::button4, ModifierSet::shift, MouseDirection::up, MouseAction::Back{});
+    bind(MouseButton::button4, ModifierSet::shift, MouseDirection::up, MouseAction::Plain::back);
     const MouseGestureDragState locked{{0, 0}, 40, MouseDirection::up, false, now};
     state[MouseButton::button4] = locked;
-    EXPECT_EQ(up(3, {}, eventFlag::shift), (Outcome{swallow, {perform(MouseAction::Back{})}}));
+    EXPECT_EQ(up(3, {}, eventFlag::shift), (Outcome{swallow, {perform(MouseAction::Plain::back)}}));
 
     state[MouseButton::button4] = locked;
     EXPECT_EQ(up(3), (Outcome{swallow, {info("no binding for Side Back (4) Up")}}));
@@ -166,7 +167,7 @@ TEST_F(MouseGestureTest, performsALockThatWasNeverDispatchedAtTheUp)
 
 TEST_F(MouseGestureTest, keepsWhatIsPendingWhileItsBindingGoes)
 {
-    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     down(3);
     config.bindings.clear();
 

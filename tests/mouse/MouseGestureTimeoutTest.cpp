@@ -5,7 +5,7 @@ namespace {
 
 TEST_F(MouseGestureTest, prunesLostPressesAtTwoSecondsByTheNextDown)
 {
-    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     down(3);
     now = Date{1001.9999};
     EXPECT_EQ(down(2), Outcome{});
@@ -16,8 +16,8 @@ TEST_F(MouseGestureTest, prunesLostPressesAtTwoSecondsByTheNextDown)
 
 TEST_F(MouseGestureTest, prunesByADownOfAnyButtonBeforeAllElse)
 {
-    bind(MouseButton::left, {}, MouseDirection::right, MouseAction::Forward{});
-    bind(MouseButton::button5, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::left, {}, MouseDirection::right, MouseAction::Plain::forward);
+    bind(MouseButton::button5, {}, MouseDirection::right, MouseAction::Plain::forward);
     down(0);
     down(4);
     now = Date{1003};
@@ -29,7 +29,7 @@ TEST_F(MouseGestureTest, prunesByADownOfAnyButtonBeforeAllElse)
 
 TEST_F(MouseGestureTest, keepsAPressOfExactlyTwoSecondsForADrag)
 {
-    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     down(3);
     now = Date{1002};
     EXPECT_EQ(drag(3, {110, 100}), (Outcome{swallow, {}}));
@@ -42,7 +42,7 @@ TEST_F(MouseGestureTest, keepsAPressOfExactlyTwoSecondsForADrag)
 
 TEST_F(MouseGestureTest, keepsAPressOfExactlyTwoSecondsForItsUp)
 {
-    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     down(3);
     now = Date{1002};
     EXPECT_EQ(up(3), (Outcome{swallow, {replay(MouseButton::button4, {100, 100})}}));
@@ -55,7 +55,7 @@ TEST_F(MouseGestureTest, keepsAPressOfExactlyTwoSecondsForItsUp)
 
 TEST_F(MouseGestureTest, timesOutAlsoAfterItsAction)
 {
-    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     down(3);
     drag(3, {200, 100});
     now = Date{1003};
@@ -65,7 +65,7 @@ TEST_F(MouseGestureTest, timesOutAlsoAfterItsAction)
 
 TEST_F(MouseGestureTest, doesNotTimeOutWhenTheClockIsSetBack)
 {
-    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Forward{});
+    bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     down(3);
     now = Date{-500000};
 

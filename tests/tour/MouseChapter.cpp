@@ -29,7 +29,7 @@ public:
         config.click.bindings
             = {click(MouseButton::button3, {},
                    MouseAction::RunShellCommand{"echo done > '" + trace().string() + "'"}),
-                click(MouseButton::button5, {}, MouseAction::MissionControl{})};
+                click(MouseButton::button5, {}, MouseAction::Plain::missionControl)};
         desk_.set(config);
         desk_.program.emplace(desk_.desktop);
         const bool launched
