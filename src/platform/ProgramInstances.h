@@ -1,6 +1,7 @@
 #pragma once
 
-#include <cstdint>
+#include "platform/Identities.h"
+
 #include <string>
 #include <vector>
 
@@ -9,7 +10,7 @@ namespace brindlex {
 /// The processes of this program in the user's session. Main thread only.
 class ProgramInstances {
 public:
-    using ProcessIdentifier = std::int64_t;
+    using ProcessIdentifier = ProcessIdentity;
 
     virtual ~ProgramInstances() = default;
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "foundation/Subscription.h"
+#include "platform/Identities.h"
 
-#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -13,7 +13,7 @@ namespace brindlex {
 
 /// What the system tells of an application that runs.
 struct RunningApplication {
-    std::int64_t processIdentifier = 0;
+    ProcessIdentity processIdentifier{};
     std::optional<std::string> bundleIdentifier{};
     /// The application's bundle, or what stands for it: its desktop entry on Linux.
     std::optional<std::filesystem::path> bundlePath{};

@@ -34,7 +34,7 @@ TEST_F(AppLifecycleCoordinatorInputSwitching, beginsWithAStartThatShowsItsSwitch
     // Made and stopped before, so that nothing but the start can be what switches.
     auto& switching = shared.inputMethodSwitchCoordinator();
     switching.dispatch(SwitchEvent::Stop{});
-    desktop.applications.bringToFront({1, "editor", {}, "Editor"});
+    desktop.applications.bringToFront({ProcessIdentity{1}, "editor", {}, "Editor"});
     ASSERT_EQ(switching.state().lifecycle, SwitchState::Lifecycle::stopped);
 
     lifecycle.start();
@@ -46,7 +46,7 @@ TEST_F(AppLifecycleCoordinatorInputSwitching, beginsWithAStartThatShowsItsSwitch
 
 TEST_F(AppLifecycleCoordinatorInputSwitching, switchesInSilenceWhereTheFirstLookFindsTheRule)
 {
-    desktop.applications.bringToFront({1, "editor", {}, "Editor"});
+    desktop.applications.bringToFront({ProcessIdentity{1}, "editor", {}, "Editor"});
 
     lifecycle.start();
 

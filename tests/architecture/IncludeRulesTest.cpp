@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <fstream>
 #include <functional>
 #include <map>
@@ -72,6 +73,40 @@ TEST(IncludeRules, roomsStandOnSevenFloorsAtMost)
     ASSERT_FALSE(table.empty());
     for (const auto& [room, known] : table)
         EXPECT_LE(floorOf(room, table), 7U) << room;
+}
+
+/// The rooms of each floor as the drawing shows them: all words of it that are rooms.
+std::map<std::string, std::size_t> drawnFloors(
+    const std::map<std::string, std::set<std::string>>& table)
+{
+    std::map<std::string, std::size_t> floors;
+    std::ifstream page(ARCHITECTURE);
+    std::size_t floor = 0;
+    bool isDrawing = false;
+    for (std::string line; std::getline(page, line);) {
+        if (line.starts_with("```"))
+            isDrawing = !isDrawing && floors.empty();
+        else if (isDrawing && line.find("│") == std::string::npos) {
+            std::istringstream words(line);
+            for (std::string word; words >> word;) {
+                if (word.size() == 1 && std::isdigit(static_cast<unsigned char>(word[0])) != 0)
+                    floor = static_cast<std::size_t>(word[0] - '0');
+                else if (table.contains(word))
+                    floors.emplace(word, floor);
+            }
+        }
+    }
+    return floors;
+}
+
+TEST(IncludeRules, theDrawingShowsEveryRoomOnItsFloor)
+{
+    const auto table = includeTable();
+    const auto drawn = drawnFloors(table);
+    for (const auto& [room, known] : table) {
+        ASSERT_TRUE(drawn.contains(room)) << room << " is not drawn";
+        EXPECT_EQ(drawn.at(room), floorOf(room, table)) << room;
+    }
 }
 
 TEST(IncludeRules, filesFormFloorsWithoutACircle)

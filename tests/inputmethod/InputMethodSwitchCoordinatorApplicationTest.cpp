@@ -35,8 +35,8 @@ TEST_F(InputMethodSwitchCoordinatorTest, fallsBackToWhatTheRunningApplicationSay
 
 TEST_F(InputMethodSwitchCoordinatorTest, takesTheApplicationInFrontBeforeOthersOfItsIdentifier)
 {
-    desktop.applications.launch({2, "mail", {}, "Mail behind"});
-    desktop.applications.bringToFront({3, "mail", {}, "Mail in front"});
+    desktop.applications.launch({ProcessIdentity{2}, "mail", {}, "Mail behind"});
+    desktop.applications.bringToFront({ProcessIdentity{3}, "mail", {}, "Mail in front"});
     start();
 
     desktop.inputSources.userSelects(german);
@@ -48,8 +48,8 @@ TEST_F(InputMethodSwitchCoordinatorTest, takesTheApplicationInFrontBeforeOthersO
 
 TEST_F(InputMethodSwitchCoordinatorTest, takesTheFirstRunningApplicationOfAnIdentifierNotInFront)
 {
-    desktop.applications.launch({2, "mail", {}, "First mail"});
-    desktop.applications.launch({3, "mail", {}, "Second mail"});
+    desktop.applications.launch({ProcessIdentity{2}, "mail", {}, "First mail"});
+    desktop.applications.launch({ProcessIdentity{3}, "mail", {}, "Second mail"});
     start();
 
     coordinator->dispatch(SwitchEvent::AppActivated{"mail"});

@@ -19,7 +19,7 @@ protected:
 
     static RunningApplication application(std::int64_t process, const std::string& id)
     {
-        return {process, id, {}, id + " name"};
+        return {ProcessIdentity{process}, id, {}, id + " name"};
     }
 
     static InputMethodRule rule(const std::string& bundleID, const std::string& source)

@@ -27,7 +27,7 @@ TEST_F(InputMethodSwitchCoordinatorTest, tellsTheMachineOfAnActivationWithoutAnA
 {
     start();
 
-    desktop.applications.bringToFront({2, {}, {}, "nameless"});
+    desktop.applications.bringToFront({ProcessIdentity{2}, {}, {}, "nameless"});
 
     EXPECT_EQ(coordinator->state().frontmostBundleID, std::nullopt);
 }

@@ -179,11 +179,11 @@ TEST_F(MouseScrollManagerTest, leavesTheWheelToADisabledApplication)
     });
     scrolling.start();
     RunningApplication game;
-    game.processIdentifier = 7;
+    game.processIdentifier = ProcessIdentity{7};
     applications.bringToFront(game);
     EXPECT_EQ(mouse.scroll(1), EventVerdict::swallow);
 
-    applications.quit(7);
+    applications.quit(ProcessIdentity{7});
     EXPECT_EQ(mouse.scroll(1), EventVerdict::swallow);
 
     game.bundleIdentifier = "com.example.Game";

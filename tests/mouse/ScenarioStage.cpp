@@ -87,9 +87,9 @@ std::vector<std::string> ScenarioStage::takeStarted()
 void ScenarioStage::bringToFront(const std::string& name)
 {
     RunningApplication application;
-    application.processIdentifier = 42;
+    application.processIdentifier = ProcessIdentity{42};
     application.bundleIdentifier = name;
-    subsystem_.applications.quit(42);
+    subsystem_.applications.quit(ProcessIdentity{42});
     subsystem_.applications.bringToFront(application);
 }
 

@@ -25,7 +25,7 @@ const std::string program = "com.brindlex.Brindlex";
 
 /// What a process finds out when it starts.
 struct Started {
-    Process process = 0;
+    Process process{};
     Processes running{};
 };
 
@@ -93,17 +93,17 @@ private:
             .command = {PLATFORM_PROCESS, "instances", bus_.address(), bundleID, asked},
             .output = output,
         });
-        return *(children_[child->id()] = std::move(child));
+        return *(children_[Process{child->id()}] = std::move(child));
     }
 
     static Started answerOf(const ChildProcess& child)
     {
         constexpr std::chrono::seconds deadline(60);
         EXPECT_TRUE(eventually([&] { return child.output().ends_with('\n'); }, deadline));
-        Started started{child.id(), {}};
+        Started started{Process{child.id()}, {}};
         std::istringstream words(child.output());
-        for (Process process = 0; words >> process;)
-            started.running.push_back(process);
+        for (std::int64_t process = 0; words >> process;)
+            started.running.push_back(Process{process});
         return started;
     }
 

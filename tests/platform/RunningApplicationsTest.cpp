@@ -30,9 +30,9 @@ public:
     void close(const std::string& name) { applications_.quit(processOf(name)); }
     void minimizeAll() { applications_.emptyFront(); }
 
-    std::int64_t processOf(const std::string& name)
+    ProcessIdentity processOf(const std::string& name)
     {
-        return processes_.emplace(name, 100 + processes_.size()).first->second;
+        return ProcessIdentity{processes_.emplace(name, 100 + processes_.size()).first->second};
     }
 
 private:
@@ -64,13 +64,13 @@ public:
             server_.ask(window->id(), "WM_CHANGE_STATE", {iconic});
     }
 
-    std::int64_t processOf(const std::string& name)
+    ProcessIdentity processOf(const std::string& name)
     {
         auto& process = processes_[name];
         if (!process)
             process
                 = std::make_unique<ChildProcess>(ChildProcess::Start{.command = {"sleep", "1000"}});
-        return process->id();
+        return ProcessIdentity{process->id()};
     }
 
 private:

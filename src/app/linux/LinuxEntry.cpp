@@ -78,13 +78,12 @@ bool canReachDisplay()
 
 /// Prepares the overlay for the names that it will show, and gives back what the start took and
 /// nothing needs any more.
-void getReadyForLater(LinuxPlatform& platform)
+void getReadyForLater(Platform& platform)
 {
     std::string names;
-    for (const auto& source :
-        TextInputSourceService(platform.abilities().inputSources).availableSources())
+    for (const auto& source : TextInputSourceService(platform.inputSources).availableSources())
         names += source.localizedName;
-    platform.overlayPanel().warmUp(names);
+    platform.overlayPanel.warmUp(names);
     ::malloc_trim(0);
 }
 
@@ -108,18 +107,19 @@ int runOnDesktop(char* programName, Clock& clock, XdgUserFolders& userFolders,
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication application(argumentCount, arguments.data());
 
-    LinuxPlatform linuxPlatform(clock, userFolders, container);
+    const auto offer = SessionOffer::fromEnvironment(::getenv);
+    LinuxPlatform linuxPlatform(offer, clock, userFolders, container);
     auto& platform = linuxPlatform.abilities();
     SharedInstances shared(platform);
     AppLifecycleCoordinator lifecycle(platform, shared);
     Ending ending(lifecycle, platform.defaults, log);
 
     const UnixSignals unixSignals([&](int) { platform.instances.terminate(); });
-    const auto displayEnd = linuxPlatform.display().observeEnd([] { Ending::endWithTheDisplay(); });
+    const auto displayEnd = linuxPlatform.observeDisplayEnd([] { Ending::endWithTheDisplay(); });
     lifecycle.start();
     Subscription warmUp;
     if (lifecycle.isStarted())
-        warmUp = platform.mainThread.after(warmUpDelay, [&] { getReadyForLater(linuxPlatform); });
+        warmUp = platform.mainThread.after(warmUpDelay, [&] { getReadyForLater(platform); });
     // The loop alone: what the window library does beside it first is to ask the session bus for
     // screen readers, and it waits for ever for a bus that ends in that moment.
     const int status = QCoreApplication::exec();

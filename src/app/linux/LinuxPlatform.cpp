@@ -1,33 +1,112 @@
 #include "app/linux/LinuxPlatform.h"
 
 #include "app/ProgramIdentity.h"
+#include "platform/linux/accessibility/AccessibleBrowserPages.h"
+#include "platform/linux/accessibility/AccessibleElementTree.h"
+#include "platform/linux/input/X11CursorReading.h"
+#include "platform/linux/input/X11EventPermissions.h"
+#include "platform/linux/input/X11EventPosting.h"
+#include "platform/linux/input/X11EventTapping.h"
+#include "platform/linux/inputsources/DesktopInputSources.h"
+#include "platform/linux/panels/QtOverlayPanel.h"
+#include "platform/linux/panels/X11ApplicationOpening.h"
+#include "platform/linux/windows/RandRDisplayLink.h"
 #include "platform/linux/windows/X11WindowActivation.h"
+#include "platform/linux/windows/X11WindowList.h"
+
+#include <memory>
+#include <string>
+#include <utility>
 
 namespace brindlex {
-
-LinuxPlatform::LinuxPlatform(
-    Clock& clock, XdgUserFolders& userFolders, AppGroupContainer& container)
-    : activeWindow_(display_), preferencesQueue_("Brindlex.Prefs"),
-      defaults_(
+LinuxPlatform::LinuxPlatform(const SessionOffer& offer, Clock& clock, XdgUserFolders& userFolders,
+    AppGroupContainer& container)
+    : desktopEntries_(DesktopEntries::ofUser()), preferencesQueue_("Brindlex.Prefs"),
+      browserQueue_("Brindlex.AX"), elementQueue_("Brindlex.Elem"),
+      preferences_(
           userFolders.configHome() / (std::string(programIdentity::bundleIdentifier) + ".json"),
           mainThread_, preferencesQueue_),
       notifications_(sessionBus_),
       instances_(sessionBus_, programIdentity::bundleIdentifier,
-          [this](auto process) { activateWindowsOf(display_, process); }),
-      desktopEntries_(DesktopEntries::ofUser()),
-      applications_(display_, activeWindow_, desktopEntries_), bundles_(desktopEntries_),
-      inputSources_(display_, sessionBus_.connection()), browserQueue_("Brindlex.AX"),
-      browserPages_(mainThread_, clock, browserQueue_, [this] { return activeWindow_.current(); }),
-      overlayPanel_(display_), input_(mainThread_), eventPermissions_(input_, defaults_),
-      eventTapping_(input_), eventPosting_(input_, mainThread_, clock),
-      displayLink_(display_, mainThread_, clock), cursor_(display_), elementQueue_("Brindlex.Elem"),
-      accessibility_(display_, elementQueue_), windows_(display_), processes_(mainThread_),
-      opening_(display_, activeWindow_, applications_),
-      abilities_{mainThread_, clock, defaults_, userFolders, container, notifications_, instances_,
-          applications_, bundles_, inputSources_, browserPages_, overlayPanel_, activation_,
-          eventPermissions_, eventTapping_, eventPosting_, displayLink_, cursor_, accessibility_,
-          windows_, processes_, opening_}
+          [this](auto process) { activateWindowsOf(x11().display, process); }),
+      bundles_(desktopEntries_), processes_(mainThread_),
+      abilities_(choose(offer.hasX11, clock, userFolders, container))
 {
+}
+
+Platform LinuxPlatform::choose(
+    bool hasX11, Clock& clock, XdgUserFolders& userFolders, AppGroupContainer& container)
+{
+    using std::make_shared;
+    auto& first = providers_;
+    return {
+        .mainThread = mainThread_,
+        .clock = clock,
+        .defaults = preferences_,
+        .userFolders = userFolders,
+        .container = container,
+        .distributedNotifications = notifications_,
+        .instances = instances_,
+        .applications
+        = first.of<RunningApplications>({{hasX11, [&] { return x11Applications(); }}}),
+        .bundles = bundles_,
+        .inputSources = first.of<KeyboardInputSources>({{hasX11,
+            [&] {
+                return make_shared<DesktopInputSources>(x11().display, sessionBus_.connection());
+            }}}),
+        .browserPages
+        = first.of<BrowserPageReading>({{hasX11, [&] { return accessiblePages(clock); }}}),
+        .overlayPanel = first.of<OverlayPanel>(
+            {{hasX11, [&] { return make_shared<QtOverlayPanel>(x11().display); }}}),
+        .activation = activation_,
+        .eventPermissions = first.of<EventPermissions>({{hasX11,
+            [&] { return make_shared<X11EventPermissions>(x11().input, preferences_); }}}),
+        .eventTapping = first.of<EventTapping>(
+            {{hasX11, [&] { return make_shared<X11EventTapping>(x11().input); }}}),
+        .eventPosting = first.of<EventPosting>({{hasX11,
+            [&] { return make_shared<X11EventPosting>(x11().input, mainThread_, clock); }}}),
+        .displayLink = first.of<DisplayLink>({{hasX11,
+            [&] { return make_shared<RandRDisplayLink>(x11().display, mainThread_, clock); }}}),
+        .cursor = first.of<CursorReading>(
+            {{hasX11, [&] { return make_shared<X11CursorReading>(x11().display); }}}),
+        .accessibility = first.of<AccessibilityTree>({{hasX11,
+            [&] { return make_shared<AccessibleElementTree>(x11().display, elementQueue_); }}}),
+        .windows = first.of<WindowList>(
+            {{hasX11, [&] { return make_shared<X11WindowList>(x11().display); }}}),
+        .processes = processes_,
+        .opening = first.of<ApplicationOpening>({{hasX11, [&] { return x11Opening(); }}}),
+    };
+}
+
+Subscription LinuxPlatform::observeDisplayEnd(std::function<void()> handler)
+{
+    return x11().display.observeEnd(std::move(handler));
+}
+
+std::shared_ptr<RunningApplications> LinuxPlatform::x11Applications()
+{
+    auto& applications = x11().applications;
+    return {x11_, &applications};
+}
+
+std::shared_ptr<BrowserPageReading> LinuxPlatform::accessiblePages(const Clock& clock)
+{
+    return std::make_shared<AccessibleBrowserPages>(
+        mainThread_, clock, browserQueue_, [this] { return x11().activeWindow.current(); });
+}
+
+std::shared_ptr<ApplicationOpening> LinuxPlatform::x11Opening()
+{
+    auto& session = x11();
+    return std::make_shared<X11ApplicationOpening>(
+        session.display, session.activeWindow, session.applications);
+}
+
+X11Session& LinuxPlatform::x11()
+{
+    if (!x11_)
+        x11_ = std::make_shared<X11Session>(mainThread_, desktopEntries_);
+    return *x11_;
 }
 
 } // namespace brindlex

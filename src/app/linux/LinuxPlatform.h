@@ -1,20 +1,13 @@
 #pragma once
 
+#include "app/linux/ProviderChoice.h"
+#include "app/linux/SessionOffer.h"
+#include "app/linux/X11Session.h"
+#include "foundation/Subscription.h"
 #include "platform/Platform.h"
-#include "platform/linux/accessibility/AccessibleBrowserPages.h"
-#include "platform/linux/accessibility/AccessibleElementTree.h"
 #include "platform/linux/applications/DesktopApplicationBundles.h"
 #include "platform/linux/applications/DesktopEntries.h"
-#include "platform/linux/applications/X11RunningApplications.h"
-#include "platform/linux/input/X11CursorReading.h"
-#include "platform/linux/input/X11EventPermissions.h"
-#include "platform/linux/input/X11EventPosting.h"
-#include "platform/linux/input/X11EventTapping.h"
-#include "platform/linux/input/X11InputStream.h"
-#include "platform/linux/inputsources/DesktopInputSources.h"
-#include "platform/linux/panels/QtOverlayPanel.h"
 #include "platform/linux/panels/QtProgramActivation.h"
-#include "platform/linux/panels/X11ApplicationOpening.h"
 #include "platform/linux/preferences/JsonFileUserDefaults.h"
 #include "platform/linux/system/DBusNotifications.h"
 #include "platform/linux/system/DBusProgramInstances.h"
@@ -22,53 +15,51 @@
 #include "platform/linux/system/QtMainThread.h"
 #include "platform/linux/system/SessionBus.h"
 #include "platform/linux/system/XdgUserFolders.h"
-#include "platform/linux/windows/RandRDisplayLink.h"
-#include "platform/linux/windows/X11ActiveWindow.h"
-#include "platform/linux/windows/X11WindowList.h"
-#include "platform/linux/x11/X11Connection.h"
 #include "platform/posix/SerialQueue.h"
+
+#include <functional>
+#include <memory>
 
 namespace brindlex {
 
-/// The abilities of a Linux desktop under X11, one provider each. Made on the main thread, after
-/// the application object; the arguments outlive it.
+/// The abilities of a Linux desktop, each from the first provider that the session can have. Made
+/// on the main thread, after the application object; the arguments outlive it.
 class LinuxPlatform {
 public:
-    LinuxPlatform(Clock& clock, XdgUserFolders& userFolders, AppGroupContainer& container);
+    LinuxPlatform(const SessionOffer& offer, Clock& clock, XdgUserFolders& userFolders,
+        AppGroupContainer& container);
 
     Platform& abilities() { return abilities_; }
-    X11Connection& display() { return display_; }
-    QtMainThread& mainThread() { return mainThread_; }
-    QtOverlayPanel& overlayPanel() { return overlayPanel_; }
+
+    /// Notifies when the connection to the display has ended.
+    Subscription observeDisplayEnd(std::function<void()> handler);
 
 private:
+    /// The table of providers: for each ability what can provide it, the best first.
+    Platform choose(
+        bool hasX11, Clock& clock, XdgUserFolders& userFolders, AppGroupContainer& container);
+    std::shared_ptr<RunningApplications> x11Applications();
+    std::shared_ptr<BrowserPageReading> accessiblePages(const Clock& clock);
+    std::shared_ptr<ApplicationOpening> x11Opening();
+    X11Session& x11();
+
+    // What every session offers.
     QtMainThread mainThread_;
-    X11Connection display_;
-    X11ActiveWindow activeWindow_;
-    SerialQueue preferencesQueue_;
-    JsonFileUserDefaults defaults_;
     SessionBus sessionBus_;
+    DesktopEntries desktopEntries_;
+    SerialQueue preferencesQueue_;
+    SerialQueue browserQueue_;
+    SerialQueue elementQueue_;
+    JsonFileUserDefaults preferences_;
     DBusNotifications notifications_;
     DBusProgramInstances instances_;
-    DesktopEntries desktopEntries_;
-    X11RunningApplications applications_;
     DesktopApplicationBundles bundles_;
-    DesktopInputSources inputSources_;
-    SerialQueue browserQueue_;
-    AccessibleBrowserPages browserPages_;
-    QtOverlayPanel overlayPanel_;
     QtProgramActivation activation_;
-    X11InputStream input_;
-    X11EventPermissions eventPermissions_;
-    X11EventTapping eventTapping_;
-    X11EventPosting eventPosting_;
-    RandRDisplayLink displayLink_;
-    X11CursorReading cursor_;
-    SerialQueue elementQueue_;
-    AccessibleElementTree accessibility_;
-    X11WindowList windows_;
     PosixProcessLaunching processes_;
-    X11ApplicationOpening opening_;
+
+    /// Made for the first provider that needs it.
+    std::shared_ptr<X11Session> x11_;
+    ProviderChoice providers_;
     Platform abilities_;
 };
 

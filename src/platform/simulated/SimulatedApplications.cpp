@@ -29,7 +29,7 @@ void SimulatedApplications::bringToFront(const RunningApplication& application)
     bringToFront(application.processIdentifier);
 }
 
-void SimulatedApplications::bringToFront(std::int64_t processIdentifier)
+void SimulatedApplications::bringToFront(ProcessIdentity processIdentifier)
 {
     if (find(processIdentifier) == running_.end())
         return;
@@ -38,7 +38,7 @@ void SimulatedApplications::bringToFront(std::int64_t processIdentifier)
         observers_.notify(frontmost());
 }
 
-void SimulatedApplications::quit(std::int64_t processIdentifier)
+void SimulatedApplications::quit(ProcessIdentity processIdentifier)
 {
     if (frontmost_ == processIdentifier)
         frontmost_.reset();
@@ -50,7 +50,7 @@ void SimulatedApplications::quit(std::int64_t processIdentifier)
 }
 
 std::vector<RunningApplication>::const_iterator SimulatedApplications::find(
-    std::int64_t processIdentifier) const
+    ProcessIdentity processIdentifier) const
 {
     return std::find_if(running_.begin(), running_.end(), [&](const RunningApplication& each) {
         return each.processIdentifier == processIdentifier;

@@ -3,7 +3,6 @@
 #include "foundation/Subscribers.h"
 #include "platform/RunningApplications.h"
 
-#include <cstdint>
 #include <optional>
 #include <vector>
 
@@ -22,20 +21,20 @@ public:
     /// Starts an application unless it runs, and brings it to the front.
     void bringToFront(const RunningApplication& application);
     /// Brings a running application to the front; of one that does not run nothing is done.
-    void bringToFront(std::int64_t processIdentifier);
+    void bringToFront(ProcessIdentity processIdentifier);
 
     /// Leaves no window active.
     void emptyFront() { frontmost_.reset(); }
 
     /// Ends an application; if it was in front, the front is empty.
-    void quit(std::int64_t processIdentifier);
+    void quit(ProcessIdentity processIdentifier);
 
 private:
-    std::vector<RunningApplication>::const_iterator find(std::int64_t processIdentifier) const;
+    std::vector<RunningApplication>::const_iterator find(ProcessIdentity processIdentifier) const;
 
     std::vector<RunningApplication> running_;
-    std::optional<std::int64_t> frontmost_;
-    std::optional<std::int64_t> lastTold_;
+    std::optional<ProcessIdentity> frontmost_;
+    std::optional<ProcessIdentity> lastTold_;
     Subscribers<ActivationHandler> observers_;
 };
 

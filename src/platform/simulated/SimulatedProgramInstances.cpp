@@ -4,8 +4,9 @@ namespace brindlex {
 
 SimulatedSession::ProcessIdentifier SimulatedSession::start(const std::string& bundleID)
 {
-    processes_.push_back({++last_, bundleID});
-    return last_;
+    const ProcessIdentifier process{++last_};
+    processes_.push_back({process, bundleID});
+    return process;
 }
 
 void SimulatedSession::end(ProcessIdentifier process)

@@ -13,7 +13,7 @@ public:
     using ProcessIdentifier = ProgramInstances::ProcessIdentifier;
 
     struct Process {
-        ProcessIdentifier identifier = 0;
+        ProcessIdentifier identifier{};
         std::string bundleID{};
 
         bool operator==(const Process&) const = default;
@@ -29,7 +29,7 @@ public:
 
 private:
     std::vector<Process> processes_;
-    ProcessIdentifier last_ = 100;
+    std::int64_t last_ = 100;
 };
 
 /// One simulated process among those of its session. It is there as long as the object is.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Identities.h"
 #include "support/basics/TemporaryFolder.h"
 #include "support/processes/ChildProcess.h"
 
@@ -42,6 +43,7 @@ public:
     FakeBrowser();
 
     int process() const { return program_.id(); }
+    ProcessIdentity identity() const { return ProcessIdentity{process()}; }
     bool isRunning() const { return program_.isRunning(); }
 
     /// What it offers from the next question on.

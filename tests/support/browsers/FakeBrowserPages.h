@@ -26,7 +26,8 @@ struct FakeBrowserPages {
     AccessibilityLimits limits;
     VirtualDesktop desktop{{.windowManager = false, .accessibility = true}};
     FakeBrowser browser{};
-    std::optional<ActiveWindow> active{ActiveWindow{0x400001, browser.process(), "Page - Browser"}};
+    std::optional<ActiveWindow> active{
+        ActiveWindow{WindowIdentity{0x400001}, browser.identity(), "Page - Browser"}};
     SimulatedClock clock{};
     SimulatedMainThread mainThread{clock};
     SerialQueue queue{"pages"};

@@ -37,7 +37,7 @@ private:
     };
     struct Page {
         std::string bundleID{};
-        std::uint32_t window = 0;
+        WindowIdentity window{};
         std::string url{};
         Seconds readAt = 0;
     };

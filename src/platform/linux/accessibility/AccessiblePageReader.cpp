@@ -23,7 +23,7 @@ PageProblem pageProblem(AccessibilityProblem problem)
 Result<std::string, PageProblem> AccessiblePageReader::read(const ActiveWindow& window)
 {
     // A question to this very process would wait for the main thread.
-    if (window.processIdentifier == getpid() || !bus_.begin())
+    if (window.processIdentifier == ProcessIdentity{getpid()} || !bus_.begin())
         return fail(PageProblem::unknown);
 
     if (const auto* found = known(window)) {
@@ -83,7 +83,7 @@ AccessibilityAnswer<AccessiblePageReader::FoundFrame> AccessiblePageReader::find
     std::vector<AccessibleObject> others;
     for (const auto& application : *all) {
         const auto process = bus_.processIdentifier(application.service);
-        if (process && *process == window.processIdentifier)
+        if (process && ProcessIdentity{*process} == window.processIdentifier)
             own.push_back(application);
         else if (process && *process != getpid())
             others.push_back(application);

@@ -36,10 +36,10 @@ public:
     Result<std::string, PageProblem> read(const ActiveWindow& window);
 
 private:
-    /// A window of the X server and what it is in the accessible tree.
+    /// A window and what it is in the accessible tree.
     struct KnownFrame {
-        std::uint32_t window = 0;
-        std::int64_t processIdentifier = 0;
+        WindowIdentity window{};
+        ProcessIdentity processIdentifier{};
         AccessibleObject frame{};
     };
     struct FoundFrame {

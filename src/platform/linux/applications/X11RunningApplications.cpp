@@ -63,7 +63,7 @@ std::vector<RunningApplication> X11RunningApplications::running() const
         auto application = applicationOf(*description);
         const bool isListed = std::any_of(
             applications.begin(), applications.end(), [&](const RunningApplication& listed) {
-                return application.processIdentifier != 0
+                return application.processIdentifier != ProcessIdentity::none
                     ? listed.processIdentifier == application.processIdentifier
                     : isSameApplication(listed, application);
             });
@@ -102,7 +102,8 @@ RunningApplication X11RunningApplications::identify(const X11WindowDescription& 
         entry = entryOf(origin, entries_.all());
     }
 
-    RunningApplication application{.processIdentifier = description.processIdentifier};
+    RunningApplication application{
+        .processIdentifier = ProcessIdentity{description.processIdentifier}};
     if (entry) {
         application.bundleIdentifier = identifierOf(*entry);
         application.bundlePath = entry->path;

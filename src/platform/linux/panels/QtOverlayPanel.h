@@ -20,11 +20,9 @@ public:
     QtOverlayPanel(const QtOverlayPanel&) = delete;
     QtOverlayPanel& operator=(const QtOverlayPanel&) = delete;
 
-    /// Makes the window and loads the fonts for the text, so that the first `show` of its
-    /// characters is as quick as later ones. A font for Chinese costs 3.5 MB: warm up what will be
-    /// shown.
-    void warmUp(const std::string& text);
-
+    /// Makes the window and loads the fonts for the text. A font for Chinese costs 3.5 MB: warm up
+    /// what will be shown.
+    void warmUp(const std::string& text) override;
     void show(const std::string& text) override;
     void fadeOut() override;
 

@@ -26,7 +26,7 @@ std::optional<ProcessIdentifier> processOf(SessionBus& bus, const QString& conne
     const auto answer = bus.ask(QStringLiteral("GetConnectionUnixProcessID"), {connection});
     if (!answer)
         return {};
-    return answer->arguments().value(0).toUInt();
+    return ProcessIdentifier{answer->arguments().value(0).toUInt()};
 }
 
 } // namespace
@@ -42,7 +42,10 @@ DBusProgramInstances::DBusProgramInstances(
         Log::warn("No session bus: other instances are not known", logCategory::lifecycle);
 }
 
-ProgramInstances::ProcessIdentifier DBusProgramInstances::current() const { return ::getpid(); }
+ProgramInstances::ProcessIdentifier DBusProgramInstances::current() const
+{
+    return ProcessIdentity{::getpid()};
+}
 
 std::vector<ProgramInstances::ProcessIdentifier> DBusProgramInstances::running(
     const std::string& bundleID)

@@ -44,7 +44,8 @@ std::optional<ActiveWindow> X11ActiveWindow::current() const
     const auto description = describe(connection_, {window_}).front();
     if (!description || description->processIdentifier == ::getpid())
         return {};
-    return ActiveWindow{window_, description->processIdentifier, windowTitle(connection_, window_)};
+    return ActiveWindow{WindowIdentity{window_}, ProcessIdentity{description->processIdentifier},
+        windowTitle(connection_, window_)};
 }
 
 Subscription X11ActiveWindow::observe(std::function<void()> handler)

@@ -44,12 +44,13 @@ void activateWindow(X11Connection& connection, xcb_window_t window)
     waitForServer(connection);
 }
 
-void activateWindowsOf(X11Connection& connection, std::int64_t processIdentifier)
+void activateWindowsOf(X11Connection& connection, ProcessIdentity process)
 {
     const auto windows = managedWindows(connection);
     const auto descriptions = describe(connection, windows);
     for (std::size_t index = 0; index < windows.size(); ++index)
-        if (descriptions[index] && descriptions[index]->processIdentifier == processIdentifier)
+        if (descriptions[index]
+            && ProcessIdentity{descriptions[index]->processIdentifier} == process)
             bringToFront(connection, windows[index]);
     waitForServer(connection);
 }

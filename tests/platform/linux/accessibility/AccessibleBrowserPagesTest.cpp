@@ -85,7 +85,7 @@ TEST_F(AccessibleBrowserPagesTest, staysWithAWindowWhoseTitleChanges)
 
 TEST_F(AccessibleBrowserPagesTest, findsABrowserOfAnotherProcessByExactlyItsTitle)
 {
-    on.active->processIdentifier = 2;
+    on.active->processIdentifier = ProcessIdentity{2};
     on.browser.offer({{.name = "Page - Browser", .url = "https://example.com/"}});
 
     EXPECT_EQ(on.read(), "https://example.com/");
@@ -93,7 +93,7 @@ TEST_F(AccessibleBrowserPagesTest, findsABrowserOfAnotherProcessByExactlyItsTitl
 
 TEST_F(AccessibleBrowserPagesTest, readsNothingOfItsOwnProcess)
 {
-    on.active->processIdentifier = getpid();
+    on.active->processIdentifier = ProcessIdentity{getpid()};
     on.browser.offer({{.name = "Page - Browser", .url = "https://example.com/"}});
 
     EXPECT_EQ(on.read(), std::nullopt);
@@ -113,7 +113,7 @@ TEST_F(AccessibleBrowserPagesTest, knowsNothingOfAWindowThatHasJustComeToTheFron
     on.browser.offer({{.name = "Page - Browser", .url = "https://example.com/"},
         {.name = "Other - Browser", .url = "https://example.org/"}});
     ASSERT_EQ(on.read(), "https://example.com/");
-    on.active = ActiveWindow{0x400002, on.browser.process(), "Other - Browser"};
+    on.active = ActiveWindow{WindowIdentity{0x400002}, on.browser.identity(), "Other - Browser"};
 
     EXPECT_EQ(on.ask(), std::nullopt);
     on.settle();
@@ -126,7 +126,7 @@ TEST_F(AccessibleBrowserPagesTest, dropsThePageOfAWindowThatWentWhileItWasRead)
     on.browser.offer({{.name = "Page - Browser", .url = "https://example.com/"},
         {.name = "Other - Browser", .url = "https://example.org/"}});
     on.ask();
-    on.active = ActiveWindow{0x400002, on.browser.process(), "Other - Browser"};
+    on.active = ActiveWindow{WindowIdentity{0x400002}, on.browser.identity(), "Other - Browser"};
     on.settle();
 
     EXPECT_EQ(told, 0);
@@ -140,7 +140,7 @@ TEST_F(AccessibleBrowserPagesTest, readsTheNewestWindowAfterTheOneUnderWay)
     on.browser.offer({{.name = "Page - Browser", .url = "https://example.com/"},
         {.name = "Other - Browser", .url = "https://example.org/"}});
     on.ask();
-    on.active = ActiveWindow{0x400002, on.browser.process(), "Other - Browser"};
+    on.active = ActiveWindow{WindowIdentity{0x400002}, on.browser.identity(), "Other - Browser"};
     on.ask();
     on.settle();
     on.settle();

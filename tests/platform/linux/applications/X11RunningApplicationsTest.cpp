@@ -112,7 +112,7 @@ TEST_F(X11RunningApplicationsTest, boundsWhatAWindowSaysOfItself)
     announceActive(liar.id());
     ASSERT_TRUE(loopUntil([&] { return applications.frontmost().has_value(); }));
     EXPECT_EQ(applications.frontmost()->bundleIdentifier, "wmclass:" + std::string(1024, 'x'));
-    EXPECT_EQ(applications.frontmost()->processIdentifier, 0);
+    EXPECT_EQ(applications.frontmost()->processIdentifier, ProcessIdentity::none);
 }
 
 TEST_F(X11RunningApplicationsTest, readsBytesThatAreNotTextAsReplacementCharacters)
@@ -143,14 +143,14 @@ TEST_F(X11RunningApplicationsTest, doesNotTakeAProcessOfAnotherMachineForOneOfTh
     const ApplicationWindow remote(server, {"a", "A", process(), "another-machine"});
     announceActive(remote.id());
     ASSERT_TRUE(reaches("wmclass:A"));
-    EXPECT_EQ(applications.frontmost()->processIdentifier, 0);
+    EXPECT_EQ(applications.frontmost()->processIdentifier, ProcessIdentity::none);
 
     char name[256] = {};
     ::gethostname(name, sizeof name - 1);
     const ApplicationWindow local(server, {"b", "B", process(), std::string(name) + ".example"});
     announceActive(local.id());
     ASSERT_TRUE(reaches("wmclass:B"));
-    EXPECT_EQ(applications.frontmost()->processIdentifier, child.id());
+    EXPECT_EQ(applications.frontmost()->processIdentifier, ProcessIdentity{child.id()});
 }
 
 TEST_F(X11RunningApplicationsTest, doesNotBelieveProcessNumbersThatCannotBe)
@@ -159,7 +159,7 @@ TEST_F(X11RunningApplicationsTest, doesNotBelieveProcessNumbersThatCannotBe)
         const ApplicationWindow window(server, {"a", "A" + std::to_string(number), number});
         announceActive(window.id());
         ASSERT_TRUE(reaches("wmclass:A" + std::to_string(number)));
-        EXPECT_EQ(applications.frontmost()->processIdentifier, 0);
+        EXPECT_EQ(applications.frontmost()->processIdentifier, ProcessIdentity::none);
     }
 }
 
@@ -198,7 +198,8 @@ TEST_F(X11RunningApplicationsTest, listsAProcessWithTwoWindowsOnce)
     announceWindows({one.id(), two.id(), unknownOne.id(), unknownTwo.id()});
     EXPECT_EQ(applications.running(),
         (std::vector<RunningApplication>{
-            {child.id(), "wmclass:Writer", {}, "Writer"}, {0, "wmclass:B", {}, "B"}}));
+            {ProcessIdentity{child.id()}, "wmclass:Writer", {}, "Writer"},
+            {ProcessIdentity::none, "wmclass:B", {}, "B"}}));
 }
 
 TEST_F(X11RunningApplicationsTest, tellsOfOneHundredActivationsInARow)
@@ -224,7 +225,7 @@ TEST_F(X11RunningApplicationsTest, findsTheEntryOfAnApplicationThatIsInstalledMe
     announceActive(window.id());
     ASSERT_TRUE(reaches("org.example.Pad"));
     EXPECT_EQ(applications.frontmost(),
-        (RunningApplication{child.id(), "org.example.Pad", file, "Block"}));
+        (RunningApplication{ProcessIdentity{child.id()}, "org.example.Pad", file, "Block"}));
 }
 
 TEST_F(X11RunningApplicationsTest, answersNothingOnceTheServerHasGone)

@@ -19,7 +19,7 @@ const std::string program = "com.brindlex.Brindlex";
 const std::vector<std::string> noBusIsLogged{
     "WARN [lifecycle] No session bus: other instances are not known"};
 
-Processes onlyThisProcess() { return {::getpid()}; }
+Processes onlyThisProcess() { return {ProcessIdentity{::getpid()}}; }
 
 TEST(DBusProgramInstances, knowsOnlyOfItselfWithoutABusAndSaysSoOnce)
 {
@@ -66,8 +66,8 @@ TEST(DBusProgramInstances, handsActivationOn)
     Processes activated;
     DBusProgramInstances instances(
         bus, program, [&](auto process) { activated.push_back(process); });
-    instances.activate(42);
-    EXPECT_EQ(activated, Processes{42});
+    instances.activate(ProcessIdentity{42});
+    EXPECT_EQ(activated, Processes{ProcessIdentity{42}});
 }
 
 TEST(DBusProgramInstances, endsTheLoopEvenWhenAskedBeforeItRuns)

@@ -24,7 +24,7 @@ int instances(const Arguments& arguments)
     SessionBus bus(arguments.at(0));
     DBusProgramInstances instances(bus, arguments.at(1), [](auto) {});
     for (const auto process : instances.running(arguments.at(2)))
-        std::cout << process << " ";
+        std::cout << static_cast<std::int64_t>(process) << " ";
     std::cout << std::endl;
     return QCoreApplication::exec();
 }

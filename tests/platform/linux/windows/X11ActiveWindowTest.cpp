@@ -21,10 +21,12 @@ TEST(X11ActiveWindow, answersNumberProcessAndTitleOfTheWindowInFront)
     ApplicationWindow window(server, {"a", "A", 1, "", "First \u2013 title"});
     window.show();
     ASSERT_TRUE(loopUntil([&] { return activeWindow.window() == window.id(); }));
-    EXPECT_EQ(activeWindow.current(), (ActiveWindow{window.id(), 1, "First \u2013 title"}));
+    EXPECT_EQ(activeWindow.current(),
+        (ActiveWindow{WindowIdentity{window.id()}, ProcessIdentity{1}, "First \u2013 title"}));
 
     window.setText("_NET_WM_NAME", "UTF8_STRING", std::string(100'000, 't'));
-    EXPECT_EQ(activeWindow.current(), (ActiveWindow{window.id(), 1, std::string(4096, 't')}));
+    EXPECT_EQ(activeWindow.current(),
+        (ActiveWindow{WindowIdentity{window.id()}, ProcessIdentity{1}, std::string(4096, 't')}));
 
     window.vanish();
     EXPECT_TRUE(loopUntil([&] { return activeWindow.window() == 0; }));
@@ -41,7 +43,8 @@ TEST(X11ActiveWindow, startsWithTheWindowThatIsActiveAlready)
     ASSERT_TRUE(pager.activate(window.id()));
     X11Connection connection;
     const X11ActiveWindow activeWindow(connection);
-    EXPECT_EQ(activeWindow.current(), (ActiveWindow{window.id(), 1, "Title"}));
+    EXPECT_EQ(activeWindow.current(),
+        (ActiveWindow{WindowIdentity{window.id()}, ProcessIdentity{1}, "Title"}));
 }
 
 } // namespace
