@@ -1,5 +1,7 @@
 #include "support/scenarios/ScenarioFile.h"
 
+#include "support/scenarios/ScenarioFolder.h"
+
 #include <gtest/gtest.h>
 
 namespace brindlex {
@@ -36,6 +38,20 @@ TEST(ScenarioFileLayout, endsTheWordsAtTheFirstArrow)
 {
     EXPECT_EQ(laidOut("0ms  a -> b -> c\n"), "0ms  a -> b -> c\n");
     EXPECT_EQ(laidOut("0ms  a ->\n"), "0ms  a\n");
+}
+
+TEST(ScenarioFileLayout, isThatOfEveryScenario)
+{
+    std::size_t files = 0;
+    for (const auto& folder : scenarioFolders()) {
+        for (const auto& path : scenarioFiles(folder)) {
+            const auto file = parseScenarioFile(path.string(), contentOf(path));
+            ASSERT_TRUE(file) << file.error();
+            EXPECT_EQ(file->text(), contentOf(path)) << path;
+            ++files;
+        }
+    }
+    EXPECT_GE(files, 107u);
 }
 
 } // namespace
