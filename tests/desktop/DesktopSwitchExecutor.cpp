@@ -3,6 +3,9 @@
 #include "foundation/Json.h"
 #include "foundation/JsonCoding.h"
 #include "support/processes/ProcessTable.h"
+#include "support/switching/SwitchSettings.h"
+
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <set>
@@ -11,7 +14,7 @@ namespace brindlex {
 namespace {
 
 using namespace std::chrono_literals;
-using Event = SwitchScenarioEvent;
+using Step = SwitchScenarioStep;
 
 constexpr auto timeAtRest = 60ms;
 
@@ -22,10 +25,10 @@ std::string layoutOf(const std::string& inputSourceID)
     return inputSourceID.substr(start, inputSourceID.find(':', start) - start);
 }
 
-VirtualDesktop::Options desktopFor(const SwitchScenario& scenario)
+VirtualDesktop::Options desktopFor(const std::vector<SwitchVerbs::Source>& sources)
 {
     std::string layouts;
-    for (const auto& source : scenario.sources)
+    for (const auto& source : sources)
         layouts += (layouts.empty() ? "" : ",") + layoutOf(source.id);
     return {.keyboardLayouts = layouts};
 }
@@ -33,11 +36,11 @@ VirtualDesktop::Options desktopFor(const SwitchScenario& scenario)
 std::set<std::string> applicationsIn(const SwitchScenario& scenario)
 {
     std::set<std::string> applications;
-    if (scenario.frontmostBundleID)
-        applications.insert(*scenario.frontmostBundleID);
-    for (const auto& line : scenario.lines)
-        if (const auto step = line.step ? std::get_if<Event::Activate>(&line.step->event) : nullptr)
-            applications.insert(step->bundleID.value_or(""));
+    if (scenario.preparation.frontmostBundleID)
+        applications.insert(*scenario.preparation.frontmostBundleID);
+    for (const auto& step : scenario.steps)
+        if (const auto activation = std::get_if<Step::Activate>(&step.what))
+            applications.insert(activation->bundleID.value_or(""));
     return applications;
 }
 
@@ -45,40 +48,40 @@ std::set<std::string> applicationsIn(const SwitchScenario& scenario)
 
 void DesktopSwitchExecutor::begin(const SwitchScenario& scenario)
 {
-    scenario_ = scenario;
-    desk_ = std::make_unique<ProgramDesk>(desktopFor(scenario));
+    preparation_ = scenario.preparation;
+    desk_ = std::make_unique<ProgramDesk>(desktopFor(preparation_.sources));
     for (const auto& application : applicationsIn(scenario)) {
         installApplication(desk_->desktop, application, application);
         windows_[application] = std::make_unique<PlainWindow>(
             desk_->server, PlainWindow::Claims{.wmClass = wmClass(application)});
     }
-    if (scenario.frontmostBundleID)
-        activate(*scenario.frontmostBundleID);
+    if (preparation_.frontmostBundleID)
+        activate(*preparation_.frontmostBundleID);
     writePreferences();
     learned_ = learned();
 }
 
-std::vector<SwitchScenarioOutcome> DesktopSwitchExecutor::perform(const SwitchScenario::Step& step)
+std::vector<std::string> DesktopSwitchExecutor::perform(const SwitchScenario::Step& step)
 {
     waitFor(step.time);
     const auto overlayBefore = overlay();
-    carryOut(step.event);
-    std::vector<SwitchScenarioOutcome> outcomes;
+    carryOut(step.what);
     if (!comesToRest())
-        return {{"the program does not come to rest"}};
+        return {"the program does not come to rest"};
 
+    std::vector<std::string> effects;
     if (const auto group = keyboardGroup(desk_->server); group != group_) {
         group_ = group;
-        outcomes.push_back({"select " + scenario_.sources.at(static_cast<std::size_t>(group)).id});
+        effects.push_back("select " + preparation_.sources.at(static_cast<std::size_t>(group)).id);
     }
     if (const auto label = overlay(); !label.empty() && label != overlayBefore)
-        outcomes.push_back({"hud " + label});
+        effects.push_back("hud " + label);
     const auto samples = learned();
     for (const auto& sample : samples)
         if (std::find(learned_.begin(), learned_.end(), sample) == learned_.end())
-            outcomes.push_back({"learn " + sample.inputSourceID + " for " + sample.application});
+            effects.push_back("learn " + sample.inputSourceID + " for " + sample.application);
     learned_ = samples;
-    return outcomes;
+    return effects;
 }
 
 std::string DesktopSwitchExecutor::report() const { return program_ ? program_->report() : ""; }
@@ -89,26 +92,29 @@ void DesktopSwitchExecutor::waitFor(Seconds time)
     eventually([&] { return std::chrono::steady_clock::now() >= moment; }, 60s);
 }
 
-void DesktopSwitchExecutor::carryOut(const SwitchScenarioEvent::Any& event)
+void DesktopSwitchExecutor::carryOut(const SwitchScenarioStep::Any& step)
 {
+    const auto refuse
+        = [] { ADD_FAILURE() << "A step that only a computer in memory carries out"; };
     match(
-        event,
-        [&](const Event::Start&) {
-            program_.emplace(desk_->desktop);
-            program_->launches();
-            start_ = std::chrono::steady_clock::now();
-        },
-        [&](const Event::Stop&) { program_->quit(); },
-        [&](const Event::Activate& activation) { activate(activation.bundleID.value_or("")); },
-        [&](const Event::UserSelects& choice) {
-            group_ = groupOf(choice.inputSourceID.value_or(""));
+        step, [](const Step::Wait&) {}, [&](const Step::Start&) { start(); },
+        [&](const Step::Stop&) { program_->quit(); },
+        [&](const Step::Activate& activation) { activate(activation.bundleID.value_or("")); },
+        [&](const Step::UserSelects& selection) {
+            group_ = groupOf(selection.inputSourceID.value_or(""));
             selectKeyboardGroup(desk_->server, group_);
         },
-        [&](const Event::Set& setting) { change(setting); }, [&](const Event::Wait&) {},
-        // What only a computer in memory can be told to do.
-        [&](const Event::ShowPage&) { std::abort(); }, [&](const Event::Tick&) { std::abort(); },
-        [&](const Event::SourceChanged&) { std::abort(); },
-        [&](const Event::Refuse&) { std::abort(); }, [&](const Event::Accept&) { std::abort(); });
+        [&](const Step::Set& change) { set(change.setting); },
+        [&](const Step::ShowPage&) { refuse(); }, [&](const Step::Tick&) { refuse(); },
+        [&](const Step::SourceChanged&) { refuse(); }, [&](const Step::Refuse&) { refuse(); },
+        [&](const Step::Accept&) { refuse(); });
+}
+
+void DesktopSwitchExecutor::start()
+{
+    program_.emplace(desk_->desktop);
+    program_->launches();
+    start_ = std::chrono::steady_clock::now();
 }
 
 void DesktopSwitchExecutor::activate(const std::string& application)
@@ -116,23 +122,23 @@ void DesktopSwitchExecutor::activate(const std::string& application)
     desk_->windows.activate(windows_.at(application)->window());
 }
 
-void DesktopSwitchExecutor::change(const SwitchScenarioEvent::Set& setting)
+void DesktopSwitchExecutor::set(ScenarioWords setting)
 {
     const auto record = [&](const std::string& key) {
         return parseJson(desk_->files.readRecord(key).dump()).value();
     };
-    scenario_.config = fromJson<InputMethodConfig>(record("inputMethodConfig")).value();
-    scenario_.smartConfig
+    preparation_.config = fromJson<InputMethodConfig>(record("inputMethodConfig")).value();
+    preparation_.smartConfig
         = fromJson<SmartInputMethodConfig>(record("smartInputMethodConfig")).value();
-    applySetting(setting.name, setting.value, scenario_.config, scenario_.smartConfig);
+    changeSetting(setting, preparation_.config, preparation_.smartConfig);
     writePreferences();
 }
 
 void DesktopSwitchExecutor::writePreferences() const
 {
     auto preferences = desk_->files.readPreferences();
-    preferences["inputMethodConfig"] = jsonText(toJson(scenario_.config));
-    preferences["smartInputMethodConfig"] = jsonText(toJson(scenario_.smartConfig));
+    preferences["inputMethodConfig"] = jsonText(toJson(preparation_.config));
+    preferences["smartInputMethodConfig"] = jsonText(toJson(preparation_.smartConfig));
     desk_->files.writePreferences(preferences);
 }
 
@@ -144,7 +150,7 @@ bool DesktopSwitchExecutor::comesToRest() const
 
 int DesktopSwitchExecutor::groupOf(const std::string& inputSourceID) const
 {
-    const auto& sources = scenario_.sources;
+    const auto& sources = preparation_.sources;
     const auto found = std::find_if(sources.begin(), sources.end(),
         [&](const auto& source) { return source.id == inputSourceID; });
     return static_cast<int>(found - sources.begin());

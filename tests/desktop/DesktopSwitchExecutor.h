@@ -15,15 +15,15 @@ namespace brindlex {
 
 /// Plays scenarios against the running program, on a desktop with one window for each application.
 ///
-/// A step is done at its time and answered once the program has come to rest. The sources of the
-/// scenario are layouts of the keyboard, one group each.
+/// A step is carried out at its time, and its effects are read once the program has come to rest.
+/// The sources of the scenario are layouts of the keyboard, one group each.
 class DesktopSwitchExecutor : public SwitchScenarioExecutor {
 public:
     void begin(const SwitchScenario& scenario) override;
-    std::vector<SwitchScenarioOutcome> perform(const SwitchScenario::Step& step) override;
+    std::vector<std::string> perform(const SwitchScenario::Step& step) override;
 
-    /// What the program printed and logged, for the words of a failure.
-    std::string report() const;
+    /// What the program printed and logged.
+    std::string report() const override;
 
 private:
     struct Learned {
@@ -35,16 +35,17 @@ private:
     };
 
     void waitFor(Seconds time);
-    void carryOut(const SwitchScenarioEvent::Any& event);
+    void carryOut(const SwitchScenarioStep::Any& step);
+    void start();
     void activate(const std::string& application);
-    void change(const SwitchScenarioEvent::Set& setting);
+    void set(ScenarioWords setting);
     void writePreferences() const;
     bool comesToRest() const;
     int groupOf(const std::string& inputSourceID) const;
     std::vector<Learned> learned() const;
     std::string overlay() const;
 
-    SwitchScenario scenario_;
+    SwitchVerbs::Preparation preparation_;
     std::unique_ptr<ProgramDesk> desk_;
     std::map<std::string, std::unique_ptr<PlainWindow>> windows_;
     std::optional<RunningProgram> program_;

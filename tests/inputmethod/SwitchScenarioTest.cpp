@@ -1,94 +1,72 @@
 #include "support/switching/SwitchScenario.h"
 
-#include "support/basics/TemporaryFolder.h"
+#include "support/scenarios/ScenarioFolder.h"
 #include "support/switching/MemorySwitchExecutor.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cctype>
-
 namespace brindlex {
 namespace {
 
-const std::filesystem::path folder = std::filesystem::path(TESTS) / "inputmethod" / "scenarios";
+class PlayedSwitchScenario : public testing::TestWithParam<std::filesystem::path> { };
 
-class SwitchScenarios : public testing::TestWithParam<std::filesystem::path> { };
-
-TEST_P(SwitchScenarios, playInMemory)
+TEST_P(PlayedSwitchScenario, goesAsItIsWritten)
 {
-    const auto written = contentOf(GetParam());
-    const auto scenario = parseSwitchScenario(written);
-    ASSERT_TRUE(scenario) << scenario.error();
-    ASSERT_TRUE(scenario->players.contains("memory"));
     MemorySwitchExecutor executor;
-    EXPECT_EQ(written, playSwitchScenario(*scenario, executor)) << GetParam();
+    expectGoesAsWritten(GetParam(), executor);
 }
 
-std::string caseName(const testing::TestParamInfo<std::filesystem::path>& file)
-{
-    auto name = file.param.stem().string();
-    std::replace_if(
-        name.begin(), name.end(), [](unsigned char byte) { return !std::isalnum(byte); }, '_');
-    return name;
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Files, SwitchScenarios, testing::ValuesIn(switchScenarioFiles(folder)), caseName);
+INSTANTIATE_TEST_SUITE_P(InMemory, PlayedSwitchScenario,
+    testing::ValuesIn(scenarioFiles(scenarioFolder("inputmethod"), "memory")), scenarioTestName);
 
 TEST(SwitchScenario, existsInNumbersForBothPlayers)
 {
-    std::size_t desktop = 0;
-    const auto files = switchScenarioFiles(folder);
-    for (const auto& file : files) {
-        const auto scenario = parseSwitchScenario(contentOf(file));
-        ASSERT_TRUE(scenario) << file << scenario.error();
-        desktop += scenario->players.contains("desktop");
-    }
-    EXPECT_GE(files.size(), 25u);
-    EXPECT_GE(desktop, 8u);
+    const auto folder = scenarioFolder("inputmethod");
+    EXPECT_EQ(scenarioFiles(folder, "memory"), scenarioFiles(folder));
+    EXPECT_GE(scenarioFiles(folder, "memory").size(), 36u);
+    EXPECT_GE(scenarioFiles(folder, "desktop").size(), 16u);
 }
 
-const std::string head = "plays: memory\nsource: english English\nrule: editor german\n";
-
+/// The text with its real effects, or its problem.
 std::string played(const std::string& text)
 {
-    const auto scenario = parseSwitchScenario(text);
+    const auto scenario = parseScenario<SwitchVerbs>("story.txt", text);
     if (!scenario)
         return scenario.error();
     MemorySwitchExecutor executor;
-    return playSwitchScenario(*scenario, executor);
+    return play(*scenario, executor);
 }
 
-TEST(SwitchScenario, tellsWhatReallyWentOut)
+const std::string preparation = "source english English\nrule editor german\n";
+
+TEST(SwitchScenario, showsWhatReallyWentOut)
 {
-    EXPECT_EQ(played("# A story\n" + head
-                  + "\n0ms start -> nothing true\n9ms activate editor\n10ms wait -> hud x\n"),
-        "# A story\n" + head
-            + "\n0ms start            -> install observers\n"
-              "9ms activate editor  -> select german, hud german\n10ms wait\n");
+    const auto head = "# A story\nnot on desktop: it is made up\n" + preparation;
+    EXPECT_EQ(played(head + "0ms start -> nothing true\n9ms activate editor\n10ms wait -> hud x\n"),
+        head
+            + "\n0ms   start           -> install observers\n"
+              "9ms   activate editor -> select german, hud german\n"
+              "10ms  wait            -> nothing\n");
 }
 
 TEST(SwitchScenario, hidesFromDesktopFilesWhatNobodySees)
 {
-    const std::string desktop = "plays: memory, desktop\nsource: english English\n";
-    EXPECT_EQ(played(desktop + "0ms start -> x\n"), desktop + "0ms start\n");
+    EXPECT_EQ(played(preparation + "0ms start -> x\n"), preparation + "\n0ms  start -> nothing\n");
 }
 
 TEST(SwitchScenario, isRefusedWithTheLineThatIsWrong)
 {
-    EXPECT_EQ(played(head + "0ms sing\n"), "line 4 has an unknown event: 0ms sing");
-    EXPECT_EQ(played(head + "0ms activate\n"), "line 4 has an unknown event: 0ms activate");
-    EXPECT_EQ(played(head + "9ms wait\n8ms wait\n"), "line 5 goes back in time: 8ms wait");
-    EXPECT_EQ(played(head + "0ms wait\nrule: a b\n"),
-        "line 5 is neither of the header nor a step: rule: a b");
-    EXPECT_EQ(played("rules: a b\n"), "line 1 is neither of the header nor a step: rules: a b");
+    const auto refusedStep
+        = [](const std::string& step) { return played(preparation + "0ms " + step + "\n"); };
+    EXPECT_EQ(refusedStep("sing"), "story.txt:3: \"sing\" is unknown");
+    EXPECT_EQ(refusedStep("activate"), "story.txt:3: a word is missing");
+    EXPECT_EQ(refusedStep("set hud maybe"), "story.txt:3: \"maybe\" is unknown");
+    EXPECT_EQ(refusedStep("start now"), "story.txt:3: \"now\" is one word too many");
+    EXPECT_EQ(played("rules a b\n0ms start\n"), "story.txt:1: \"rules\" is unknown");
+    EXPECT_EQ(played("set window 40\n0ms start\n"), "story.txt:1: the setting has no such value");
     EXPECT_EQ(
-        played("set: hud maybe\n"), "line 1 is neither of the header nor a step: set: hud maybe");
-    EXPECT_EQ(
-        played("set: window 40\n"), "line 1 is neither of the header nor a step: set: window 40");
-    EXPECT_EQ(played("1s wait\n"), "line 1 is neither of the header nor a step: 1s wait");
-    EXPECT_EQ(played(head), "the file lacks its players, its sources or its steps");
+        played("set priority none\n0ms start\n"), "story.txt:1: the setting has no such value");
+    EXPECT_EQ(played("rule a b\n0ms start\n"), "story.txt: has no source");
 }
 
 } // namespace

@@ -8,10 +8,10 @@
 
 namespace brindlex {
 
-/// Notes what taps answer, and what is posted, on its way to a real input.
+/// Records what the handlers of taps decide, and what is posted, on its way to a real input.
 class RecordedInput : public EventTapping, public EventPosting {
 public:
-    struct Answer {
+    struct Decision {
         Event event{};
         EventVerdict verdict{};
     };
@@ -27,7 +27,7 @@ public:
         return tapping_.createTap(
             mask, std::move(interests), [this, handler = std::move(handler)](const Event& event) {
                 const auto verdict = handler(event);
-                answers_.push_back({event, verdict});
+                decisions_.push_back({event, verdict});
                 return verdict;
             });
     }
@@ -41,13 +41,13 @@ public:
     }
 
     /// In order; begin afresh.
-    std::vector<Answer> takeAnswers() { return std::exchange(answers_, {}); }
+    std::vector<Decision> takeDecisions() { return std::exchange(decisions_, {}); }
     std::vector<SyntheticEvent> takePosted() { return std::exchange(posted_, {}); }
 
 private:
     EventTapping& tapping_;
     EventPosting& posting_;
-    std::vector<Answer> answers_;
+    std::vector<Decision> decisions_;
     std::vector<SyntheticEvent> posted_;
 };
 

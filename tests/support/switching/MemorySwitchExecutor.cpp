@@ -1,6 +1,7 @@
 #include "support/switching/MemorySwitchExecutor.h"
 
 #include "inputmethod/SwitchReducer.h"
+#include "support/switching/SwitchSettings.h"
 #include "support/switching/SwitchText.h"
 
 #include <utility>
@@ -8,7 +9,7 @@
 namespace brindlex {
 namespace {
 
-using Event = SwitchScenarioEvent;
+using Step = SwitchScenarioStep;
 
 bool isVisible(const SwitchEffect::Any& effect)
 {
@@ -26,42 +27,57 @@ std::size_t switchesOf(const SmartInputMethodConfig& config, const std::string& 
 
 void MemorySwitchExecutor::begin(const SwitchScenario& scenario)
 {
-    config_ = scenario.config;
-    smartConfig_ = scenario.smartConfig;
-    echoDelay_ = scenario.echoDelay;
-    computer_.browsers = scenario.browsers;
-    computer_.frontmostBundleID = scenario.frontmostBundleID;
-    computer_.inputSourceID = scenario.sources.front().id;
-    for (const auto& source : scenario.sources)
+    const auto& preparation = scenario.preparation;
+    showsAll_ = !scenario.file.isPlayedBy("desktop");
+    config_ = preparation.config;
+    smartConfig_ = preparation.smartConfig;
+    echoDelay_ = preparation.echoDelay;
+    computer_.browsers = preparation.browsers;
+    computer_.frontmostBundleID = preparation.frontmostBundleID;
+    computer_.inputSourceID = preparation.sources.front().id;
+    for (const auto& source : preparation.sources)
         computer_.names[source.id] = source.name;
 }
 
-std::vector<SwitchScenarioOutcome> MemorySwitchExecutor::perform(const SwitchScenario::Step& step)
+std::vector<std::string> MemorySwitchExecutor::perform(const SwitchScenario::Step& step)
 {
     passTimeUntil(step.time);
+    carryOut(step.what);
+    return takeEffects();
+}
+
+void MemorySwitchExecutor::carryOut(const SwitchScenarioStep::Any& step)
+{
     match(
-        step.event, [&](const Event::Start&) { dispatch(SwitchEvent::Start{}); },
-        [&](const Event::Stop&) { dispatch(SwitchEvent::Stop{}); },
-        [&](const Event::Activate& activated) {
-            computer_.frontmostBundleID = activated.bundleID;
-            dispatch(SwitchEvent::AppActivated{activated.bundleID});
+        step, [](const Step::Wait&) {}, [&](const Step::Start&) { dispatch(SwitchEvent::Start{}); },
+        [&](const Step::Stop&) { dispatch(SwitchEvent::Stop{}); },
+        [&](const Step::Activate& activation) {
+            computer_.frontmostBundleID = activation.bundleID;
+            dispatch(SwitchEvent::AppActivated{activation.bundleID});
         },
-        [&](const Event::UserSelects& selected) {
-            computer_.inputSourceID = selected.inputSourceID;
+        [&](const Step::UserSelects& selection) {
+            computer_.inputSourceID = selection.inputSourceID;
             dispatch(SwitchEvent::InputSourceChanged{});
         },
-        [&](const Event::ShowPage& page) { computer_.page = page.host; },
-        [&](const Event::Tick&) { dispatch(SwitchEvent::BrowserContextTick{computer_.page}); },
-        [&](const Event::SourceChanged&) { dispatch(SwitchEvent::InputSourceChanged{}); },
-        [&](const Event::Set& setting) { set(setting); },
-        [&](const Event::Refuse& refused) {
+        [&](const Step::ShowPage& page) { computer_.page = page.host; },
+        [&](const Step::Tick&) { dispatch(SwitchEvent::BrowserContextTick{computer_.page}); },
+        [&](const Step::SourceChanged&) { dispatch(SwitchEvent::InputSourceChanged{}); },
+        [&](const Step::Set& change) { set(change.setting); },
+        [&](const Step::Refuse& refused) {
             computer_.refusedSources.insert(refused.inputSourceID);
         },
-        [&](const Event::Accept& accepted) {
+        [&](const Step::Accept& accepted) {
             computer_.refusedSources.erase(accepted.inputSourceID);
-        },
-        [](const Event::Wait&) {});
-    return std::exchange(outcomes_, {});
+        });
+}
+
+std::vector<std::string> MemorySwitchExecutor::takeEffects()
+{
+    std::vector<std::string> effects;
+    for (auto& outcome : std::exchange(outcomes_, {}))
+        if (showsAll_ || outcome.isVisible)
+            effects.push_back(std::move(outcome.text));
+    return effects;
 }
 
 void MemorySwitchExecutor::passTimeUntil(Seconds time)
@@ -88,7 +104,7 @@ void MemorySwitchExecutor::dispatch(const SwitchEvent::Any& event)
     computer_.selections.clear();
     const auto effects = reduce(event, state_, smartConfig_, config_, computer_.environment());
 
-    std::vector<SwitchScenarioOutcome> selections;
+    std::vector<Outcome> selections;
     for (const auto& source : computer_.selections) {
         const bool isRefused = computer_.refusedSources.contains(source);
         selections.push_back({"select " + source + (isRefused ? " refused" : "")});
@@ -109,11 +125,10 @@ void MemorySwitchExecutor::dispatch(const SwitchEvent::Any& event)
             {"learn " + computer_.inputSourceID.value_or("") + " for " + session->app.bundleID});
 }
 
-void MemorySwitchExecutor::set(const SwitchScenarioEvent::Set& setting)
+void MemorySwitchExecutor::set(ScenarioWords setting)
 {
     const auto before = config_;
-    if (!applySetting(setting.name, setting.value, config_, smartConfig_))
-        outcomes_.push_back({"no such setting"});
+    changeSetting(setting, config_, smartConfig_);
     smartConfig_.normalizeStats();
     if (config_.enabled != before.enabled)
         dispatch(SwitchEvent::ConfigEnabledChanged{});

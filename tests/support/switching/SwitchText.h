@@ -9,7 +9,8 @@
 
 namespace brindlex {
 
-/// The words in which tests and scenario files tell what happens to the switching of input sources.
+/// The words in which tests and scenario files describe what happens to the switching of input
+/// sources.
 std::string text(const SwitchEvent::Any& event);
 std::string text(const SwitchEffect::Any& effect);
 std::string text(const InputMethodAutoSwitchContext::Any& context);

@@ -1,5 +1,6 @@
-#include "mouse/PlayedScenarioExecutor.h"
+#include "mouse/HardwareMouseExecutor.h"
 
+#include "mouse/MouseScenarioText.h"
 #include "platform/linux/x11/X11Buttons.h"
 #include "support/hardware/Keycodes.h"
 
@@ -9,9 +10,8 @@
 namespace brindlex {
 namespace {
 
-using Words = ScenarioExecutor::Words;
 using Lines = std::vector<std::string>;
-using scenarioWords::Deed;
+using Input = MouseScenarioStep::Input;
 
 struct ModifierKey {
     std::uint64_t flag;
@@ -30,15 +30,16 @@ bool isOfModifierKey(const std::string& line)
     });
 }
 
-bool isAnsweredBy(const Deed& deed, const Event& event)
+/// Whether the event is what the input has become.
+bool comesFrom(const Input& input, const Event& event)
 {
     const bool isPosted = event.value(EventField::eventSourceUserData) != 0;
-    switch (deed.kind) {
-    case Deed::Kind::down:
+    switch (input.kind) {
+    case Input::Kind::down:
         return !isPosted && isMouseDown(event.type);
-    case Deed::Kind::up:
+    case Input::Kind::up:
         return !isPosted && isMouseUp(event.type);
-    case Deed::Kind::drag:
+    case Input::Kind::drag:
         return !isPosted && isMouseDragged(event.type);
     default:
         return !isPosted && event.type == EventType::scrollWheel;
@@ -65,8 +66,7 @@ void joinScrolls(std::vector<Event>& events)
 
 } // namespace
 
-PlayedScenarioExecutor::Session::Session(const MouseConfig& config)
-    : subsystem(input, input, config)
+HardwareMouseExecutor::Session::Session(const MouseConfig& config) : subsystem(input, input, config)
 {
     // No acceleration: a count of the mouse is a pixel.
     const XConnection server;
@@ -74,70 +74,74 @@ PlayedScenarioExecutor::Session::Session(const MouseConfig& config)
     server.sync();
 }
 
-void PlayedScenarioExecutor::start()
+void HardwareMouseExecutor::begin(const MouseScenario& scenario)
 {
-    if (session_)
-        return;
-    session_ = std::make_unique<Session>(preparation_.config());
-    preparation_.begin(session_->stage);
+    session_ = std::make_unique<Session>(scenario.preparation.config);
+    session_->stage.begin(scenario.preparation);
     session_->desktop.settle();
 }
 
-Lines PlayedScenarioExecutor::run(Seconds at, const Words& words)
+Lines HardwareMouseExecutor::perform(const MouseScenario::Step& step)
 {
-    start();
-    session_->clock.advance(at - session_->clock.continuousTime());
-    session_->stage.advanceTo(at);
+    session_->clock.advance(step.time - session_->clock.continuousTime());
+    session_->stage.advanceTo(step.time);
     auto result = takePosted(false);
-    auto command = words;
-    const int mouse = scenarioWords::takeSecondMouse(command) ? 2 : 1;
-    const auto deed = scenarioWords::deed(command);
-    if (deed) {
-        play(mouse, *deed);
-        const auto verdict = verdictOf(*deed);
-        expect(mouse, *deed, verdict);
-        result.push_back(verdict);
-    } else {
-        session_->stage.carryOut(command);
-    }
+    const auto append
+        = [&](Lines lines) { result.insert(result.end(), lines.begin(), lines.end()); };
+    if (const auto verdict = carryOut(step.what))
+        result.push_back(*verdict);
     session_->desktop.settle();
-    for (auto& text : takePosted(deed && deed->kind == Deed::Kind::wheel))
-        result.push_back(std::move(text));
-    for (auto& text : session_->stage.takeStarted())
-        result.push_back(std::move(text));
-    for (auto& text : takeSurprises())
-        result.push_back(std::move(text));
+    const auto input = std::get_if<Input>(&step.what);
+    append(takePosted(input && input->kind == Input::Kind::wheel));
+    append(session_->stage.takeStarted());
+    append(takeSurprises());
     return result;
 }
 
-Lines PlayedScenarioExecutor::heldAtTheEnd()
+std::optional<std::string> HardwareMouseExecutor::carryOut(const MouseScenarioStep::Any& step)
+{
+    const auto input = std::get_if<Input>(&step);
+    EXPECT_FALSE(std::holds_alternative<MouseScenarioStep::SwitchTapOff>(step)
+        || (input && input->kind == Input::Kind::pixels))
+        << "A step that only a computer in memory carries out";
+    if (const auto change = std::get_if<MouseStageChange::Any>(&step))
+        session_->stage.carryOut(*change);
+    if (!input)
+        return {};
+    play(*input);
+    auto verdict = verdictOf(*input);
+    expect(*input, verdict);
+    return verdict;
+}
+
+Lines HardwareMouseExecutor::heldAtTheEnd()
 {
     holdModifiers(0);
     session_->desktop.settle();
     return session_->desktop.window.held();
 }
 
-void PlayedScenarioExecutor::play(int mouse, const Deed& deed)
+void HardwareMouseExecutor::play(const Input& input)
 {
     auto& desktop = session_->desktop;
-    const auto& device = mouse == 1 ? desktop.mouse : desktop.secondMouse;
-    holdModifiers(deed.flags);
-    if (deed.kind == Deed::Kind::drag)
-        moveTo(mouse, *deed.location);
-    else if (deed.location)
+    const auto& device = input.mouse == 1 ? desktop.mouse : desktop.secondMouse;
+    holdModifiers(input.flags);
+    if (input.kind == Input::Kind::drag)
+        moveTo(input.mouse, *input.location);
+    else if (input.location)
         desktop.window.movePointer(
-            {static_cast<int>(deed.location->x), static_cast<int>(deed.location->y)});
-    if (deed.kind == Deed::Kind::down)
-        device.press(buttonOfNumber(deed.button));
-    else if (deed.kind == Deed::Kind::up)
-        device.release(buttonOfNumber(deed.button));
-    else if (deed.kind == Deed::Kind::wheel)
+            {static_cast<int>(input.location->x), static_cast<int>(input.location->y)});
+    if (input.kind == Input::Kind::down)
+        device.press(buttonOfNumber(input.button));
+    else if (input.kind == Input::Kind::up)
+        device.release(buttonOfNumber(input.button));
+    else if (input.kind == Input::Kind::wheel)
         device.turnWheel(
-            -static_cast<double>(deed.vertical), -static_cast<double>(deed.horizontal));
+            -static_cast<double>(input.vertical), -static_cast<double>(input.horizontal));
     desktop.settle();
 }
 
-void PlayedScenarioExecutor::moveTo(int mouse, Point location)
+void HardwareMouseExecutor::moveTo(int mouse, Point location)
 {
     auto& desktop = session_->desktop;
     const auto before = desktop.window.pointer();
@@ -149,7 +153,7 @@ void PlayedScenarioExecutor::moveTo(int mouse, Point location)
     EXPECT_TRUE(loopUntil([&] { return desktop.window.pointer() == place; }));
 }
 
-void PlayedScenarioExecutor::holdModifiers(std::uint64_t flags)
+void HardwareMouseExecutor::holdModifiers(std::uint64_t flags)
 {
     const auto& keyboard = session_->desktop.keyboard;
     for (const auto& [flag, key] : modifierKeys) {
@@ -166,30 +170,30 @@ void PlayedScenarioExecutor::holdModifiers(std::uint64_t flags)
     session_->desktop.settle();
 }
 
-std::string PlayedScenarioExecutor::verdictOf(const Deed& deed)
+std::string HardwareMouseExecutor::verdictOf(const Input& input)
 {
     int passed = 0;
     int swallowed = 0;
-    for (const auto& answer : session_->input.takeAnswers())
-        if (isAnsweredBy(deed, answer.event))
-            ++(answer.verdict == EventVerdict::pass ? passed : swallowed);
+    for (const auto& decision : session_->input.takeDecisions())
+        if (comesFrom(input, decision.event))
+            ++(decision.verdict == EventVerdict::pass ? passed : swallowed);
     if (passed != 0 && swallowed != 0)
         return "pass and swallow";
     return swallowed != 0 ? "swallow" : "pass";
 }
 
-void PlayedScenarioExecutor::expect(int mouse, const Deed& deed, const std::string& verdict)
+void HardwareMouseExecutor::expect(const Input& input, const std::string& verdict)
 {
-    const auto answer = verdict == "pass" ? EventVerdict::pass : EventVerdict::swallow;
-    if (deed.kind == Deed::Kind::down)
-        expected_.press(mouse, deed.button, deed.flags, answer);
-    else if (deed.kind == Deed::Kind::up)
-        expected_.release(mouse, deed.button, deed.flags);
-    else if (deed.kind == Deed::Kind::wheel && answer == EventVerdict::pass)
-        expected_.turnWheel(deed.vertical, deed.horizontal, deed.flags);
+    const auto decided = verdict == "pass" ? EventVerdict::pass : EventVerdict::swallow;
+    if (input.kind == Input::Kind::down)
+        expected_.press(input.mouse, input.button, input.flags, decided);
+    else if (input.kind == Input::Kind::up)
+        expected_.release(input.mouse, input.button, input.flags);
+    else if (input.kind == Input::Kind::wheel && decided == EventVerdict::pass)
+        expected_.turnWheel(input.vertical, input.horizontal, input.flags);
 }
 
-Lines PlayedScenarioExecutor::takePosted(bool isWheel)
+Lines HardwareMouseExecutor::takePosted(bool isWheel)
 {
     std::vector<Event> events;
     const auto cursor = session_->desktop.window.pointer();
@@ -200,10 +204,10 @@ Lines PlayedScenarioExecutor::takePosted(bool isWheel)
     }
     if (isWheel)
         joinScrolls(events);
-    return scenarioWords::seen(events);
+    return scenarioText(events);
 }
 
-Lines PlayedScenarioExecutor::takeSurprises()
+Lines HardwareMouseExecutor::takeSurprises()
 {
     auto& desktop = session_->desktop;
     const auto expected = expected_.take();

@@ -1,7 +1,6 @@
-#include "mouse/ScenarioStage.h"
+#include "mouse/MouseScenarioStage.h"
 
-#include "foundation/FatalError.h"
-#include "mouse/ScenarioWords.h"
+#include "mouse/MouseScenarioSettings.h"
 
 #include <utility>
 
@@ -14,14 +13,16 @@ constexpr Seconds displayTime = 500;
 
 } // namespace
 
-void ScenarioStage::start()
+void MouseScenarioStage::begin(const MouseVerbs::Preparation& preparation)
 {
+    for (const auto& change : preparation.arrangement)
+        carryOut(change);
     subsystem_.clicks.start();
     subsystem_.gestures.start();
     subsystem_.scrolling.start();
 }
 
-void ScenarioStage::advanceTo(Seconds at)
+void MouseScenarioStage::advanceTo(Seconds at)
 {
     while (subsystem_.displayLink.isRunning()) {
         const auto next = static_cast<double>(frames_ + 1) / frameRate;
@@ -41,36 +42,22 @@ void ScenarioStage::advanceTo(Seconds at)
     frames_ = static_cast<long>(now_ * frameRate);
 }
 
-void ScenarioStage::carryOut(const ScenarioExecutor::Words& words)
+void MouseScenarioStage::carryOut(const MouseStageChange::Any& change)
 {
-    const auto& what = words.at(0);
-    if (what == "wait")
-        return;
-    if (what == "set") {
-        const ScenarioExecutor::Words setting(words.begin() + 1, words.end());
-        subsystem_.edit([&](MouseConfig& config) { scenarioWords::change(config, setting); });
-    } else if (what == "permission") {
-        subsystem_.permissions.set(words.at(1) == "given");
-        subsystem_.permissions.tell();
-    } else if (what == "active") {
-        subsystem_.activation.becomeActive();
-    } else if (what == "front") {
-        bringToFront(words.at(1));
-    } else if (what == "cursor") {
-        showCursor(words.at(1));
-    } else if (what == "window") {
-        const auto size = scenarioWords::point(words.at(2));
-        subsystem_.windows.windows
-            = {{0, 1.0, Rect{scenarioWords::point(words.at(1)), {size.x, size.y}}}};
-    } else if (what == "element") {
-        subsystem_.accessibility.element = std::make_shared<SimulatedElement>();
-        subsystem_.accessibility.element->givenRole = words.at(1);
-    } else {
-        fatalError("A scenario says \"" + what + "\"");
-    }
+    using Change = MouseStageChange;
+    match(
+        change, [&](const Change::Set& changed) { set(changed.setting); },
+        [&](const Change::SetPermission& permission) { setPermission(permission.isGiven); },
+        [&](const Change::Activate&) { subsystem_.activation.becomeActive(); },
+        [&](const Change::BringToFront& front) { bringToFront(front.application); },
+        [&](const Change::ShowCursor& cursor) { showCursor(cursor.name); },
+        [&](const Change::PlaceWindow& window) {
+            subsystem_.windows.windows = {{0, 1.0, window.frame}};
+        },
+        [&](const Change::PlaceElement& element) { placeElement(element.role); });
 }
 
-std::vector<std::string> ScenarioStage::takeStarted()
+std::vector<std::string> MouseScenarioStage::takeStarted()
 {
     std::vector<std::string> texts;
     for (const auto& application : std::exchange(subsystem_.opening.opened, {}))
@@ -84,7 +71,24 @@ std::vector<std::string> ScenarioStage::takeStarted()
     return texts;
 }
 
-void ScenarioStage::bringToFront(const std::string& name)
+void MouseScenarioStage::set(ScenarioWords setting)
+{
+    subsystem_.edit([&](MouseConfig& config) { changeSetting(setting, config); });
+}
+
+void MouseScenarioStage::setPermission(bool isGiven)
+{
+    subsystem_.permissions.set(isGiven);
+    subsystem_.permissions.tell();
+}
+
+void MouseScenarioStage::placeElement(const std::string& role)
+{
+    subsystem_.accessibility.element = std::make_shared<SimulatedElement>();
+    subsystem_.accessibility.element->givenRole = role;
+}
+
+void MouseScenarioStage::bringToFront(const std::string& name)
 {
     RunningApplication application;
     application.processIdentifier = ProcessIdentity{42};
@@ -93,7 +97,7 @@ void ScenarioStage::bringToFront(const std::string& name)
     subsystem_.applications.bringToFront(application);
 }
 
-void ScenarioStage::showCursor(const std::string& name)
+void MouseScenarioStage::showCursor(const std::string& name)
 {
     const CursorImage resize{77, {8, 8}, {16, 16}, "resize"};
     subsystem_.cursor.named[name] = {resize};

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "mouse/MouseScenario.h"
 #include "mouse/MouseSubsystem.h"
-#include "mouse/Scenario.h"
 
 #include <string>
 #include <vector>
@@ -10,24 +10,25 @@ namespace brindlex {
 
 /// What scenarios do with the mouse subsystem apart from its input: time, settings, and the
 /// computer around it. The screen has 60 frames per second.
-class ScenarioStage {
+class MouseScenarioStage {
 public:
-    explicit ScenarioStage(MouseSubsystem& subsystem) : subsystem_(subsystem) { }
+    explicit MouseScenarioStage(MouseSubsystem& subsystem) : subsystem_(subsystem) { }
 
-    /// Starts the managers, as the program does.
-    void start();
+    /// Arranges the computer and starts the managers, as the program does.
+    void begin(const MouseVerbs::Preparation& preparation);
 
     /// Lets time pass until so long after the start.
     void advanceTo(Seconds at);
 
-    /// Carries out a line such as "set gestures off", "permission lost" or "wait". A line that is
-    /// none of these is a fatal error.
-    void carryOut(const ScenarioExecutor::Words& words);
+    void carryOut(const MouseStageChange::Any& change);
 
     /// "open ..." and "launch ...": what was started since the last time.
     std::vector<std::string> takeStarted();
 
 private:
+    void set(ScenarioWords setting);
+    void setPermission(bool isGiven);
+    void placeElement(const std::string& role);
     void bringToFront(const std::string& application);
     void showCursor(const std::string& name);
 

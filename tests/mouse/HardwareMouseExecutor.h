@@ -1,16 +1,15 @@
 #pragma once
 
 #include "mouse/ExpectedArrivals.h"
+#include "mouse/MouseScenario.h"
+#include "mouse/MouseScenarioStage.h"
 #include "mouse/MouseSubsystem.h"
 #include "mouse/RecordedInput.h"
-#include "mouse/Scenario.h"
-#include "mouse/ScenarioPreparation.h"
-#include "mouse/ScenarioStage.h"
-#include "mouse/ScenarioWords.h"
 #include "support/hardware/TappedDesktop.h"
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -20,13 +19,13 @@ namespace brindlex {
 ///
 /// The time is that of the scenario: what is waited for is that all that was played has gone its
 /// way. A window gets what the applications get; whatever it gets that it should not, or misses, is
-/// answered as `arrived ...` and so differs from what is written.
-class PlayedScenarioExecutor : public ScenarioExecutor {
+/// an effect `arrived ...` and so differs from what is written.
+class HardwareMouseExecutor : public MouseScenarioExecutor {
 public:
-    void setUp(const Words& words) override { preparation_.add(words); }
-    std::vector<std::string> run(Seconds at, const Words& words) override;
+    void begin(const MouseScenario& scenario) override;
+    std::vector<std::string> perform(const MouseScenario::Step& step) override;
 
-    /// Lets go of the modifiers; what then is down all the same.
+    /// Releases the modifiers and returns what is down all the same.
     std::vector<std::string> heldAtTheEnd();
 
 private:
@@ -39,19 +38,19 @@ private:
         X11EventPosting posting{desktop.stream, desktop.mainThread, clock};
         RecordedInput input{desktop.tapping, posting};
         MouseSubsystem subsystem;
-        ScenarioStage stage{subsystem};
+        MouseScenarioStage stage{subsystem};
     };
 
-    void start();
-    void play(int mouse, const scenarioWords::Deed& deed);
+    /// What the tap has decided, or nothing when the step is about something else.
+    std::optional<std::string> carryOut(const MouseScenarioStep::Any& step);
+    void play(const MouseScenarioStep::Input& input);
     void moveTo(int mouse, Point location);
     void holdModifiers(std::uint64_t flags);
-    std::string verdictOf(const scenarioWords::Deed& deed);
-    void expect(int mouse, const scenarioWords::Deed& deed, const std::string& verdict);
+    std::string verdictOf(const MouseScenarioStep::Input& input);
+    void expect(const MouseScenarioStep::Input& input, const std::string& verdict);
     std::vector<std::string> takePosted(bool isWheel);
     std::vector<std::string> takeSurprises();
 
-    ScenarioPreparation preparation_;
     std::unique_ptr<Session> session_;
     ExpectedArrivals expected_;
     std::uint64_t heldFlags_ = 0;
