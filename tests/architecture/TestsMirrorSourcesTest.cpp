@@ -2,8 +2,41 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
 namespace brindlex {
 namespace {
+
+/// The sources without a test of their own, by what tests them instead. The simulated computer is
+/// held to the contract tests of its abilities throughout.
+const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheirOwn{
+    {"the contract tests of its ability",
+        {"DesktopApplicationBundles", "Fcitx5InputSources", "IBusInputSources", "PosixClock",
+            "QtProgramActivation", "XkbInputSources"}},
+    {"the desktop tests, with the whole program", {"LinuxEntry", "LinuxPlatform", "main"}},
+    {"the tests of what hangs, with the watchdog as a process",
+        {"InputRescue", "Watchdog", "WatchdogMain"}},
+    {"X11TapSessionTests and the played scenarios, on a real server",
+        {"X11CursorState", "X11DeviceGrabs", "X11Injection", "X11InputDevices", "X11InputEvent",
+            "X11KeyboardMap", "X11KeymapSync", "X11KeysForHand", "X11LentButtons",
+            "X11TappedInput"}},
+    {"every test that opens a window on a real server",
+        {"ActiveScreen", "RoundedRegion", "X11Connection", "X11Properties", "X11WindowActivation",
+            "X11WindowReading", "XkbProtocol"}},
+    {"AccessibleBrowserPagesTest and AccessibleElementTreeTest, with programs behind a real bus",
+        {"AccessibilityReply", "AccessibleElementReader", "AccessiblePageReader"}},
+    {"DesktopInputSourcesTest, with real daemons",
+        {"Fcitx5Method", "IBusConnection", "IBusEngine", "XkbRegistry"}},
+    {"DBusNotificationsTest and DBusProgramInstancesTest, on a real bus",
+        {"DBusAnswer", "DBusSignal", "SessionBus"}},
+    {"PreferenceFileTest", {"FolderLock"}},
+    {"UserDefaultPreferenceKeysTest and the tests of the stores",
+        {"InputMethodPreferenceKeys", "MousePreferenceKeys"}},
+    {"AppLifecycleCoordinatorTest", {"SharedInstances"}},
+};
 
 /// Whether the folder or one inside it has a header whose concept the test is named after, with or
 /// without words that say which side of it.
@@ -29,6 +62,36 @@ TEST(TestsMirrorSources, everyTestHasItsConceptInTheFolderOfTheSameName)
         // What tests share has its subject among the tests.
         EXPECT_TRUE(hasSubject(sources / folder, name) || hasSubject(tests / "support", name))
             << test;
+    }
+}
+
+/// Whether the folder has a test named after the concept, with or without words that say which side
+/// of it.
+bool hasTest(const std::filesystem::path& folder, const std::string& subject)
+{
+    std::error_code problem;
+    for (const auto& item : std::filesystem::directory_iterator(folder, problem)) {
+        const auto name = item.path().stem().string();
+        const bool isTest = name.ends_with("Test") || name.ends_with("Tests");
+        if (isTest && name.starts_with(subject))
+            return true;
+    }
+    return false;
+}
+
+TEST(TestsMirrorSources, everySourceHasATestOrAReasonToHaveNone)
+{
+    std::set<std::string> excused;
+    for (const auto& [reason, names] : sourcesWithoutATestOfTheirOwn)
+        excused.insert(names.begin(), names.end());
+    for (const auto& source : sourceFiles(SOURCES)) {
+        const bool isSimulated = source.parent_path() == "platform/simulated";
+        if (source.extension() != ".cpp" || isSimulated)
+            continue;
+        const auto name = source.stem().string();
+        const auto folder = std::filesystem::path(TESTS) / source.parent_path();
+        EXPECT_NE(hasTest(folder, name), excused.contains(name))
+            << source << " needs a test, or a reason to have none, and not both";
     }
 }
 
