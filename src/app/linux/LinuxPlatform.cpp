@@ -22,11 +22,31 @@ LinuxPlatform::LinuxPlatform(
       eventTapping_(input_), eventPosting_(input_, mainThread_, clock),
       displayLink_(display_, mainThread_, clock), cursor_(display_), elementQueue_("Brindlex.Elem"),
       accessibility_(display_, elementQueue_), windows_(display_), processes_(mainThread_),
-      opening_(display_, activeWindow_, applications_),
-      abilities_{mainThread_, clock, defaults_, userFolders, container, notifications_, instances_,
-          applications_, bundles_, inputSources_, browserPages_, overlayPanel_, activation_,
-          eventPermissions_, eventTapping_, eventPosting_, displayLink_, cursor_, accessibility_,
-          windows_, processes_, opening_}
+      opening_(display_, activeWindow_, applications_), abilities_{
+                                                            .mainThread = mainThread_,
+                                                            .clock = clock,
+                                                            .defaults = defaults_,
+                                                            .userFolders = userFolders,
+                                                            .container = container,
+                                                            .distributedNotifications
+                                                            = notifications_,
+                                                            .instances = instances_,
+                                                            .applications = applications_,
+                                                            .bundles = bundles_,
+                                                            .inputSources = inputSources_,
+                                                            .browserPages = browserPages_,
+                                                            .overlayPanel = overlayPanel_,
+                                                            .activation = activation_,
+                                                            .eventPermissions = eventPermissions_,
+                                                            .eventTapping = eventTapping_,
+                                                            .eventPosting = eventPosting_,
+                                                            .displayLink = displayLink_,
+                                                            .cursor = cursor_,
+                                                            .accessibility = accessibility_,
+                                                            .windows = windows_,
+                                                            .processes = processes_,
+                                                            .opening = opening_,
+                                                        }
 {
 }
 
