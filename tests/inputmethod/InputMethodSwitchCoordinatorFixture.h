@@ -1,8 +1,8 @@
 #pragma once
 
 #include "inputmethod/InputMethodSwitchCoordinator.h"
+#include "platform/simulated/SimulatedComputer.h"
 #include "support/basics/RecordedLog.h"
-#include "support/switching/SimulatedDesktop.h"
 
 #include <gtest/gtest.h>
 
@@ -10,7 +10,7 @@
 
 namespace brindlex {
 
-/// A coordinator on a simulated desktop with two layouts and an editor in front.
+/// A coordinator on a simulated computer with two layouts and an editor in front.
 class InputMethodSwitchCoordinatorTest : public testing::Test {
 protected:
     inline static const std::string us = "xkb:us::eng";
@@ -29,9 +29,9 @@ protected:
 
     InputMethodSwitchCoordinatorTest()
     {
-        desktop.inputSources.install(SimulatedInputSources::keyboard(us, "English (US)"));
-        desktop.inputSources.install(SimulatedInputSources::keyboard(german, "German"));
-        desktop.applications.bringToFront(application(1, "editor"));
+        computer.inputSources.install(SimulatedInputSources::keyboard(us, "English (US)"));
+        computer.inputSources.install(SimulatedInputSources::keyboard(german, "German"));
+        computer.applications.bringToFront(application(1, "editor"));
     }
 
     void change(const std::function<void(InputMethodConfig&)>& edit)
@@ -44,8 +44,8 @@ protected:
     void makeCoordinator()
     {
         coordinator = std::make_unique<InputMethodSwitchCoordinator>(store, smartStore,
-            SwitchAbilities{desktop.mainThread, desktop.clock, desktop.applications,
-                desktop.bundles, desktop.inputSources, desktop.browserPages});
+            SwitchAbilities{computer.mainThread, computer.clock, computer.applications,
+                computer.bundles, computer.inputSources, computer.browserPages});
         coordinator->onSwitch = [this](const std::string& label) { labels.push_back(label); };
     }
 
@@ -53,17 +53,16 @@ protected:
     {
         makeCoordinator();
         coordinator->dispatch(SwitchEvent::Start{});
-        desktop.mainThread.runUntilIdle();
+        computer.mainThread.runUntilIdle();
     }
 
-    std::string selected() { return desktop.inputSources.current()->id.value(); }
+    std::string selected() { return computer.inputSources.current()->id.value(); }
 
     std::vector<SmartInputMethodAppStats> stats() { return smartStore.config().value().appStats; }
 
-    SimulatedSessionServices services;
-    SimulatedDesktop desktop{services};
-    InputMethodConfigStore store{desktop.defaults};
-    SmartInputMethodConfigStore smartStore{desktop.defaults};
+    SimulatedComputer computer;
+    InputMethodConfigStore store{computer.defaults};
+    SmartInputMethodConfigStore smartStore{computer.defaults};
     std::vector<std::string> labels;
     RecordedLog log;
     std::unique_ptr<InputMethodSwitchCoordinator> coordinator;

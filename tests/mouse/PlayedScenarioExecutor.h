@@ -2,11 +2,11 @@
 
 #include "mouse/ExpectedArrivals.h"
 #include "mouse/MouseSubsystem.h"
-#include "mouse/RecordedInput.h"
 #include "mouse/Scenario.h"
 #include "mouse/ScenarioPreparation.h"
 #include "mouse/ScenarioStage.h"
 #include "mouse/ScenarioWords.h"
+#include "platform/simulated/RecordedInput.h"
 #include "support/hardware/TappedDesktop.h"
 
 #include <cstdint>

@@ -2,6 +2,7 @@
 
 #include "foundation/Subscribers.h"
 #include "platform/RunningApplications.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 #include <cstdint>
 #include <optional>
@@ -12,6 +13,8 @@ namespace brindlex {
 /// The applications of a simulated computer. Main thread only.
 class SimulatedApplications final : public RunningApplications {
 public:
+    explicit SimulatedApplications(SimulatedJournal::Writer journal = {}) : journal_(journal) { }
+
     std::optional<RunningApplication> frontmost() const override;
     std::vector<RunningApplication> running() const override { return running_; }
     Subscription observeActivation(ActivationHandler handler) override;
@@ -33,9 +36,10 @@ public:
 private:
     std::vector<RunningApplication>::const_iterator find(std::int64_t processIdentifier) const;
 
+    SimulatedJournal::Writer journal_;
     std::vector<RunningApplication> running_;
     std::optional<std::int64_t> frontmost_;
-    std::optional<std::int64_t> lastTold_;
+    std::optional<std::int64_t> lastNotified_;
     Subscribers<ActivationHandler> observers_;
 };
 

@@ -8,7 +8,8 @@
 
 namespace brindlex {
 
-/// Notes what taps answer, and what is posted, on its way to a real input.
+/// Records the verdicts of taps, and what is posted, on its way to another input, which may be
+/// real. What the other input refuses is not recorded.
 class RecordedInput : public EventTapping, public EventPosting {
 public:
     struct Answer {
