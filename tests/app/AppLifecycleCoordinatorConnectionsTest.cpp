@@ -12,7 +12,7 @@ TEST(AppLifecycleCoordinator, showsTheNameOfASourceFor800Milliseconds)
     SimulatedProgram process;
     process.lifecycle.start();
 
-    process.shared.inputMethodSwitchCoordinator().onSwitch("German");
+    process.shared.inputMethod().switchCoordinator().onSwitch("German");
 
     EXPECT_EQ(process.computer.overlayPanel.text(), "German");
     process.computer.mainThread.advance(0.79);
@@ -31,8 +31,8 @@ TEST(AppLifecycleCoordinator, followsRulesThatAnotherProcessWrites)
     process.shared.preferences().write(&UserDefaultPreferenceKeys::inputMethodConfig, config);
     process.computer.mainThread.runUntilIdle();
 
-    EXPECT_EQ(process.shared.inputMethodConfigStore().config().value(), config);
-    EXPECT_EQ(process.shared.inputMethodSwitchCoordinator().state().lifecycle,
+    EXPECT_EQ(process.shared.inputMethod().configStore().config().value(), config);
+    EXPECT_EQ(process.shared.inputMethod().switchCoordinator().state().lifecycle,
         SwitchState::Lifecycle::stopped);
 }
 
@@ -47,7 +47,7 @@ TEST(AppLifecycleCoordinator, followsMouseSettingsThatAnotherProcessWrites)
     process.shared.preferences().write(&UserDefaultPreferenceKeys::mouseConfig, config);
     process.computer.mainThread.runUntilIdle();
 
-    EXPECT_EQ(process.shared.mouseConfigStore().config().value(), config);
+    EXPECT_EQ(process.shared.mouse().configStore().config().value(), config);
     EXPECT_EQ(process.computer.input.tapMasks(), std::vector<EventMask>{0x400046});
     EXPECT_EQ(process.computer.mouse.scroll(1), EventVerdict::swallow);
     ASSERT_EQ(process.computer.input.delivered().size(), 1U);
@@ -69,7 +69,7 @@ TEST(AppLifecycleCoordinator, startsWithDefaultsWhereTheMouseSettingsAreDamaged)
             "WARN [lifecycle] The preference \"mouseConfig\" cannot be read; the default applies",
             "NOTICE [lifecycle] Brindlex launched",
         }));
-    EXPECT_EQ(process.shared.mouseConfigStore().config().value(), MouseConfig{});
+    EXPECT_EQ(process.shared.mouse().configStore().config().value(), MouseConfig{});
     EXPECT_EQ(process.computer.defaults.value("mouseConfig"), PreferenceValue(damaged));
     EXPECT_EQ(process.computer.input.tapMasks(), std::vector<EventMask>{0x6400000});
 }

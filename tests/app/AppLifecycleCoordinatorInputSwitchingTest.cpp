@@ -25,7 +25,7 @@ struct AppLifecycleCoordinatorInputSwitching : testing::Test, SimulatedProgram {
 TEST_F(AppLifecycleCoordinatorInputSwitching, beginsWithAStartThatShowsItsSwitch)
 {
     // Made and stopped before, so that nothing but the start can be what switches.
-    auto& switching = shared.inputMethodSwitchCoordinator();
+    auto& switching = shared.inputMethod().switchCoordinator();
     switching.dispatch(SwitchEvent::Stop{});
     computer.applications.bringToFront({1, "editor", {}, "Editor"});
     ASSERT_EQ(switching.state().lifecycle, SwitchState::Lifecycle::stopped);

@@ -1,12 +1,10 @@
 #pragma once
 
-#include "inputmethod/InputMethodSwitchCoordinator.h"
+#include "inputmethod/InputMethodSubsystem.h"
 #include "platform/simulated/SimulatedComputer.h"
 #include "support/basics/RecordedLog.h"
 
 #include <gtest/gtest.h>
-
-#include <memory>
 
 namespace brindlex {
 
@@ -43,9 +41,7 @@ protected:
 
     void makeCoordinator()
     {
-        coordinator = std::make_unique<InputMethodSwitchCoordinator>(store, smartStore,
-            SwitchAbilities{computer.mainThread, computer.clock, computer.applications,
-                computer.bundles, computer.inputSources, computer.browserPages});
+        coordinator = &subsystem.switchCoordinator();
         coordinator->onSwitch = [this](const std::string& label) { labels.push_back(label); };
     }
 
@@ -61,11 +57,13 @@ protected:
     std::vector<SmartInputMethodAppStats> stats() { return smartStore.config().value().appStats; }
 
     SimulatedComputer computer;
-    InputMethodConfigStore store{computer.defaults};
-    SmartInputMethodConfigStore smartStore{computer.defaults};
+    InputMethodSubsystem subsystem{computer.platform()};
+    InputMethodConfigStore& store = subsystem.configStore();
+    SmartInputMethodConfigStore& smartStore = subsystem.smartConfigStore();
     std::vector<std::string> labels;
     RecordedLog log;
-    std::unique_ptr<InputMethodSwitchCoordinator> coordinator;
+    /// Null until it is made.
+    InputMethodSwitchCoordinator* coordinator = nullptr;
 };
 
 } // namespace brindlex

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "mouse/ExpectedArrivals.h"
-#include "mouse/MouseSubsystem.h"
+#include "mouse/MouseSession.h"
 #include "mouse/Scenario.h"
 #include "mouse/ScenarioPreparation.h"
 #include "mouse/ScenarioStage.h"
@@ -38,7 +38,7 @@ private:
         SimulatedClock clock;
         X11EventPosting posting{desktop.stream, desktop.mainThread, clock};
         RecordedInput input{desktop.tapping, posting};
-        MouseSubsystem subsystem;
+        MouseSession subsystem;
         ScenarioStage stage{subsystem};
     };
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "mouse/MouseSubsystem.h"
+#include "mouse/MouseSession.h"
 #include "mouse/Scenario.h"
 
 #include <string>
@@ -12,7 +12,7 @@ namespace brindlex {
 /// computer around it. The screen has 60 frames per second.
 class ScenarioStage {
 public:
-    explicit ScenarioStage(MouseSubsystem& subsystem) : subsystem_(subsystem) { }
+    explicit ScenarioStage(MouseSession& subsystem) : subsystem_(subsystem) { }
 
     /// Starts the managers, as the program does.
     void start();
@@ -31,7 +31,7 @@ private:
     void bringToFront(const std::string& application);
     void showCursor(const std::string& name);
 
-    MouseSubsystem& subsystem_;
+    MouseSession& subsystem_;
     Seconds now_ = 0;
     long frames_ = 0;
 };
