@@ -8,7 +8,7 @@
 namespace brindlex {
 namespace {
 
-/// How long the label of an automatic switch, or the answer to a second launch, stays.
+/// How long the label of an automatic switch, or the reply to a second launch, stays.
 constexpr Seconds overlayDuration = 0.8;
 
 } // namespace
@@ -27,9 +27,9 @@ void AppLifecycleCoordinator::start()
     seedDefaults(platform_.defaults, shared_.preferences().keys());
     observeShowRequests();
     startInputSwitching();
-    shared_.mouseClickManager().start();
-    shared_.mouseGestureManager().start();
-    shared_.mouseScrollManager().start();
+    shared_.mouse().clickManager().start();
+    shared_.mouse().gestureManager().start();
+    shared_.mouse().scrollManager().start();
     isStarted_ = true;
     Log::notice("Brindlex launched", logCategory::lifecycle);
 }
@@ -37,10 +37,10 @@ void AppLifecycleCoordinator::start()
 void AppLifecycleCoordinator::stop()
 {
     Log::notice("Brindlex will terminate", logCategory::lifecycle);
-    shared_.inputMethodSwitchCoordinator().dispatch(SwitchEvent::Stop{});
-    shared_.mouseClickManager().tearDown();
-    shared_.mouseGestureManager().tearDown();
-    shared_.mouseScrollManager().tearDown();
+    shared_.inputMethod().switchCoordinator().dispatch(SwitchEvent::Stop{});
+    shared_.mouse().clickManager().tearDown();
+    shared_.mouse().gestureManager().tearDown();
+    shared_.mouse().scrollManager().tearDown();
     showRequests_.reset();
 }
 
@@ -74,7 +74,7 @@ void AppLifecycleCoordinator::observeShowRequests()
 
 void AppLifecycleCoordinator::startInputSwitching()
 {
-    auto& switching = shared_.inputMethodSwitchCoordinator();
+    auto& switching = shared_.inputMethod().switchCoordinator();
     switching.onSwitch = [this](const std::string& label) {
         shared_.overlayHUDController().show(label, overlayDuration);
     };

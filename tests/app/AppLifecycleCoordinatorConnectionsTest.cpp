@@ -1,7 +1,6 @@
 #include "app/AppLifecycleCoordinator.h"
 
-#include "log/LoggedProcess.h"
-#include "platform/simulated/SimulatedMouse.h"
+#include "app/SimulatedProgram.h"
 
 #include <gtest/gtest.h>
 
@@ -10,59 +9,58 @@ namespace {
 
 TEST(AppLifecycleCoordinator, showsTheNameOfASourceFor800Milliseconds)
 {
-    LoggedProcess process;
+    SimulatedProgram process;
     process.lifecycle.start();
 
-    process.shared.inputMethodSwitchCoordinator().onSwitch("German");
+    process.shared.inputMethod().switchCoordinator().onSwitch("German");
 
-    EXPECT_EQ(process.desktop.overlayPanel.text(), "German");
-    process.desktop.mainThread.advance(0.79);
-    EXPECT_FALSE(process.desktop.overlayPanel.isFading());
-    process.desktop.mainThread.advance(0.01);
-    EXPECT_TRUE(process.desktop.overlayPanel.isFading());
+    EXPECT_EQ(process.computer.overlayPanel.text(), "German");
+    process.computer.mainThread.advance(0.79);
+    EXPECT_FALSE(process.computer.overlayPanel.isFading());
+    process.computer.mainThread.advance(0.01);
+    EXPECT_TRUE(process.computer.overlayPanel.isFading());
 }
 
 TEST(AppLifecycleCoordinator, followsRulesThatAnotherProcessWrites)
 {
-    LoggedProcess process;
+    SimulatedProgram process;
     process.lifecycle.start();
     InputMethodConfig config;
     config.enabled = false;
 
     process.shared.preferences().write(&UserDefaultPreferenceKeys::inputMethodConfig, config);
-    process.desktop.mainThread.runUntilIdle();
+    process.computer.mainThread.runUntilIdle();
 
-    EXPECT_EQ(process.shared.inputMethodConfigStore().config().value(), config);
-    EXPECT_EQ(process.shared.inputMethodSwitchCoordinator().state().lifecycle,
+    EXPECT_EQ(process.shared.inputMethod().configStore().config().value(), config);
+    EXPECT_EQ(process.shared.inputMethod().switchCoordinator().state().lifecycle,
         SwitchState::Lifecycle::stopped);
 }
 
 TEST(AppLifecycleCoordinator, followsMouseSettingsThatAnotherProcessWrites)
 {
-    LoggedProcess process;
+    SimulatedProgram process;
     process.lifecycle.start();
     auto config = leftGesture();
     config.click.enabled = false;
     config.scroll.invertVertical = true;
 
     process.shared.preferences().write(&UserDefaultPreferenceKeys::mouseConfig, config);
-    process.desktop.mainThread.runUntilIdle();
+    process.computer.mainThread.runUntilIdle();
 
-    EXPECT_EQ(process.shared.mouseConfigStore().config().value(), config);
-    EXPECT_EQ(process.desktop.input.tapMasks(), std::vector<EventMask>{0x400046});
-    SimulatedMouse mouse(process.desktop.input);
-    EXPECT_EQ(mouse.scroll(1), EventVerdict::swallow);
-    ASSERT_EQ(process.desktop.input.delivered().size(), 1U);
+    EXPECT_EQ(process.shared.mouse().configStore().config().value(), config);
+    EXPECT_EQ(process.computer.input.tapMasks(), std::vector<EventMask>{0x400046});
+    EXPECT_EQ(process.computer.mouse.scroll(1), EventVerdict::swallow);
+    ASSERT_EQ(process.computer.input.delivered().size(), 1U);
     EXPECT_EQ(
-        process.desktop.input.delivered()[0].value(EventField::scrollWheelEventPointDeltaAxis1),
+        process.computer.input.delivered()[0].value(EventField::scrollWheelEventPointDeltaAxis1),
         -10);
 }
 
 TEST(AppLifecycleCoordinator, startsWithDefaultsWhereTheMouseSettingsAreDamaged)
 {
-    LoggedProcess process;
+    SimulatedProgram process;
     const std::string damaged = R"({"value":{"click":{"enabled":true,"bindings":[{}]}}})";
-    process.desktop.defaults.set("mouseConfig", damaged);
+    process.computer.defaults.set("mouseConfig", damaged);
 
     process.lifecycle.start();
 
@@ -71,9 +69,9 @@ TEST(AppLifecycleCoordinator, startsWithDefaultsWhereTheMouseSettingsAreDamaged)
             "WARN [lifecycle] The preference \"mouseConfig\" cannot be read; the default applies",
             "NOTICE [lifecycle] Brindlex launched",
         }));
-    EXPECT_EQ(process.shared.mouseConfigStore().config().value(), MouseConfig{});
-    EXPECT_EQ(process.desktop.defaults.value("mouseConfig"), PreferenceValue(damaged));
-    EXPECT_EQ(process.desktop.input.tapMasks(), std::vector<EventMask>{0x6400000});
+    EXPECT_EQ(process.shared.mouse().configStore().config().value(), MouseConfig{});
+    EXPECT_EQ(process.computer.defaults.value("mouseConfig"), PreferenceValue(damaged));
+    EXPECT_EQ(process.computer.input.tapMasks(), std::vector<EventMask>{0x6400000});
 }
 
 } // namespace

@@ -1,7 +1,6 @@
 #include "app/AppLifecycleCoordinator.h"
 
-#include "support/basics/RecordedLog.h"
-#include "support/switching/SimulatedDesktop.h"
+#include "app/SimulatedProgram.h"
 
 #include <gtest/gtest.h>
 
@@ -12,46 +11,40 @@ const std::string us = "xkb:us::eng";
 const std::string german = "xkb:de::deu";
 
 /// A program that has not been started, on a computer with two layouts and a rule for the editor.
-struct AppLifecycleCoordinatorInputSwitching : testing::Test {
+struct AppLifecycleCoordinatorInputSwitching : testing::Test, SimulatedProgram {
     AppLifecycleCoordinatorInputSwitching()
     {
-        desktop.inputSources.install(SimulatedInputSources::keyboard(us, "English (US)"));
-        desktop.inputSources.install(SimulatedInputSources::keyboard(german, "German"));
+        computer.inputSources.install(SimulatedInputSources::keyboard(us, "English (US)"));
+        computer.inputSources.install(SimulatedInputSources::keyboard(german, "German"));
         InputMethodConfig config;
         config.rules = {{Uuid::random(), {"editor", "Editor", {}}, german}};
         shared.preferences().write(&UserDefaultPreferenceKeys::inputMethodConfig, config);
     }
-
-    SimulatedSessionServices services;
-    SimulatedDesktop desktop{services};
-    RecordedLog log;
-    SharedInstances shared{desktop.platform};
-    AppLifecycleCoordinator lifecycle{desktop.platform, shared};
 };
 
 TEST_F(AppLifecycleCoordinatorInputSwitching, beginsWithAStartThatShowsItsSwitch)
 {
     // Made and stopped before, so that nothing but the start can be what switches.
-    auto& switching = shared.inputMethodSwitchCoordinator();
+    auto& switching = shared.inputMethod().switchCoordinator();
     switching.dispatch(SwitchEvent::Stop{});
-    desktop.applications.bringToFront({ProcessIdentity{1}, "editor", {}, "Editor"});
+    computer.applications.bringToFront({ProcessIdentity{1}, "editor", {}, "Editor"});
     ASSERT_EQ(switching.state().lifecycle, SwitchState::Lifecycle::stopped);
 
     lifecycle.start();
 
     EXPECT_EQ(switching.state().lifecycle, SwitchState::Lifecycle::observing);
-    EXPECT_EQ(desktop.inputSources.attempts(), std::vector<std::string>{german});
-    EXPECT_EQ(desktop.overlayPanel.calls(), std::vector<std::string>{"show German"});
+    EXPECT_EQ(computer.inputSources.attempts(), std::vector<std::string>{german});
+    EXPECT_EQ(computer.overlayPanel.calls(), std::vector<std::string>{"show German"});
 }
 
 TEST_F(AppLifecycleCoordinatorInputSwitching, switchesInSilenceWhereTheFirstLookFindsTheRule)
 {
-    desktop.applications.bringToFront({ProcessIdentity{1}, "editor", {}, "Editor"});
+    computer.applications.bringToFront({ProcessIdentity{1}, "editor", {}, "Editor"});
 
     lifecycle.start();
 
-    EXPECT_EQ(desktop.inputSources.attempts(), std::vector<std::string>{german});
-    EXPECT_EQ(desktop.overlayPanel.calls(), std::vector<std::string>{})
+    EXPECT_EQ(computer.inputSources.attempts(), std::vector<std::string>{german});
+    EXPECT_EQ(computer.overlayPanel.calls(), std::vector<std::string>{})
         << "the switch came with the construction, before anybody asked to be told";
 }
 

@@ -1,6 +1,6 @@
 #include "app/AppLifecycleCoordinator.h"
 
-#include "app/JournalledProcess.h"
+#include "app/SimulatedProgram.h"
 
 #include <gtest/gtest.h>
 
@@ -9,56 +9,57 @@ namespace {
 
 TEST(AppLifecycleCoordinator, wakesTheFirstInstanceAndStartsNothing)
 {
-    SimulatedSessionServices services;
-    JournalledProcess first(services);
+    const auto services = std::make_shared<SimulatedSessionServices>();
+    SimulatedProgram first(services);
     first.lifecycle.start();
-    JournalledProcess second(services);
+    SimulatedProgram second(services);
 
     second.lifecycle.start();
 
-    EXPECT_EQ(second.journal.entries,
+    EXPECT_EQ(second.journal.entries(),
         (std::vector<std::string>{
+            "observe preferences",
             "list com.brindlex.Brindlex",
             "post com.brindlex.Brindlex.showMainWindow com.brindlex.Brindlex",
-            "activate the other",
+            "activate " + std::to_string(first.computer.instances.current()),
             "terminate",
         }));
     EXPECT_FALSE(second.lifecycle.isStarted());
-    EXPECT_TRUE(second.desktop.instances.isTerminating());
-    EXPECT_EQ(services.session.activated,
-        std::vector<ProgramInstances::ProcessIdentifier>{first.desktop.instances.current()});
+    EXPECT_TRUE(second.computer.instances.isTerminating());
+    EXPECT_EQ(services->session.activated,
+        std::vector<ProgramInstances::ProcessIdentifier>{first.computer.instances.current()});
 }
 
 TEST(AppLifecycleCoordinator, answersASecondLaunchBeforeTheUsersEyes)
 {
-    SimulatedSessionServices services;
-    JournalledProcess first(services);
+    const auto services = std::make_shared<SimulatedSessionServices>();
+    SimulatedProgram first(services);
     first.lifecycle.start();
-    JournalledProcess second(services);
+    SimulatedProgram second(services);
     second.lifecycle.start();
 
-    first.desktop.mainThread.runUntilIdle();
+    first.computer.mainThread.runUntilIdle();
 
-    EXPECT_EQ(first.desktop.overlayPanel.calls(), std::vector<std::string>{"show Brindlex"});
-    first.desktop.mainThread.advance(0.8);
-    EXPECT_TRUE(first.desktop.overlayPanel.isFading());
+    EXPECT_EQ(first.computer.overlayPanel.calls(), std::vector<std::string>{"show Brindlex"});
+    first.computer.mainThread.advance(0.8);
+    EXPECT_TRUE(first.computer.overlayPanel.isFading());
 }
 
 TEST(AppLifecycleCoordinator, doesNotLookForOthersAfterAChangeOfLanguage)
 {
-    SimulatedSessionServices services;
-    JournalledProcess first(services);
+    const auto services = std::make_shared<SimulatedSessionServices>();
+    SimulatedProgram first(services);
     first.lifecycle.start();
-    JournalledProcess relaunched(services);
+    SimulatedProgram relaunched(services);
     relaunched.shared.preferences().write(
         &UserDefaultPreferenceKeys::shouldRestoreFocusAfterLanguageRelaunch, true);
-    relaunched.journal.entries.clear();
+    relaunched.journal.take();
 
     relaunched.lifecycle.start();
 
     EXPECT_TRUE(relaunched.lifecycle.isStarted());
-    EXPECT_EQ(relaunched.journal.entries.front(), "container");
-    EXPECT_EQ(relaunched.journal.entries.back(), "log NOTICE [lifecycle] Brindlex launched");
+    EXPECT_EQ(relaunched.journal.entries().front(), "container");
+    EXPECT_EQ(relaunched.journal.entries().back(), "log NOTICE [lifecycle] Brindlex launched");
 }
 
 } // namespace

@@ -1,7 +1,7 @@
 #include "app/AppLifecycleCoordinator.h"
 
-#include "app/JournalledProcess.h"
-#include "log/LoggedProcess.h"
+#include "app/SimulatedProgram.h"
+#include "support/basics/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,10 @@ namespace brindlex {
 namespace {
 
 const std::vector<std::string> wholeStart{
+    "observe preferences",
     "list com.brindlex.Brindlex",
+    "container",
+    "container",
     "container",
     "prune",
     "set selectedMainWindowTab",
@@ -28,57 +31,74 @@ const std::vector<std::string> wholeStart{
     "set clipboardHotkey",
     "set shouldRestoreFocusAfterLanguageRelaunch",
     "observe com.brindlex.Brindlex.showMainWindow com.brindlex.Brindlex",
+    // Each event of the switching writes the learning record twice: both settings, and the start.
+    "set smartInputMethodConfig",
     "set smartInputMethodConfig",
     "observe activations",
+    "observe selection",
+    "observe enabled sources",
     "set smartInputMethodConfig",
+    "set smartInputMethodConfig",
+    "set smartInputMethodConfig",
+    "set smartInputMethodConfig",
+    "observe permissions",
+    "observe becoming active",
     "tap 0x6000000",
+    "tap on",
+    "tap off",
     "tap ends",
     "tap 0x6400000",
+    "tap on",
     "log NOTICE [lifecycle] Brindlex launched",
 };
 
 TEST(AppLifecycleCoordinator, startsEverythingInItsOrder)
 {
-    SimulatedSessionServices services;
-    JournalledProcess process(services);
+    const TemporaryFolder container;
+    SimulatedProgram process;
+    process.computer.container.setFolder(container.path());
 
     process.lifecycle.start();
 
-    EXPECT_EQ(process.journal.entries, wholeStart);
+    EXPECT_EQ(process.journal.entries(), wholeStart);
     EXPECT_TRUE(process.lifecycle.isStarted());
     for (const auto* folder : {"Logs", "Config", "Pending"})
-        EXPECT_TRUE(is_directory(process.container.folder_.path() / folder)) << folder;
+        EXPECT_TRUE(is_directory(container.path() / folder)) << folder;
 }
 
 TEST(AppLifecycleCoordinator, stopsEverythingInItsOrder)
 {
-    SimulatedSessionServices services;
-    JournalledProcess process(services);
+    SimulatedProgram process;
     process.lifecycle.start();
-    process.journal.entries.clear();
+    process.journal.take();
 
     process.lifecycle.stop();
 
-    EXPECT_EQ(process.journal.entries,
+    EXPECT_EQ(process.journal.entries(),
         (std::vector<std::string>{
             "log NOTICE [lifecycle] Brindlex will terminate",
             "set smartInputMethodConfig",
+            "set smartInputMethodConfig",
             "observe activations no more",
+            "observe selection no more",
+            "observe enabled sources no more",
+            "tap off",
             "tap ends",
             "tap 0x400000",
+            "tap on",
+            "tap off",
             "tap ends",
-            "observe no more",
+            "observe com.brindlex.Brindlex.showMainWindow com.brindlex.Brindlex no more",
         }));
 }
 
 TEST(AppLifecycleCoordinator, startsAndStopsClicksBeforeGesturesBeforeTheWheel)
 {
-    SimulatedSessionServices services;
-    JournalledProcess process(services);
+    SimulatedProgram process;
     process.shared.preferences().write(&UserDefaultPreferenceKeys::mouseConfig, leftGesture());
     const auto taps = [&] {
         std::vector<std::string> made;
-        for (const auto& entry : std::exchange(process.journal.entries, {}))
+        for (const auto& entry : process.journal.take())
             if (entry.starts_with("tap 0x"))
                 made.push_back(entry);
         return made;
@@ -94,28 +114,38 @@ TEST(AppLifecycleCoordinator, startsAndStopsClicksBeforeGesturesBeforeTheWheel)
 
 TEST(AppLifecycleCoordinator, stopsWithoutHavingStarted)
 {
-    SimulatedSessionServices services;
-    JournalledProcess process(services);
+    SimulatedProgram process;
 
     process.lifecycle.stop();
 
-    EXPECT_EQ(process.journal.entries,
+    EXPECT_EQ(process.journal.entries(),
         (std::vector<std::string>{
+            "observe preferences",
             "log NOTICE [lifecycle] Brindlex will terminate",
             // The switching observes from its first use on, which is this one.
             "set smartInputMethodConfig",
+            "set smartInputMethodConfig",
             "observe activations",
+            "observe selection",
+            "observe enabled sources",
+            "set smartInputMethodConfig",
+            "set smartInputMethodConfig",
+            "set smartInputMethodConfig",
             "set smartInputMethodConfig",
             "observe activations no more",
+            "observe selection no more",
+            "observe enabled sources no more",
+            "observe permissions",
+            "observe becoming active",
         }));
     EXPECT_FALSE(process.shared.globalEventTap().isLive());
 }
 
 TEST(AppLifecycleCoordinator, goesOnWithManagersThatMayNotStart)
 {
-    LoggedProcess process;
+    SimulatedProgram process;
     process.shared.preferences().write(&UserDefaultPreferenceKeys::mouseConfig, leftGesture());
-    process.desktop.eventPermissions.set(false);
+    process.computer.eventPermissions.set(false);
 
     process.lifecycle.start();
 
@@ -129,23 +159,23 @@ TEST(AppLifecycleCoordinator, goesOnWithManagersThatMayNotStart)
             "starting",
             "NOTICE [lifecycle] Brindlex launched",
         }));
-    EXPECT_EQ(process.desktop.input.tapMasks(), std::vector<EventMask>{});
+    EXPECT_EQ(process.computer.input.tapMasks(), std::vector<EventMask>{});
 
-    process.desktop.eventPermissions.set(true);
-    process.desktop.mainThread.advance(2);
-    EXPECT_EQ(process.desktop.input.tapMasks(), std::vector<EventMask>{0x6400046});
+    process.computer.eventPermissions.set(true);
+    process.computer.mainThread.advance(2);
+    EXPECT_EQ(process.computer.input.tapMasks(), std::vector<EventMask>{0x6400046});
     EXPECT_EQ(process.log.takeLines(), std::vector<std::string>{});
 }
 
 TEST(AppLifecycleCoordinator, goesOnWithoutAContainer)
 {
-    LoggedProcess process;
+    SimulatedProgram process;
 
     process.lifecycle.start();
 
     EXPECT_EQ(
         process.log.lines(), std::vector<std::string>{"NOTICE [lifecycle] Brindlex launched"});
-    EXPECT_EQ(process.log.prunes(), std::vector<Date>{process.desktop.clock.now()});
+    EXPECT_EQ(process.log.prunes(), std::vector<Date>{process.computer.clock.now()});
 }
 
 } // namespace

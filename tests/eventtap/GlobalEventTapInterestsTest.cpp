@@ -73,40 +73,14 @@ TEST_F(GlobalEventTapInterestsTest, changedWithoutATapCountForTheNextOne)
     EXPECT_EQ(mouse.press(4), EventVerdict::swallow);
 }
 
-/// A tapping that notes what is done to its taps, and keeps the newest handler.
-class NotedTapping : public EventTapping {
-public:
-    std::unique_ptr<EventTap> createTap(
-        EventMask mask, std::vector<EventInterest>, Handler given) override
-    {
-        notes.push_back("made " + std::to_string(mask));
-        handler = std::move(given);
-        return std::make_unique<Tap>(notes);
-    }
-
-    Lines notes;
-    Handler handler;
-
-private:
-    class Tap : public EventTap {
-    public:
-        explicit Tap(Lines& notes) : notes_(notes) { }
-        ~Tap() override { notes_.emplace_back("gone"); }
-        void setEnabled(bool isEnabled) override { notes_.emplace_back(isEnabled ? "on" : "off"); }
-        void setInterests(std::vector<EventInterest>) override { notes_.emplace_back("interests"); }
-
-    private:
-        Lines& notes_;
-    };
-};
-
 class GlobalEventTapsLifeTest : public testing::Test {
 protected:
     RecordedLog log;
-    NotedTapping tapping;
+    SimulatedJournal journal;
+    SimulatedInput input{SimulatedInput::TapPlace::session, &journal};
     SimulatedEventPermissions permissions;
     SimulatedProgramActivation activation;
-    GlobalEventTap tap{tapping, permissions, activation};
+    GlobalEventTap tap{input, permissions, activation};
 };
 
 TEST_F(GlobalEventTapsLifeTest, isSwitchedOffBeforeItGoes)
@@ -117,25 +91,25 @@ TEST_F(GlobalEventTapsLifeTest, isSwitchedOffBeforeItGoes)
     permissions.set(false);
     permissions.tell();
 
-    EXPECT_EQ(tapping.notes,
-        (Lines{"made 1024", "on", "off", "gone", "made 4195328", "on", "off", "gone",
-            "made 4194304", "on", "off", "gone"}));
+    EXPECT_EQ(journal.entries(),
+        (Lines{"tap 0x400", "tap on", "tap off", "tap ends", "tap 0x400400", "tap on", "tap off",
+            "tap ends", "tap 0x400000", "tap on", "tap off", "tap ends"}));
 }
 
 TEST_F(GlobalEventTapsLifeTest, doesNotBeginAgainByWordOfATapThatIsGone)
 {
     tap.subscribe(1024, swallowing);
-    const auto handler = tapping.handler;
+    const auto handler = input.newestHandler();
     permissions.set(false);
     permissions.tell();
     log.takeLines();
-    tapping.notes.clear();
+    journal.take();
 
     for (const auto type : {EventType::tapDisabledByTimeout, EventType::tapDisabledByUserInput})
         EXPECT_EQ(handler({type, {}, 0, {}}), EventVerdict::pass);
 
     EXPECT_EQ(log.lines(), Lines{});
-    EXPECT_EQ(tapping.notes, Lines{});
+    EXPECT_EQ(journal.entries(), Lines{});
 }
 
 } // namespace

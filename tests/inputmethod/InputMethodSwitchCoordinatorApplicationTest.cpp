@@ -5,14 +5,14 @@ namespace {
 
 TEST_F(InputMethodSwitchCoordinatorTest, takesTheNameOfAnApplicationFromItsBundle)
 {
-    desktop.bundles.install("/apps/mail.desktop", {"mail", "Mail & News", "Mail", {}});
+    computer.bundles.install("/apps/mail.desktop", {"mail", "Mail & News", "Mail", {}});
     auto mail = application(2, "mail");
     mail.bundlePath = "/apps/mail.desktop";
-    desktop.applications.bringToFront(mail);
+    computer.applications.bringToFront(mail);
     start();
 
-    desktop.inputSources.userSelects(german);
-    desktop.mainThread.runUntilIdle();
+    computer.inputSources.userSelects(german);
+    computer.mainThread.runUntilIdle();
 
     ASSERT_EQ(stats().size(), 1u);
     EXPECT_EQ(stats()[0].app, (AppIdentifier{"mail", "Mail & News", {}}));
@@ -23,11 +23,11 @@ TEST_F(InputMethodSwitchCoordinatorTest, fallsBackToWhatTheRunningApplicationSay
     auto broken = application(2, "broken");
     broken.bundlePath = "/apps/gone.desktop";
     broken.localizedName = {};
-    desktop.applications.bringToFront(broken);
+    computer.applications.bringToFront(broken);
     start();
 
-    desktop.inputSources.userSelects(german);
-    desktop.mainThread.runUntilIdle();
+    computer.inputSources.userSelects(german);
+    computer.mainThread.runUntilIdle();
 
     ASSERT_EQ(stats().size(), 1u);
     EXPECT_EQ(stats()[0].app, (AppIdentifier{"broken", "broken", {}}));
@@ -35,12 +35,12 @@ TEST_F(InputMethodSwitchCoordinatorTest, fallsBackToWhatTheRunningApplicationSay
 
 TEST_F(InputMethodSwitchCoordinatorTest, takesTheApplicationInFrontBeforeOthersOfItsIdentifier)
 {
-    desktop.applications.launch({ProcessIdentity{2}, "mail", {}, "Mail behind"});
-    desktop.applications.bringToFront({ProcessIdentity{3}, "mail", {}, "Mail in front"});
+    computer.applications.launch({ProcessIdentity{2}, "mail", {}, "Mail behind"});
+    computer.applications.bringToFront({ProcessIdentity{3}, "mail", {}, "Mail in front"});
     start();
 
-    desktop.inputSources.userSelects(german);
-    desktop.mainThread.runUntilIdle();
+    computer.inputSources.userSelects(german);
+    computer.mainThread.runUntilIdle();
 
     ASSERT_EQ(stats().size(), 1u);
     EXPECT_EQ(stats()[0].app, (AppIdentifier{"mail", "Mail in front", {}}));
@@ -48,8 +48,8 @@ TEST_F(InputMethodSwitchCoordinatorTest, takesTheApplicationInFrontBeforeOthersO
 
 TEST_F(InputMethodSwitchCoordinatorTest, takesTheFirstRunningApplicationOfAnIdentifierNotInFront)
 {
-    desktop.applications.launch({ProcessIdentity{2}, "mail", {}, "First mail"});
-    desktop.applications.launch({ProcessIdentity{3}, "mail", {}, "Second mail"});
+    computer.applications.launch({ProcessIdentity{2}, "mail", {}, "First mail"});
+    computer.applications.launch({ProcessIdentity{3}, "mail", {}, "Second mail"});
     start();
 
     coordinator->dispatch(SwitchEvent::AppActivated{"mail"});

@@ -1,16 +1,14 @@
 #pragma once
 
-#include "inputmethod/InputMethodSwitchCoordinator.h"
+#include "inputmethod/InputMethodSubsystem.h"
+#include "platform/simulated/SimulatedComputer.h"
 #include "support/basics/RecordedLog.h"
-#include "support/switching/SimulatedDesktop.h"
 
 #include <gtest/gtest.h>
 
-#include <memory>
-
 namespace brindlex {
 
-/// A coordinator on a simulated desktop with two layouts and an editor in front.
+/// A coordinator on a simulated computer with two layouts and an editor in front.
 class InputMethodSwitchCoordinatorTest : public testing::Test {
 protected:
     inline static const std::string us = "xkb:us::eng";
@@ -29,9 +27,9 @@ protected:
 
     InputMethodSwitchCoordinatorTest()
     {
-        desktop.inputSources.install(SimulatedInputSources::keyboard(us, "English (US)"));
-        desktop.inputSources.install(SimulatedInputSources::keyboard(german, "German"));
-        desktop.applications.bringToFront(application(1, "editor"));
+        computer.inputSources.install(SimulatedInputSources::keyboard(us, "English (US)"));
+        computer.inputSources.install(SimulatedInputSources::keyboard(german, "German"));
+        computer.applications.bringToFront(application(1, "editor"));
     }
 
     void change(const std::function<void(InputMethodConfig&)>& edit)
@@ -43,9 +41,7 @@ protected:
 
     void makeCoordinator()
     {
-        coordinator = std::make_unique<InputMethodSwitchCoordinator>(store, smartStore,
-            SwitchAbilities{desktop.mainThread, desktop.clock, desktop.applications,
-                desktop.bundles, desktop.inputSources, desktop.browserPages});
+        coordinator = &subsystem.switchCoordinator();
         coordinator->onSwitch = [this](const std::string& label) { labels.push_back(label); };
     }
 
@@ -53,20 +49,21 @@ protected:
     {
         makeCoordinator();
         coordinator->dispatch(SwitchEvent::Start{});
-        desktop.mainThread.runUntilIdle();
+        computer.mainThread.runUntilIdle();
     }
 
-    std::string selected() { return desktop.inputSources.current()->id.value(); }
+    std::string selected() { return computer.inputSources.current()->id.value(); }
 
     std::vector<SmartInputMethodAppStats> stats() { return smartStore.config().value().appStats; }
 
-    SimulatedSessionServices services;
-    SimulatedDesktop desktop{services};
-    InputMethodConfigStore store{desktop.defaults};
-    SmartInputMethodConfigStore smartStore{desktop.defaults};
+    SimulatedComputer computer;
+    InputMethodSubsystem subsystem{computer.platform()};
+    InputMethodConfigStore& store = subsystem.configStore();
+    SmartInputMethodConfigStore& smartStore = subsystem.smartConfigStore();
     std::vector<std::string> labels;
     RecordedLog log;
-    std::unique_ptr<InputMethodSwitchCoordinator> coordinator;
+    /// Null until it is made.
+    InputMethodSwitchCoordinator* coordinator = nullptr;
 };
 
 } // namespace brindlex

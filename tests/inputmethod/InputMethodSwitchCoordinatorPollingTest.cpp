@@ -10,26 +10,26 @@ TEST_F(InputMethodSwitchCoordinatorTest, pollsABrowserEvery800MillisecondsWhileI
         config.domainRules = {{Uuid::random(), "example.de", german}};
     });
     start();
-    EXPECT_EQ(desktop.mainThread.timers(), 0u);
+    EXPECT_EQ(computer.mainThread.timers(), 0u);
 
-    desktop.applications.bringToFront(application(2, browser));
-    desktop.mainThread.advance(0.01);
-    EXPECT_EQ(desktop.mainThread.timers(), 1u);
+    computer.applications.bringToFront(application(2, browser));
+    computer.mainThread.advance(0.01);
+    EXPECT_EQ(computer.mainThread.timers(), 1u);
     EXPECT_EQ(selected(), us);
 
-    desktop.browserPages.setPage(browser, "https://www.example.de/seite");
-    desktop.mainThread.advance(0.78);
+    computer.browserPages.setPage(browser, "https://www.example.de/seite");
+    computer.mainThread.advance(0.78);
     EXPECT_EQ(selected(), us);
-    desktop.mainThread.advance(0.02);
+    computer.mainThread.advance(0.02);
     EXPECT_EQ(selected(), german);
 
     coordinator->dispatch(SwitchEvent::AppActivated{browser});
-    desktop.mainThread.advance(0.01);
-    EXPECT_EQ(desktop.mainThread.timers(), 1u) << "a live timer is kept";
+    computer.mainThread.advance(0.01);
+    EXPECT_EQ(computer.mainThread.timers(), 1u) << "a live timer is kept";
 
-    desktop.applications.bringToFront(application(1, "editor"));
-    desktop.mainThread.advance(0.01);
-    EXPECT_EQ(desktop.mainThread.timers(), 0u);
+    computer.applications.bringToFront(application(1, "editor"));
+    computer.mainThread.advance(0.01);
+    EXPECT_EQ(computer.mainThread.timers(), 0u);
 }
 
 TEST_F(InputMethodSwitchCoordinatorTest, looksAtOnceWhenAPageHasBeenReadBesideTheMainThread)
@@ -38,13 +38,13 @@ TEST_F(InputMethodSwitchCoordinatorTest, looksAtOnceWhenAPageHasBeenReadBesideTh
         config.domainRulesEnabled = true;
         config.domainRules = {{Uuid::random(), "example.de", german}};
     });
-    desktop.browserPages.setPage(browser, "https://example.de/");
+    computer.browserPages.setPage(browser, "https://example.de/");
     start();
 
-    desktop.applications.bringToFront(application(2, browser));
-    desktop.mainThread.runUntilIdle();
+    computer.applications.bringToFront(application(2, browser));
+    computer.mainThread.runUntilIdle();
     EXPECT_EQ(selected(), us) << "a page that was not read yet is an unknown one";
-    desktop.mainThread.advance(0.002);
+    computer.mainThread.advance(0.002);
 
     EXPECT_EQ(selected(), german);
 }
@@ -53,54 +53,54 @@ TEST_F(InputMethodSwitchCoordinatorTest, asksForThePageAtOnceAndThenEvery800Mill
 {
     change([](auto& config) { config.domainRulesEnabled = true; });
     start();
-    const auto asked = [&] { return desktop.browserPages.scripts().size(); };
+    const auto asked = [&] { return computer.browserPages.scripts().size(); };
 
     coordinator->dispatch(SwitchEvent::AppActivated{browser});
     EXPECT_EQ(asked(), 1u);
-    desktop.mainThread.advance(0.7995);
+    computer.mainThread.advance(0.7995);
     EXPECT_EQ(asked(), 1u);
-    desktop.mainThread.advance(0.001);
+    computer.mainThread.advance(0.001);
     EXPECT_EQ(asked(), 2u);
-    desktop.mainThread.advance(0.7985);
+    computer.mainThread.advance(0.7985);
     EXPECT_EQ(asked(), 2u);
-    desktop.mainThread.advance(0.001);
+    computer.mainThread.advance(0.001);
     EXPECT_EQ(asked(), 3u);
 }
 
 TEST_F(InputMethodSwitchCoordinatorTest, pollsFromWhenWebsiteRulesAreTurnedOnUntilTheyAreTurnedOff)
 {
-    desktop.applications.bringToFront(application(2, browser));
+    computer.applications.bringToFront(application(2, browser));
     start();
-    EXPECT_EQ(desktop.mainThread.timers(), 0u);
+    EXPECT_EQ(computer.mainThread.timers(), 0u);
 
     change([](auto& config) { config.domainRulesEnabled = true; });
     EXPECT_EQ(coordinator->state().lifecycle, SwitchState::Lifecycle::observingWithBrowserPolling);
-    desktop.mainThread.advance(0.01);
-    EXPECT_EQ(desktop.mainThread.timers(), 1u);
-    const auto writes = desktop.defaults.writes().size();
+    computer.mainThread.advance(0.01);
+    EXPECT_EQ(computer.mainThread.timers(), 1u);
+    const auto writes = computer.defaults.writes().size();
     change([](auto& config) { config.showHUD = false; });
-    EXPECT_EQ(desktop.defaults.writes().size(), writes + 1) << "of the rules alone";
+    EXPECT_EQ(computer.defaults.writes().size(), writes + 1) << "of the rules alone";
 
     change([](auto& config) { config.domainRulesEnabled = false; });
     EXPECT_EQ(coordinator->state().lifecycle, SwitchState::Lifecycle::observing);
-    EXPECT_EQ(desktop.mainThread.timers(), 0u);
+    EXPECT_EQ(computer.mainThread.timers(), 0u);
 }
 
 TEST_F(InputMethodSwitchCoordinatorTest, doesNotHearOfPagesOnceNoBrowserIsInFront)
 {
     change([](auto& config) { config.domainRulesEnabled = true; });
-    desktop.applications.bringToFront(application(2, browser));
+    computer.applications.bringToFront(application(2, browser));
     start();
-    desktop.browserPages.setBusy(true);
-    desktop.browserPages.setPage(browser, "https://example.de/");
-    desktop.mainThread.advance(0.81);
-    desktop.applications.bringToFront(application(1, "editor"));
-    const auto writes = desktop.defaults.writes().size();
+    computer.browserPages.setBusy(true);
+    computer.browserPages.setPage(browser, "https://example.de/");
+    computer.mainThread.advance(0.81);
+    computer.applications.bringToFront(application(1, "editor"));
+    const auto writes = computer.defaults.writes().size();
 
-    desktop.browserPages.setBusy(false);
-    desktop.mainThread.advance(1);
+    computer.browserPages.setBusy(false);
+    computer.mainThread.advance(1);
 
-    EXPECT_EQ(desktop.defaults.writes().size(), writes) << "each event writes";
+    EXPECT_EQ(computer.defaults.writes().size(), writes) << "each event writes";
 }
 
 } // namespace

@@ -15,8 +15,8 @@ protected:
 
     void inputMethodStarts()
     {
-        desktop.inputSources.install(SimulatedInputSources::keyboard(pinyin, "Pinyin"));
-        desktop.mainThread.runUntilIdle();
+        computer.inputSources.install(SimulatedInputSources::keyboard(pinyin, "Pinyin"));
+        computer.mainThread.runUntilIdle();
     }
 };
 
@@ -37,11 +37,11 @@ TEST_F(InputMethodSwitchCoordinatorSources, leavesTheUsersChoiceAlone)
     inputMethodStarts();
     start();
     ASSERT_EQ(selected(), pinyin);
-    desktop.inputSources.userSelects(german);
-    desktop.mainThread.runUntilIdle();
+    computer.inputSources.userSelects(german);
+    computer.mainThread.runUntilIdle();
 
-    desktop.inputSources.install(SimulatedInputSources::keyboard("xkb:ru::rus", "Russian"));
-    desktop.mainThread.runUntilIdle();
+    computer.inputSources.install(SimulatedInputSources::keyboard("xkb:ru::rus", "Russian"));
+    computer.mainThread.runUntilIdle();
 
     EXPECT_EQ(selected(), german);
     ASSERT_EQ(stats().size(), 1u);
@@ -51,14 +51,14 @@ TEST_F(InputMethodSwitchCoordinatorSources, leavesTheUsersChoiceAlone)
 TEST_F(InputMethodSwitchCoordinatorSources, learnsNothingFromAnInputMethodThatEnds)
 {
     inputMethodStarts();
-    desktop.applications.bringToFront(application(2, "mail"));
+    computer.applications.bringToFront(application(2, "mail"));
     start();
-    desktop.inputSources.userSelects(pinyin);
-    desktop.mainThread.runUntilIdle();
+    computer.inputSources.userSelects(pinyin);
+    computer.mainThread.runUntilIdle();
     const auto before = stats();
 
-    desktop.inputSources.remove(pinyin);
-    desktop.mainThread.runUntilIdle();
+    computer.inputSources.remove(pinyin);
+    computer.mainThread.runUntilIdle();
 
     EXPECT_EQ(selected(), us);
     EXPECT_EQ(stats(), before);
@@ -67,13 +67,13 @@ TEST_F(InputMethodSwitchCoordinatorSources, learnsNothingFromAnInputMethodThatEn
 TEST_F(InputMethodSwitchCoordinatorSources, hearsNothingMoreAfterStop)
 {
     start();
-    const auto attempts = desktop.inputSources.attempts();
+    const auto attempts = computer.inputSources.attempts();
 
     coordinator->dispatch(SwitchEvent::Stop{});
     inputMethodStarts();
 
     EXPECT_EQ(selected(), us);
-    EXPECT_EQ(desktop.inputSources.attempts(), attempts);
+    EXPECT_EQ(computer.inputSources.attempts(), attempts);
     EXPECT_EQ(coordinator->state().lifecycle, SwitchState::Lifecycle::stopped);
 }
 

@@ -10,14 +10,14 @@ TEST_F(InputMethodSwitchCoordinatorTest, observesAndHandlesTheFrontFromItsConstr
     makeCoordinator();
 
     EXPECT_EQ(coordinator->state().lifecycle, SwitchState::Lifecycle::observing);
-    EXPECT_EQ(desktop.inputSources.attempts(), std::vector<std::string>{german});
+    EXPECT_EQ(computer.inputSources.attempts(), std::vector<std::string>{german});
 }
 
 TEST_F(InputMethodSwitchCoordinatorTest, handlesBothSettingsDuringItsConstruction)
 {
     makeCoordinator();
 
-    const auto& writes = desktop.defaults.writes();
+    const auto& writes = computer.defaults.writes();
     ASSERT_EQ(writes.size(), 4u) << "two for each of two events";
     for (const auto& [key, object] : writes)
         EXPECT_EQ(key, "smartInputMethodConfig");
@@ -27,7 +27,7 @@ TEST_F(InputMethodSwitchCoordinatorTest, tellsTheMachineOfAnActivationWithoutAnA
 {
     start();
 
-    desktop.applications.bringToFront({ProcessIdentity{2}, {}, {}, "nameless"});
+    computer.applications.bringToFront({ProcessIdentity{2}, {}, {}, "nameless"});
 
     EXPECT_EQ(coordinator->state().frontmostBundleID, std::nullopt);
 }
@@ -47,8 +47,8 @@ TEST_F(InputMethodSwitchCoordinatorTest, switchesWithTheApplicationAndShowsTheSo
     change([](auto& config) { config.rules = {rule("mail", german), rule("editor", us)}; });
     start();
 
-    desktop.applications.bringToFront(application(2, "mail"));
-    desktop.mainThread.runUntilIdle();
+    computer.applications.bringToFront(application(2, "mail"));
+    computer.mainThread.runUntilIdle();
 
     EXPECT_EQ(selected(), german);
     EXPECT_EQ(labels, std::vector<std::string>{"German"});
@@ -59,14 +59,14 @@ TEST_F(InputMethodSwitchCoordinatorTest, learnsAManualChangeAndKeepsIt)
 {
     start();
 
-    desktop.inputSources.userSelects(german);
-    desktop.mainThread.runUntilIdle();
+    computer.inputSources.userSelects(german);
+    computer.mainThread.runUntilIdle();
 
     ASSERT_EQ(stats().size(), 1u);
     EXPECT_EQ(stats()[0].app, (AppIdentifier{"editor", "editor name", {}}));
     ASSERT_EQ(stats()[0].samples.size(), 1u);
     EXPECT_EQ(stats()[0].samples[0].inputSourceID, german);
-    EXPECT_EQ(SmartInputMethodConfigStore(desktop.defaults).config().value().appStats, stats());
+    EXPECT_EQ(SmartInputMethodConfigStore(computer.defaults).config().value().appStats, stats());
 }
 
 TEST_F(InputMethodSwitchCoordinatorTest, handlesAnEventFromInsideAnEffectAfterTheList)
@@ -81,8 +81,8 @@ TEST_F(InputMethodSwitchCoordinatorTest, handlesAnEventFromInsideAnEffectAfterTh
                 : "observing");
     };
 
-    desktop.applications.bringToFront(application(2, "mail"));
-    desktop.mainThread.runUntilIdle();
+    computer.applications.bringToFront(application(2, "mail"));
+    computer.mainThread.runUntilIdle();
 
     EXPECT_EQ(lifecycle, std::vector<std::string>{"observing"});
     EXPECT_EQ(coordinator->state().lifecycle, SwitchState::Lifecycle::stopped);
@@ -95,16 +95,16 @@ TEST_F(InputMethodSwitchCoordinatorTest, hearsNothingMoreAfterStop)
 
     coordinator->dispatch(SwitchEvent::Stop{});
     const auto state = coordinator->state();
-    const auto writes = desktop.defaults.writes().size();
-    desktop.applications.bringToFront(application(2, "mail"));
-    desktop.inputSources.userSelects(german);
-    desktop.mainThread.runUntilIdle();
+    const auto writes = computer.defaults.writes().size();
+    computer.applications.bringToFront(application(2, "mail"));
+    computer.inputSources.userSelects(german);
+    computer.mainThread.runUntilIdle();
 
-    EXPECT_EQ(desktop.inputSources.attempts(), std::vector<std::string>{});
+    EXPECT_EQ(computer.inputSources.attempts(), std::vector<std::string>{});
     EXPECT_TRUE(stats().empty());
     EXPECT_EQ(coordinator->state(), state);
-    EXPECT_EQ(desktop.defaults.writes().size(), writes) << "each event writes";
-    EXPECT_EQ(desktop.mainThread.timers(), 0u);
+    EXPECT_EQ(computer.defaults.writes().size(), writes) << "each event writes";
+    EXPECT_EQ(computer.mainThread.timers(), 0u);
 }
 
 TEST_F(InputMethodSwitchCoordinatorTest, sendsAChangeOfEnabledOnceAndNothingForAnEqualOne)
@@ -130,11 +130,11 @@ TEST_F(InputMethodSwitchCoordinatorTest, addsOneObserverOfEachKind)
     coordinator->dispatch(SwitchEvent::ConfigEnabledChanged{});
     coordinator->dispatch(SwitchEvent::Start{});
 
-    desktop.applications.bringToFront(application(2, "mail"));
-    desktop.mainThread.runUntilIdle();
+    computer.applications.bringToFront(application(2, "mail"));
+    computer.mainThread.runUntilIdle();
 
     EXPECT_EQ(labels.size(), 1u);
-    EXPECT_EQ(desktop.inputSources.attempts(), std::vector<std::string>{german});
+    EXPECT_EQ(computer.inputSources.attempts(), std::vector<std::string>{german});
 }
 
 TEST_F(InputMethodSwitchCoordinatorTest, doesNothingAtAllForALabelThatNobodyWants)
@@ -143,8 +143,8 @@ TEST_F(InputMethodSwitchCoordinatorTest, doesNothingAtAllForALabelThatNobodyWant
     start();
     coordinator->onSwitch = nullptr;
 
-    desktop.applications.bringToFront(application(2, "mail"));
-    desktop.mainThread.runUntilIdle();
+    computer.applications.bringToFront(application(2, "mail"));
+    computer.mainThread.runUntilIdle();
 
     EXPECT_EQ(selected(), german);
 }
@@ -154,8 +154,8 @@ TEST_F(InputMethodSwitchCoordinatorTest, warnsInTheLogWhenASelectionFails)
     change([](auto& config) { config.rules = {rule("mail", "gone")}; });
     start();
 
-    desktop.applications.bringToFront(application(2, "mail"));
-    desktop.mainThread.runUntilIdle();
+    computer.applications.bringToFront(application(2, "mail"));
+    computer.mainThread.runUntilIdle();
 
     EXPECT_EQ(log.lines(),
         std::vector<std::string>{"WARN [input-method] Failed to select gone for mail"});
@@ -165,11 +165,11 @@ TEST_F(InputMethodSwitchCoordinatorTest, warnsInTheLogWhenASelectionFails)
 TEST_F(InputMethodSwitchCoordinatorTest, writesTheLearningRecordTwiceForEveryEvent)
 {
     start();
-    const auto before = desktop.defaults.writes().size();
+    const auto before = computer.defaults.writes().size();
 
     coordinator->dispatch(SwitchEvent::InputSourceChanged{});
 
-    const auto& writes = desktop.defaults.writes();
+    const auto& writes = computer.defaults.writes();
     ASSERT_EQ(writes.size(), before + 2);
     EXPECT_EQ(writes[before].first, "smartInputMethodConfig");
     EXPECT_EQ(writes[before], writes[before + 1]);

@@ -3,8 +3,8 @@
 #include "mouse/ExpectedArrivals.h"
 #include "mouse/MouseScenario.h"
 #include "mouse/MouseScenarioStage.h"
-#include "mouse/MouseSubsystem.h"
-#include "mouse/RecordedInput.h"
+#include "mouse/MouseSession.h"
+#include "platform/simulated/RecordedInput.h"
 #include "support/hardware/TappedDesktop.h"
 
 #include <cstdint>
@@ -37,7 +37,7 @@ private:
         SimulatedClock clock;
         X11EventPosting posting{desktop.stream, desktop.mainThread, clock};
         RecordedInput input{desktop.tapping, posting};
-        MouseSubsystem subsystem;
+        MouseSession subsystem;
         MouseScenarioStage stage{subsystem};
     };
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "mouse/MouseScenario.h"
-#include "mouse/MouseSubsystem.h"
+#include "mouse/MouseSession.h"
 
 #include <string>
 #include <vector>
@@ -12,7 +12,7 @@ namespace brindlex {
 /// computer around it. The screen has 60 frames per second.
 class MouseScenarioStage {
 public:
-    explicit MouseScenarioStage(MouseSubsystem& subsystem) : subsystem_(subsystem) { }
+    explicit MouseScenarioStage(MouseSession& subsystem) : subsystem_(subsystem) { }
 
     /// Arranges the computer and starts the managers, as the program does.
     void begin(const MouseVerbs::Preparation& preparation);
@@ -32,7 +32,7 @@ private:
     void bringToFront(const std::string& application);
     void showCursor(const std::string& name);
 
-    MouseSubsystem& subsystem_;
+    MouseSession& subsystem_;
     Seconds now_ = 0;
     long frames_ = 0;
 };

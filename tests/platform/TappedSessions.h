@@ -2,6 +2,7 @@
 
 #include "platform/linux/input/VirtualKeyCodes.h"
 #include "platform/linux/x11/X11Buttons.h"
+#include "platform/simulated/RecordedInput.h"
 #include "platform/simulated/SimulatedInput.h"
 #include "platform/simulated/SimulatedKeyboard.h"
 #include "platform/simulated/SimulatedMouse.h"
@@ -78,6 +79,16 @@ private:
     SimulatedKeyboard keyboard_{input_};
 };
 
+/// The same with a record of the input in between.
+class RecordedTappedSession : public SimulatedTappedSession {
+public:
+    EventTapping& tapping() { return recorded_; }
+    EventPosting& posting() { return recorded_; }
+
+private:
+    RecordedInput recorded_{SimulatedTappedSession::tapping(), SimulatedTappedSession::posting()};
+};
+
 /// Played hardware on a real X server, with the form of `SimulatedTappedSession`.
 class X11TappedSession {
 public:
@@ -146,6 +157,7 @@ private:
     TappedDesktop desktop_;
 };
 
-using TappedSessions = testing::Types<SimulatedTappedSession, X11TappedSession>;
+using TappedSessions
+    = testing::Types<SimulatedTappedSession, RecordedTappedSession, X11TappedSession>;
 
 } // namespace brindlex

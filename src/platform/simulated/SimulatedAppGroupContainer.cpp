@@ -5,13 +5,15 @@
 
 namespace brindlex {
 
-SimulatedAppGroupContainer::SimulatedAppGroupContainer(std::optional<std::filesystem::path> folder)
-    : folder_(std::move(folder))
+SimulatedAppGroupContainer::SimulatedAppGroupContainer(
+    std::optional<std::filesystem::path> folder, SimulatedJournal::Writer journal)
+    : journal_(journal), folder_(std::move(folder))
 {
 }
 
 std::optional<std::filesystem::path> SimulatedAppGroupContainer::appGroupContainerURL()
 {
+    journal_.add("container");
     const std::lock_guard guard(mutex_);
     if (!folder_)
         return {};

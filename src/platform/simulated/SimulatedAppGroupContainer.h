@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/AppGroupContainer.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 #include <mutex>
 
@@ -9,7 +10,8 @@ namespace brindlex {
 /// A container in a folder of the test's choice, or none.
 class SimulatedAppGroupContainer : public AppGroupContainer {
 public:
-    explicit SimulatedAppGroupContainer(std::optional<std::filesystem::path> folder = {});
+    explicit SimulatedAppGroupContainer(
+        std::optional<std::filesystem::path> folder = {}, SimulatedJournal::Writer journal = {});
 
     std::optional<std::filesystem::path> appGroupContainerURL() override;
 
@@ -17,6 +19,7 @@ public:
     void setFolder(std::optional<std::filesystem::path> folder);
 
 private:
+    SimulatedJournal::Writer journal_;
     std::mutex mutex_;
     std::optional<std::filesystem::path> folder_;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ApplicationOpening.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 #include <vector>
 
@@ -9,9 +10,20 @@ namespace brindlex {
 /// Notes what is opened.
 class SimulatedApplicationOpening : public ApplicationOpening {
 public:
-    void open(const std::filesystem::path& application) override { opened.push_back(application); }
+    explicit SimulatedApplicationOpening(SimulatedJournal::Writer journal = {}) : journal_(journal)
+    {
+    }
+
+    void open(const std::filesystem::path& application) override
+    {
+        journal_.add("open " + application.string());
+        opened.push_back(application);
+    }
 
     std::vector<std::filesystem::path> opened{};
+
+private:
+    SimulatedJournal::Writer journal_;
 };
 
 } // namespace brindlex

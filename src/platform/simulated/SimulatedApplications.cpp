@@ -14,7 +14,7 @@ std::optional<RunningApplication> SimulatedApplications::frontmost() const
 
 Subscription SimulatedApplications::observeActivation(ActivationHandler handler)
 {
-    return observers_.add(std::move(handler));
+    return journal_.addObservation("activations", observers_.add(std::move(handler)));
 }
 
 void SimulatedApplications::launch(const RunningApplication& application)
@@ -34,7 +34,7 @@ void SimulatedApplications::bringToFront(ProcessIdentity processIdentifier)
     if (find(processIdentifier) == running_.end())
         return;
     frontmost_ = processIdentifier;
-    if (std::exchange(lastTold_, processIdentifier) != processIdentifier)
+    if (std::exchange(lastNotified_, processIdentifier) != processIdentifier)
         observers_.notify(frontmost());
 }
 
@@ -42,8 +42,8 @@ void SimulatedApplications::quit(ProcessIdentity processIdentifier)
 {
     if (frontmost_ == processIdentifier)
         frontmost_.reset();
-    if (lastTold_ == processIdentifier)
-        lastTold_.reset();
+    if (lastNotified_ == processIdentifier)
+        lastNotified_.reset();
     std::erase_if(running_, [&](const RunningApplication& application) {
         return application.processIdentifier == processIdentifier;
     });

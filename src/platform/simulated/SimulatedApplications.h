@@ -2,6 +2,7 @@
 
 #include "foundation/Subscribers.h"
 #include "platform/RunningApplications.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 #include <optional>
 #include <vector>
@@ -11,6 +12,8 @@ namespace brindlex {
 /// The applications of a simulated computer. Main thread only.
 class SimulatedApplications final : public RunningApplications {
 public:
+    explicit SimulatedApplications(SimulatedJournal::Writer journal = {}) : journal_(journal) { }
+
     std::optional<RunningApplication> frontmost() const override;
     std::vector<RunningApplication> running() const override { return running_; }
     Subscription observeActivation(ActivationHandler handler) override;
@@ -32,9 +35,10 @@ public:
 private:
     std::vector<RunningApplication>::const_iterator find(ProcessIdentity processIdentifier) const;
 
+    SimulatedJournal::Writer journal_;
     std::vector<RunningApplication> running_;
     std::optional<ProcessIdentity> frontmost_;
-    std::optional<ProcessIdentity> lastTold_;
+    std::optional<ProcessIdentity> lastNotified_;
     Subscribers<ActivationHandler> observers_;
 };
 

@@ -3,6 +3,11 @@
 #include <utility>
 
 namespace brindlex {
+namespace {
+
+constexpr Seconds readingTime = 0.002;
+
+} // namespace
 
 std::optional<std::string> SimulatedBrowserPages::currentURL(
     const std::string& bundleID, const std::string& script)
@@ -17,7 +22,7 @@ std::optional<std::string> SimulatedBrowserPages::currentURL(
 
 Subscription SimulatedBrowserPages::observeChanges(std::function<void()> handler)
 {
-    return observers_.add(std::move(handler));
+    return journal_.addObservation("pages", observers_.add(std::move(handler)));
 }
 
 void SimulatedBrowserPages::setPage(const std::string& bundleID, std::optional<std::string> url)
@@ -38,7 +43,7 @@ void SimulatedBrowserPages::setBusy(bool isBusy)
 
 void SimulatedBrowserPages::read(const std::string& bundleID)
 {
-    readings_[bundleID] = mainThread_.after(readingTime_, [this, bundleID] { finish(bundleID); });
+    readings_[bundleID] = mainThread_.after(readingTime, [this, bundleID] { finish(bundleID); });
 }
 
 void SimulatedBrowserPages::finish(const std::string& bundleID)

@@ -3,6 +3,7 @@
 #include "foundation/Subscribers.h"
 #include "platform/BrowserPageReading.h"
 #include "platform/MainThread.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 #include <map>
 #include <optional>
@@ -16,8 +17,8 @@ namespace brindlex {
 /// unknown until it was read, which takes a while.
 class SimulatedBrowserPages : public BrowserPageReading {
 public:
-    explicit SimulatedBrowserPages(MainThread& mainThread, Seconds readingTime = 0.002)
-        : mainThread_(mainThread), readingTime_(readingTime)
+    explicit SimulatedBrowserPages(MainThread& mainThread, SimulatedJournal::Writer journal = {})
+        : mainThread_(mainThread), journal_(journal)
     {
     }
 
@@ -41,7 +42,7 @@ private:
     std::optional<std::string> known(const std::string& bundleID) const;
 
     MainThread& mainThread_;
-    const Seconds readingTime_;
+    SimulatedJournal::Writer journal_;
     bool isBusy_ = false;
     std::map<std::string, std::string> pages_;
     std::map<std::string, std::string> read_;

@@ -2,17 +2,20 @@
 
 #include "foundation/Subscribers.h"
 #include "platform/DisplayLink.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 namespace brindlex {
 
 /// A screen that shows a frame when it is told to, or no screen.
 class SimulatedDisplayLink : public DisplayLink {
 public:
+    explicit SimulatedDisplayLink(SimulatedJournal::Writer journal = {}) : journal_(journal) { }
+
     std::optional<double> maximumFramesPerSecond() const override { return framesPerSecond; }
     Subscription onEachFrame(std::optional<double> wish, FrameHandler handler) override
     {
         lastWish = wish;
-        return subscribers_.add(std::move(handler));
+        return journal_.addObservation("frames", subscribers_.add(std::move(handler)));
     }
 
     void frame(Seconds timestamp) { subscribers_.notify(timestamp); }
@@ -25,6 +28,7 @@ public:
     std::optional<double> lastWish{};
 
 private:
+    SimulatedJournal::Writer journal_;
     Subscribers<FrameHandler> subscribers_;
 };
 

@@ -2,12 +2,16 @@
 
 #include "foundation/Subscribers.h"
 #include "platform/EventPermissions.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 namespace brindlex {
 
 /// Permissions that are given and taken without a person.
 class SimulatedEventPermissions : public EventPermissions {
 public:
+    explicit SimulatedEventPermissions(SimulatedJournal::Writer journal = {})
+        : journal_(journal) { }
+
     bool isAccessibilityTrusted() override
     {
         ++timesAsked;
@@ -20,7 +24,7 @@ public:
     }
     Subscription observeAccessibilityChanges(std::function<void()> handler) override
     {
-        return subscribers_.add(std::move(handler));
+        return journal_.addObservation("permissions", subscribers_.add(std::move(handler)));
     }
 
     /// Gives or takes both, and says nothing.
@@ -34,6 +38,7 @@ public:
     int timesAsked = 0;
 
 private:
+    SimulatedJournal::Writer journal_;
     Subscribers<std::function<void()>> subscribers_;
 };
 

@@ -4,6 +4,8 @@
 
 #include <algorithm>
 #include <optional>
+#include <sstream>
+#include <string>
 #include <utility>
 
 namespace brindlex {
@@ -11,18 +13,27 @@ namespace brindlex {
 class SimulatedInput::Tap : public EventTap {
 public:
     Tap(SimulatedInput& input, EventMask mask, std::vector<EventInterest> interests,
-        Handler handler)
-        : input_(input), mask_(mask), interests_(std::move(interests)),
-          handler_(std::make_shared<const Handler>(std::move(handler)))
+        std::shared_ptr<const Handler> handler)
+        : input_(input), mask_(mask), interests_(std::move(interests)), handler_(std::move(handler))
     {
         input_.taps_.insert(input_.taps_.begin(), this);
         ++input_.tapsMade_;
     }
-    ~Tap() override { std::erase(input_.taps_, this); }
+    ~Tap() override
+    {
+        input_.journal_.add("tap ends");
+        std::erase(input_.taps_, this);
+    }
 
-    void setEnabled(bool isEnabled) override { isEnabled_ = isEnabled; }
+    void setEnabled(bool isEnabled) override
+    {
+        input_.journal_.add(isEnabled ? "tap on" : "tap off");
+        isEnabled_ = isEnabled;
+    }
+    void switchOff() { isEnabled_ = false; }
     void setInterests(std::vector<EventInterest> interests) override
     {
+        input_.journal_.add("tap interests");
         interests_ = std::move(interests);
     }
 
@@ -82,15 +93,20 @@ SimulatedInput::~SimulatedInput()
 std::unique_ptr<EventTap> SimulatedInput::createTap(
     EventMask mask, std::vector<EventInterest> interests, Handler handler)
 {
+    std::ostringstream entry;
+    entry << "tap 0x" << std::hex << mask;
+    journal_.add(entry.str());
     if (refusesTaps_)
         return nullptr;
-    return std::make_unique<Tap>(*this, mask, std::move(interests), std::move(handler));
+    newestHandler_ = std::make_shared<const Handler>(std::move(handler));
+    return std::make_unique<Tap>(*this, mask, std::move(interests), newestHandler_);
 }
 
 bool SimulatedInput::post(const SyntheticEvent& event)
 {
     if (cannotMake_ && cannotMake_(event))
         return false;
+    journal_.add("post event " + std::to_string(static_cast<std::uint32_t>(event.type)));
     posted_.push_back(event.asPosted(cursor, heldFlags));
     runPosted();
     return true;
@@ -181,7 +197,7 @@ void SimulatedInput::switchTapsOff(EventType reason)
     for (auto* tap : present) {
         if (std::ranges::find(taps_, tap) == taps_.end())
             continue;
-        tap->setEnabled(false);
+        tap->switchOff();
         tap->offer(Event{reason, {}, 0, {}});
     }
 }

@@ -3,6 +3,7 @@
 #include "platform/EventPosting.h"
 #include "platform/EventTap.h"
 #include "platform/PressLedger.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 #include <cstddef>
 #include <deque>
@@ -26,7 +27,11 @@ public:
     /// release and leave it alone otherwise, and a release goes where its press went.
     enum class TapPlace { session, devices };
 
-    explicit SimulatedInput(TapPlace place = TapPlace::session) : place_(place) { }
+    explicit SimulatedInput(
+        TapPlace place = TapPlace::session, SimulatedJournal::Writer journal = {})
+        : place_(place), journal_(journal)
+    {
+    }
     ~SimulatedInput() override;
 
     std::unique_ptr<EventTap> createTap(
@@ -56,6 +61,9 @@ public:
     std::vector<EventMask> tapMasks() const;
     std::size_t tapsMade() const { return tapsMade_; }
 
+    /// The handler of the newest tap, also when that is gone: a system may call it late.
+    Handler newestHandler() const { return newestHandler_ ? *newestHandler_ : nullptr; }
+
     PressLedger::DeviceIdentifier addDevice() { return ++devices_; }
 
     Point cursor{};
@@ -74,12 +82,14 @@ private:
     void runPosted();
 
     TapPlace place_;
+    SimulatedJournal::Writer journal_;
     std::vector<Tap*> taps_;
     std::deque<Event> posted_;
     std::vector<Event> delivered_;
     std::map<PressLedger::DeviceIdentifier, TakenPresses> takenPresses_;
     PressLedger ledger_;
     std::function<bool(const SyntheticEvent&)> cannotMake_;
+    std::shared_ptr<const Handler> newestHandler_;
     bool refusesTaps_ = false;
     bool isBusy_ = false;
     std::size_t tapsMade_ = 0;

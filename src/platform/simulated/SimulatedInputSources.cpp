@@ -43,6 +43,7 @@ std::optional<std::vector<InputSourceProperties>> SimulatedInputSources::list(
 int SimulatedInputSources::select(const InputSourceProperties& source)
 {
     const auto id = source.id.value_or("");
+    journal_.add("select " + id);
     attempts_.push_back(id);
     if (failures_ > 0) {
         --failures_;
@@ -58,12 +59,13 @@ int SimulatedInputSources::select(const InputSourceProperties& source)
 
 Subscription SimulatedInputSources::observeSelectionChanges(std::function<void()> handler)
 {
-    return selectionObservers_.add(std::move(handler));
+    return journal_.addObservation("selection", selectionObservers_.add(std::move(handler)));
 }
 
 Subscription SimulatedInputSources::observeEnabledSourcesChanges(std::function<void()> handler)
 {
-    return enabledSourcesObservers_.add(std::move(handler));
+    return journal_.addObservation(
+        "enabled sources", enabledSourcesObservers_.add(std::move(handler)));
 }
 
 InputSourceProperties SimulatedInputSources::keyboard(
@@ -77,13 +79,13 @@ void SimulatedInputSources::install(const InputSourceProperties& source)
     sources_.push_back(source);
     if (!selected_ && source.id)
         selected_ = source.id;
-    tellOfSources();
+    notifyOfSources();
 }
 
 void SimulatedInputSources::remove(const std::string& id)
 {
     std::erase_if(sources_, [&](const InputSourceProperties& source) { return source.id == id; });
-    tellOfSources();
+    notifyOfSources();
     if (selected_ == id && !sources_.empty() && sources_.front().id)
         become(*sources_.front().id);
 }
@@ -107,9 +109,9 @@ const InputSourceProperties* SimulatedInputSources::find(const std::string& id) 
     return found == sources_.end() ? nullptr : &*found;
 }
 
-void SimulatedInputSources::tellOfSources()
+void SimulatedInputSources::notifyOfSources()
 {
-    // Who comes later is not told of what was there before.
+    // Who comes later is not notified of what was there before.
     if (!enabledSourcesObservers_.isEmpty())
         mainThread_.post([this] { enabledSourcesObservers_.notify(); });
 }
@@ -118,11 +120,11 @@ void SimulatedInputSources::become(const std::string& id)
 {
     if (std::exchange(selected_, id) == id)
         return;
-    const auto tell = [this] { selectionObservers_.notify(); };
+    const auto notify = [this] { selectionObservers_.notify(); };
     if (delay_ > 0)
-        delayed_.push_back(mainThread_.after(delay_, tell));
+        delayed_.push_back(mainThread_.after(delay_, notify));
     else
-        mainThread_.post(tell);
+        mainThread_.post(notify);
 }
 
 } // namespace brindlex

@@ -3,6 +3,7 @@
 #include "foundation/Subscribers.h"
 #include "platform/KeyboardInputSources.h"
 #include "platform/MainThread.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 #include <optional>
 #include <string>
@@ -16,7 +17,10 @@ public:
     /// Status of a source that is not there or cannot be selected (paramErr).
     static constexpr int invalidSource = -50;
 
-    explicit SimulatedInputSources(MainThread& mainThread) : mainThread_(mainThread) { }
+    explicit SimulatedInputSources(MainThread& mainThread, SimulatedJournal::Writer journal = {})
+        : mainThread_(mainThread), journal_(journal)
+    {
+    }
 
     std::optional<InputSourceProperties> current() override;
     std::optional<std::vector<InputSourceProperties>> list(
@@ -40,7 +44,7 @@ public:
     /// Makes the next selections by the program fail with the status.
     void failSelections(int count, int status);
 
-    /// Makes changes be told this much later.
+    /// Delays the notifications of a selection by this much.
     void delayNotifications(Seconds delay) { delay_ = delay; }
 
     /// Makes the system unable to answer, or able again.
@@ -51,10 +55,11 @@ public:
 
 private:
     const InputSourceProperties* find(const std::string& id) const;
-    void tellOfSources();
+    void notifyOfSources();
     void become(const std::string& id);
 
     MainThread& mainThread_;
+    SimulatedJournal::Writer journal_;
     std::vector<InputSourceProperties> sources_;
     std::optional<std::string> selected_;
     std::vector<std::string> attempts_;

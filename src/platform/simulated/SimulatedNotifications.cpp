@@ -23,13 +23,14 @@ Subscription SimulatedNotificationBus::observe(
 
 void SimulatedNotifications::post(const std::string& name, const std::string& object)
 {
+    journal_.add("post " + name + " " + object);
     bus_.post(name, object);
 }
 
 Subscription SimulatedNotifications::observe(
     const std::string& name, const std::string& object, std::function<void()> handler)
 {
-    // Who has unsubscribed is not told of what was on its way.
+    // Who has unsubscribed is not notified of what was on its way.
     auto shared = std::make_shared<std::function<void()>>(std::move(handler));
     auto registration = bus_.observe(name, object, [this, weak = std::weak_ptr(shared)] {
         mainThread_.post([weak] {
@@ -37,11 +38,12 @@ Subscription SimulatedNotifications::observe(
                 (*present)();
         });
     });
-    return Subscription(
+    Subscription observation(
         [shared, registration = std::make_shared<Subscription>(std::move(registration))]() mutable {
             registration->reset();
             shared.reset();
         });
+    return journal_.addObservation(name + " " + object, std::move(observation));
 }
 
 } // namespace brindlex

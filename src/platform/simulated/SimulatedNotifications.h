@@ -3,6 +3,7 @@
 #include "foundation/Subscribers.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/MainThread.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 #include <functional>
 #include <string>
@@ -35,8 +36,9 @@ private:
 /// The notifications of one simulated process.
 class SimulatedNotifications : public DistributedNotifications {
 public:
-    SimulatedNotifications(SimulatedNotificationBus& bus, MainThread& mainThread)
-        : bus_(bus), mainThread_(mainThread)
+    SimulatedNotifications(SimulatedNotificationBus& bus, MainThread& mainThread,
+        SimulatedJournal::Writer journal = {})
+        : bus_(bus), mainThread_(mainThread), journal_(journal)
     {
     }
 
@@ -47,6 +49,7 @@ public:
 private:
     SimulatedNotificationBus& bus_;
     MainThread& mainThread_;
+    SimulatedJournal::Writer journal_;
 };
 
 } // namespace brindlex

@@ -2,6 +2,7 @@
 
 #include "platform/MainThread.h"
 #include "platform/OverlayPanel.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 #include <optional>
 #include <string>
@@ -10,23 +11,26 @@
 
 namespace brindlex {
 
-/// A panel in memory: what is on it, and what it was told.
+/// A panel in memory: what is on it, and what was asked of it.
 class SimulatedOverlayPanel : public OverlayPanel {
 public:
     static constexpr Seconds fadeOutTime = 0.25;
 
-    explicit SimulatedOverlayPanel(MainThread& mainThread) : mainThread_(mainThread) { }
+    explicit SimulatedOverlayPanel(MainThread& mainThread, SimulatedJournal::Writer journal = {})
+        : mainThread_(mainThread), journal_(journal)
+    {
+    }
 
     void show(const std::string& text) override
     {
         fade_.reset();
         text_ = text;
-        calls_.push_back("show " + text);
+        note("show " + text);
     }
 
     void fadeOut() override
     {
-        calls_.push_back("fadeOut");
+        note("fadeOut");
         if (text_ && !isFading())
             fade_ = mainThread_.after(fadeOutTime, [this] {
                 fade_.reset();
@@ -42,7 +46,14 @@ public:
     const std::vector<std::string>& calls() const { return calls_; }
 
 private:
+    void note(const std::string& call)
+    {
+        journal_.add(call);
+        calls_.push_back(call);
+    }
+
     MainThread& mainThread_;
+    SimulatedJournal::Writer journal_;
     std::optional<std::string> text_;
     Subscription fade_;
     std::vector<std::string> calls_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ProcessLaunching.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 #include <optional>
 #include <utility>
@@ -17,9 +18,13 @@ public:
         bool operator==(const Launch&) const = default;
     };
 
+    explicit SimulatedProcessLaunching(SimulatedJournal::Writer journal = {})
+        : journal_(journal) { }
+
     void launch(const std::filesystem::path& executable, const std::vector<std::string>& arguments,
         Failed failed) override
     {
+        journal_.add("launch " + executable.string());
         if (refusal)
             failed(*refusal);
         else
@@ -28,6 +33,9 @@ public:
 
     std::vector<Launch> launches{};
     std::optional<std::string> refusal{};
+
+private:
+    SimulatedJournal::Writer journal_;
 };
 
 } // namespace brindlex

@@ -2,16 +2,21 @@
 
 #include "foundation/Subscribers.h"
 #include "platform/ProgramActivation.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 namespace brindlex {
 
 /// The program comes to the front and goes when it is told to.
 class SimulatedProgramActivation : public ProgramActivation {
 public:
+    explicit SimulatedProgramActivation(SimulatedJournal::Writer journal = {}) : journal_(journal)
+    {
+    }
+
     bool isActive() const override { return isActive_; }
     Subscription observeDidBecomeActive(std::function<void()> handler) override
     {
-        return subscribers_.add(std::move(handler));
+        return journal_.addObservation("becoming active", subscribers_.add(std::move(handler)));
     }
 
     void becomeActive()
@@ -24,6 +29,7 @@ public:
     bool isObserved() const { return !subscribers_.isEmpty(); }
 
 private:
+    SimulatedJournal::Writer journal_;
     bool isActive_ = false;
     Subscribers<std::function<void()>> subscribers_;
 };

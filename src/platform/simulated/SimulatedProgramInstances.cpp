@@ -16,8 +16,8 @@ void SimulatedSession::end(ProcessIdentifier process)
 }
 
 SimulatedProgramInstances::SimulatedProgramInstances(
-    SimulatedSession& session, const std::string& bundleID)
-    : session_(session), current_(session.start(bundleID))
+    SimulatedSession& session, const std::string& bundleID, SimulatedJournal::Writer journal)
+    : session_(session), current_(session.start(bundleID)), journal_(journal)
 {
 }
 
@@ -26,6 +26,7 @@ SimulatedProgramInstances::~SimulatedProgramInstances() { session_.end(current_)
 std::vector<ProgramInstances::ProcessIdentifier> SimulatedProgramInstances::running(
     const std::string& bundleID)
 {
+    journal_.add("list " + bundleID);
     std::vector<ProcessIdentifier> instances;
     for (const auto& process : session_.processes()) {
         if (process.bundleID == bundleID)
@@ -38,7 +39,14 @@ std::vector<ProgramInstances::ProcessIdentifier> SimulatedProgramInstances::runn
 
 void SimulatedProgramInstances::activate(ProcessIdentifier instance)
 {
+    journal_.add("activate " + std::to_string(static_cast<std::int64_t>(instance)));
     session_.activated.push_back(instance);
+}
+
+void SimulatedProgramInstances::terminate()
+{
+    journal_.add("terminate");
+    isTerminating_ = true;
 }
 
 } // namespace brindlex

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/ProgramInstances.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 #include <string>
 #include <vector>
@@ -35,7 +36,8 @@ private:
 /// One simulated process among those of its session. It is there as long as the object is.
 class SimulatedProgramInstances : public ProgramInstances {
 public:
-    SimulatedProgramInstances(SimulatedSession& session, const std::string& bundleID);
+    SimulatedProgramInstances(SimulatedSession& session, const std::string& bundleID,
+        SimulatedJournal::Writer journal = {});
     ~SimulatedProgramInstances() override;
     SimulatedProgramInstances(const SimulatedProgramInstances&) = delete;
     SimulatedProgramInstances& operator=(const SimulatedProgramInstances&) = delete;
@@ -43,7 +45,7 @@ public:
     ProcessIdentifier current() const override { return current_; }
     std::vector<ProcessIdentifier> running(const std::string& bundleID) override;
     void activate(ProcessIdentifier instance) override;
-    void terminate() override { isTerminating_ = true; }
+    void terminate() override;
 
     /// Whether the process was asked to end.
     bool isTerminating() const { return isTerminating_; }
@@ -51,6 +53,7 @@ public:
 private:
     SimulatedSession& session_;
     const ProcessIdentifier current_;
+    SimulatedJournal::Writer journal_;
     bool isTerminating_ = false;
 };
 

@@ -48,6 +48,7 @@ std::optional<PreferenceValue> SimulatedUserDefaults::value(const std::string& k
 
 void SimulatedUserDefaults::set(const std::string& key, std::optional<PreferenceValue> object)
 {
+    journal_.add((object ? "set " : "remove ") + key);
     writes_.emplace_back(key, object);
     if (value(key) == object)
         return;
@@ -66,13 +67,14 @@ void SimulatedUserDefaults::set(const std::string& key, std::optional<Preference
 
 void SimulatedUserDefaults::synchronize()
 {
+    journal_.add("synchronize");
     bringToDisk();
     takeFromDisk();
 }
 
 Subscription SimulatedUserDefaults::observeChanges(std::function<void()> handler)
 {
-    return subscribers_.add(std::move(handler));
+    return journal_.addObservation("preferences", subscribers_.add(std::move(handler)));
 }
 
 void SimulatedUserDefaults::bringToDisk()

@@ -3,6 +3,7 @@
 #include "foundation/Subscribers.h"
 #include "platform/MainThread.h"
 #include "platform/UserDefaults.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 #include <map>
 #include <memory>
@@ -21,7 +22,7 @@ public:
 
     const Values& values() const { return values_; }
 
-    /// Replaces everything, and tells who watches the disk.
+    /// Replaces everything, and notifies who watches the disk.
     void replace(Values values);
 
     Subscription observeWrites(std::function<void()> handler);
@@ -37,7 +38,7 @@ public:
     using Write = std::pair<std::string, std::optional<PreferenceValue>>;
 
     /// For a process alone on its computer: what is set stays in memory.
-    SimulatedUserDefaults() = default;
+    explicit SimulatedUserDefaults(SimulatedJournal::Writer journal = {}) : journal_(journal) { }
     /// For a process beside others.
     SimulatedUserDefaults(SimulatedPreferencesDisk& disk, MainThread& mainThread);
     /// Ends as a process does, with everything on disk.
@@ -55,6 +56,7 @@ private:
     void bringToDisk();
     void takeFromDisk();
 
+    SimulatedJournal::Writer journal_;
     mutable std::mutex mutex_;
     SimulatedPreferencesDisk::Values values_;
     std::set<std::string> unwritten_;

@@ -8,16 +8,20 @@ namespace brindlex {
 
 class RecordedLog::Recorder : public LogSink {
 public:
+    explicit Recorder(SimulatedJournal* journal) : journal_(journal) { }
+
     void write(const LogCall& call) override
     {
         std::string line(rawValue(call.level));
         line.append(" [").append(call.category).append("] ").append(call.message);
+        journal_.add("log " + line);
         const std::lock_guard guard(mutex);
         lines.push_back(std::move(line));
     }
 
     void prune(Date now) override
     {
+        journal_.add("prune");
         const std::lock_guard guard(mutex);
         prunes.push_back(now);
     }
@@ -34,10 +38,13 @@ public:
     std::vector<std::string> lines;
     std::vector<Date> prunes;
     std::optional<std::filesystem::path> folder;
+
+private:
+    SimulatedJournal::Writer journal_;
 };
 
-RecordedLog::RecordedLog()
-    : recorder_(std::make_shared<Recorder>()), before_(Log::install(recorder_))
+RecordedLog::RecordedLog(SimulatedJournal* journal)
+    : recorder_(std::make_shared<Recorder>(journal)), before_(Log::install(recorder_))
 {
 }
 

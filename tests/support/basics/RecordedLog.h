@@ -1,6 +1,7 @@
 #pragma once
 
 #include "log/Log.h"
+#include "platform/simulated/SimulatedJournal.h"
 
 #include <memory>
 #include <string>
@@ -9,10 +10,11 @@
 namespace brindlex {
 
 /// Records log calls while it lives, as lines "WARN [input-method] message", and then puts back
-/// what was installed before it. Calls are recorded from any thread.
+/// what was installed before it. Calls are recorded from any thread, and also entered in the
+/// journal, if one is given: "log <line>" and "prune".
 class RecordedLog {
 public:
-    RecordedLog();
+    explicit RecordedLog(SimulatedJournal* journal = nullptr);
     ~RecordedLog();
     RecordedLog(const RecordedLog&) = delete;
     RecordedLog& operator=(const RecordedLog&) = delete;
@@ -23,10 +25,10 @@ public:
     /// The same, which begins afresh.
     std::vector<std::string> takeLines();
 
-    /// The dates that the log was told to prune at, in order.
+    /// The dates of the requests to prune, in order.
     std::vector<Date> prunes() const;
 
-    /// Lets `Log::fileURL` answer with files in this folder; without it there is no container.
+    /// Lets `Log::fileURL` return files in this folder; without it there is no container.
     void setFolder(const std::filesystem::path& folder);
 
 private:

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/ProgramIdentity.h"
 #include "platform/Platform.h"
 #include "platform/simulated/SimulatedAccessibilityTree.h"
 #include "platform/simulated/SimulatedAppGroupContainer.h"
@@ -14,7 +13,10 @@
 #include "platform/simulated/SimulatedEventPermissions.h"
 #include "platform/simulated/SimulatedInput.h"
 #include "platform/simulated/SimulatedInputSources.h"
+#include "platform/simulated/SimulatedJournal.h"
+#include "platform/simulated/SimulatedKeyboard.h"
 #include "platform/simulated/SimulatedMainThread.h"
+#include "platform/simulated/SimulatedMouse.h"
 #include "platform/simulated/SimulatedNotifications.h"
 #include "platform/simulated/SimulatedOverlayPanel.h"
 #include "platform/simulated/SimulatedProcessLaunching.h"
@@ -24,37 +26,61 @@
 #include "platform/simulated/SimulatedUserFolders.h"
 #include "platform/simulated/SimulatedWindowList.h"
 
+#include <memory>
+#include <string>
+
 namespace brindlex {
 
 /// What the processes of one simulated session share.
 struct SimulatedSessionServices {
-    SimulatedSession session;
-    SimulatedNotificationBus notifications;
+    SimulatedSession session{};
+    SimulatedNotificationBus notifications{};
 };
 
-/// The whole simulated computer as one process of the program sees it.
-struct SimulatedDesktop {
-    explicit SimulatedDesktop(SimulatedSessionServices& services)
-        : notifications(services.notifications, mainThread),
-          instances(services.session, programIdentity::bundleIdentifier)
-    {
-    }
+/// What a simulated computer is made with.
+struct SimulatedComputerSetup {
+    /// A session of its own, unless processes are to share one.
+    std::shared_ptr<SimulatedSessionServices> services
+        = std::make_shared<SimulatedSessionServices>();
+    /// The program that the process runs.
+    std::string bundleID = "org.example.Program";
+    SimulatedInput::TapPlace tapPlace = SimulatedInput::TapPlace::session;
+    /// Records what the process asks of the computer, if there is one; outlives the computer.
+    SimulatedJournal* journal = nullptr;
+};
 
+/// A whole computer in memory, as one process sees it: each ability under its name in `Platform`,
+/// and the devices that make the input. It has no sources, applications, windows or container until
+/// a test gives it some. Main thread only.
+class SimulatedComputer {
+public:
+    explicit SimulatedComputer(const SimulatedComputerSetup& setup = {});
+    SimulatedComputer(const SimulatedComputer&) = delete;
+    SimulatedComputer& operator=(const SimulatedComputer&) = delete;
+
+    Platform& platform() { return platform_; }
+
+    /// The same computer with another input, such as a real one.
+    Platform platformWithInput(EventTapping& tapping, EventPosting& posting);
+
+    const std::shared_ptr<SimulatedSessionServices> services;
     SimulatedClock clock;
     SimulatedMainThread mainThread{clock};
     SimulatedUserDefaults defaults;
     SimulatedUserFolders userFolders;
     SimulatedAppGroupContainer container;
-    SimulatedNotifications notifications;
+    SimulatedNotifications distributedNotifications;
     SimulatedProgramInstances instances;
     SimulatedApplications applications;
     SimulatedApplicationBundles bundles;
-    SimulatedInputSources inputSources{mainThread};
-    SimulatedBrowserPages browserPages{mainThread};
-    SimulatedOverlayPanel overlayPanel{mainThread};
+    SimulatedInputSources inputSources;
+    SimulatedBrowserPages browserPages;
+    SimulatedOverlayPanel overlayPanel;
     SimulatedProgramActivation activation;
     SimulatedEventPermissions eventPermissions;
     SimulatedInput input;
+    SimulatedMouse mouse{input};
+    SimulatedKeyboard keyboard{input};
     SimulatedDisplayLink displayLink;
     SimulatedCursor cursor;
     SimulatedAccessibilityTree accessibility;
@@ -62,10 +88,8 @@ struct SimulatedDesktop {
     SimulatedProcessLaunching processes;
     SimulatedApplicationOpening opening;
 
-    Platform platform{mainThread, clock, defaults, userFolders, container, notifications, instances,
-        applications, bundles, inputSources, browserPages, overlayPanel, activation,
-        eventPermissions, input, input, displayLink, cursor, accessibility, windows, processes,
-        opening};
+private:
+    Platform platform_;
 };
 
 } // namespace brindlex

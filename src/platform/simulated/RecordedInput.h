@@ -8,7 +8,8 @@
 
 namespace brindlex {
 
-/// Records what the handlers of taps decide, and what is posted, on its way to a real input.
+/// Records the verdicts of taps, and what is posted, on its way to another input, which may be
+/// real. What the other input refuses is not recorded.
 class RecordedInput : public EventTapping, public EventPosting {
 public:
     struct Decision {

@@ -1,0 +1,36 @@
+#include "inputmethod/InputMethodSubsystem.h"
+
+namespace brindlex {
+
+InputMethodConfigStore& InputMethodSubsystem::configStore()
+{
+    return configStore_.get(platform_.defaults);
+}
+
+SmartInputMethodConfigStore& InputMethodSubsystem::smartConfigStore()
+{
+    return smartConfigStore_.get(platform_.defaults);
+}
+
+InputMethodSwitchCoordinator& InputMethodSubsystem::switchCoordinator()
+{
+    return switchCoordinator_.get(configStore(), smartConfigStore(),
+        SwitchAbilities{
+            .mainThread = platform_.mainThread,
+            .clock = platform_.clock,
+            .applications = platform_.applications,
+            .bundles = platform_.bundles,
+            .inputSources = platform_.inputSources,
+            .browserPages = platform_.browserPages,
+        });
+}
+
+void InputMethodSubsystem::reload()
+{
+    if (auto* store = configStore_.ifMade())
+        store->reload();
+    if (auto* store = smartConfigStore_.ifMade())
+        store->reload();
+}
+
+} // namespace brindlex

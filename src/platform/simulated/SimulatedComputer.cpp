@@ -1,0 +1,45 @@
+#include "platform/simulated/SimulatedComputer.h"
+
+namespace brindlex {
+
+SimulatedComputer::SimulatedComputer(const SimulatedComputerSetup& setup)
+    : services(setup.services), defaults(setup.journal), container({}, setup.journal),
+      distributedNotifications(services->notifications, mainThread, setup.journal),
+      instances(services->session, setup.bundleID, setup.journal), applications(setup.journal),
+      inputSources(mainThread, setup.journal), browserPages(mainThread, setup.journal),
+      overlayPanel(mainThread, setup.journal), activation(setup.journal),
+      eventPermissions(setup.journal), input(setup.tapPlace, setup.journal),
+      displayLink(setup.journal), processes(setup.journal), opening(setup.journal),
+      platform_(platformWithInput(input, input))
+{
+}
+
+Platform SimulatedComputer::platformWithInput(EventTapping& tapping, EventPosting& posting)
+{
+    return {
+        .mainThread = mainThread,
+        .clock = clock,
+        .defaults = defaults,
+        .userFolders = userFolders,
+        .container = container,
+        .distributedNotifications = distributedNotifications,
+        .instances = instances,
+        .applications = applications,
+        .bundles = bundles,
+        .inputSources = inputSources,
+        .browserPages = browserPages,
+        .overlayPanel = overlayPanel,
+        .activation = activation,
+        .eventPermissions = eventPermissions,
+        .eventTapping = tapping,
+        .eventPosting = posting,
+        .displayLink = displayLink,
+        .cursor = cursor,
+        .accessibility = accessibility,
+        .windows = windows,
+        .processes = processes,
+        .opening = opening,
+    };
+}
+
+} // namespace brindlex
