@@ -14,7 +14,7 @@
 namespace brindlex {
 namespace {
 
-class SimulatedComputer {
+class SimulatedLauncher {
 public:
     ProcessLaunching& launching() { return launching_; }
 
@@ -74,7 +74,7 @@ protected:
     std::vector<std::string> reasons;
 };
 
-using Computers = testing::Types<SimulatedComputer, PosixComputer>;
+using Computers = testing::Types<SimulatedLauncher, PosixComputer>;
 class ComputerNames {
 public:
     template <typename Computer>

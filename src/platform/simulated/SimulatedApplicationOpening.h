@@ -7,7 +7,7 @@
 
 namespace brindlex {
 
-/// Notes what is opened.
+/// Records what is opened.
 class SimulatedApplicationOpening : public ApplicationOpening {
 public:
     explicit SimulatedApplicationOpening(SimulatedJournal::Writer journal = {}) : journal_(journal)

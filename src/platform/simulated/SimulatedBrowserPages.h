@@ -26,14 +26,14 @@ public:
         const std::string& bundleID, const std::string& script) override;
     Subscription observeChanges(std::function<void()> handler) override;
 
-    /// What the browser shows from now on; nothing makes it a browser that does not answer, and
+    /// What the browser shows from now on; nothing makes it a browser that does not respond, and
     /// what was read of it is forgotten with the next reading.
     void setPage(const std::string& bundleID, std::optional<std::string> url);
 
     /// Lets readings from now on wait until it is called with false.
     void setBusy(bool isBusy);
 
-    /// Every question so far, as it was put.
+    /// The script of every query so far.
     const std::vector<std::string>& scripts() const { return scripts_; }
 
 private:

@@ -6,7 +6,7 @@
 
 namespace brindlex {
 
-/// A screen that shows a frame when it is told to, or no screen.
+/// A screen that shows a frame when a test says so, or no screen.
 class SimulatedDisplayLink : public DisplayLink {
 public:
     explicit SimulatedDisplayLink(SimulatedJournal::Writer journal = {}) : journal_(journal) { }
@@ -24,7 +24,7 @@ public:
 
     /// Absent: there is no screen.
     std::optional<double> framesPerSecond = 60;
-    /// The rate that was last wished for.
+    /// The rate that was last requested.
     std::optional<double> lastWish{};
 
 private:

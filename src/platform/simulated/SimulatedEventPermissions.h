@@ -27,10 +27,10 @@ public:
         return journal_.addObservation("permissions", subscribers_.add(std::move(handler)));
     }
 
-    /// Gives or takes both, and says nothing.
+    /// Gives or takes both, without a notification.
     void set(bool isGranted) { isTrusted = canListen = isGranted; }
 
-    /// Tells that the permission to control others may have changed.
+    /// Notifies that the permission to control others may have changed.
     void tell() { subscribers_.notify(); }
 
     bool isTrusted = true;

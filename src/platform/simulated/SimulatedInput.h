@@ -54,7 +54,7 @@ public:
         cannotMake_ = std::move(cannotMake);
     }
 
-    /// Switches the taps off as the system does, and tells them why.
+    /// Switches the taps off as the system does, and notifies them with the reason.
     void switchTapsOff(EventType reason);
 
     /// The masks of the taps that live, the newest first, and how many there ever were.

@@ -47,7 +47,7 @@ public:
     /// Delays the notifications of a selection by this much.
     void delayNotifications(Seconds delay) { delay_ = delay; }
 
-    /// Makes the system unable to answer, or able again.
+    /// Makes the system unable to respond, or able again.
     void setAnswers(bool answers) { answers_ = answers; }
 
     /// The identifiers that the program has tried to select, failures included.

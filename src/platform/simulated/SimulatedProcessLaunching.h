@@ -8,7 +8,7 @@
 
 namespace brindlex {
 
-/// Notes what is launched, or refuses with a reason.
+/// Records what is launched, or refuses with a reason.
 class SimulatedProcessLaunching : public ProcessLaunching {
 public:
     struct Launch {

@@ -6,7 +6,7 @@
 
 namespace brindlex {
 
-/// The program comes to the front and goes when it is told to.
+/// The program comes to the front and goes when a test says so.
 class SimulatedProgramActivation : public ProgramActivation {
 public:
     explicit SimulatedProgramActivation(SimulatedJournal::Writer journal = {}) : journal_(journal)
