@@ -16,18 +16,19 @@ TEST(AppLifecycleCoordinator, wakesTheFirstInstanceAndStartsNothing)
 
     second.lifecycle.start();
 
+    const auto process = first.computer.instances.current();
     EXPECT_EQ(second.journal.entries(),
         (std::vector<std::string>{
             "observe preferences",
             "list com.brindlex.Brindlex",
             "post com.brindlex.Brindlex.showMainWindow com.brindlex.Brindlex",
-            "activate " + std::to_string(first.computer.instances.current()),
+            "activate " + std::to_string(static_cast<std::int64_t>(process)),
             "terminate",
         }));
     EXPECT_FALSE(second.lifecycle.isStarted());
     EXPECT_TRUE(second.computer.instances.isTerminating());
-    EXPECT_EQ(services->session.activated,
-        std::vector<ProgramInstances::ProcessIdentifier>{first.computer.instances.current()});
+    EXPECT_EQ(
+        services->session.activated, std::vector<ProgramInstances::ProcessIdentifier>{process});
 }
 
 TEST(AppLifecycleCoordinator, answersASecondLaunchBeforeTheUsersEyes)
