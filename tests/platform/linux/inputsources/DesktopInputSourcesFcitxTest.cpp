@@ -80,6 +80,17 @@ protected:
         return loopUntil([&] { return currentID(sources_) == id; });
     }
 
+    /// Waits until a window other than that one has the keyboard.
+    std::string keyboardApartFrom(const std::string& context)
+    {
+        std::string found;
+        EXPECT_TRUE(loopUntil([&] {
+            found = daemon_.context();
+            return !found.empty() && found != context;
+        }));
+        return found;
+    }
+
     VirtualDesktop desktop_;
     FcitxDaemon daemon_{desktop_, fcitxMethods};
     XConnection server_;
@@ -107,12 +118,13 @@ TEST_F(InputSourcesOfFcitx, takeASelectionBeforeAnyWindowTypes)
 TEST_F(InputSourcesOfFcitx, giveTheSelectionToAWindowThatGetsTheKeyboardLate)
 {
     const TypingWindow slow(windows_, "Slow");
+    const auto slowKeyboard = keyboardApartFrom("");
     const TypingWindow before(windows_, "Before");
+    keyboardApartFrom(slowKeyboard);
     EXPECT_TRUE(comesTo("xkb:us::eng"));
     std::vector<std::string> told;
     const auto subscription
         = sources_.observeSelectionChanges([&] { told.push_back(currentID(sources_)); });
-    const auto keyboardBefore = daemon_.context();
 
     ::kill(slow.process(), SIGSTOP);
     EXPECT_TRUE(windows_.activate(slow.window()));
@@ -123,10 +135,8 @@ TEST_F(InputSourcesOfFcitx, giveTheSelectionToAWindowThatGetsTheKeyboardLate)
     EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{700}, [&] { return told == all; }));
     ::kill(slow.process(), SIGCONT);
 
-    EXPECT_TRUE(loopUntil([&] {
-        const auto context = daemon_.context();
-        return !context.empty() && context != keyboardBefore && daemon_.current() == "pinyin";
-    }));
+    EXPECT_TRUE(loopUntil(
+        [&] { return daemon_.context() == slowKeyboard && daemon_.current() == "pinyin"; }));
     EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{500}, [&] { return told == all; }));
     EXPECT_EQ(currentID(sources_), "fcitx5:pinyin");
 }
