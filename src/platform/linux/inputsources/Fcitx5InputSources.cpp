@@ -154,7 +154,7 @@ void Fcitx5InputSources::readMethods(const QString& group, DBusDeadline deadline
             for (const auto& member : fcitx5GroupMembers(reply.arguments()[1]))
                 enabled.append(member.method);
             whenAnswered(available, deadline, &context_,
-                [this, enabled](const QDBusMessage& answer) { setMethods(enabled, answer); });
+                [this, enabled](const QDBusMessage& methods) { setMethods(enabled, methods); });
         });
 }
 
@@ -187,7 +187,7 @@ void Fcitx5InputSources::setMethods(const QStringList& enabled, const QDBusMessa
 
 void Fcitx5InputSources::readCurrent(DBusDeadline deadline)
 {
-    // A daemon that hangs is asked once, and waited for once.
+    // A daemon that hangs gets one request, and is waited for once.
     const auto selection = selection_.beginRead();
     if (!selection)
         return;

@@ -31,18 +31,18 @@ namespace brindlex {
 /// meanwhile is the choice of the user.
 class Fcitx5InputSources final : public InputSourceBackend {
 public:
-    /// Asks the daemon what it has; waits for that until the deadline and goes on from the loop.
+    /// Requests what the daemon has; waits for that until the deadline and goes on from the loop.
     Fcitx5InputSources(QDBusConnection bus, X11Connection& connection, XkbRegistry& registry,
         DBusDeadline deadline);
 
     std::string_view name() const override { return "Fcitx 5"; }
-    bool isUsable() const override { return hasAnswered() && !sources_.empty(); }
+    bool isUsable() const override { return hasReplied() && !sources_.empty(); }
     std::optional<std::string> current() override;
     const std::vector<InputSource>& sources() override { return sources_; }
     SelectionStatus select(const std::string& id) override;
 
-    /// Whether the daemon has answered all that was asked at the beginning.
-    bool hasAnswered() const { return hasMethods_ && selection_.hasRead(); }
+    /// Whether the daemon has replied to all requests of the beginning.
+    bool hasReplied() const { return hasMethods_ && selection_.hasRead(); }
     /// Why it is not usable, in the words of the daemon; empty when nothing went wrong.
     const std::string& problem() const { return problem_; }
 

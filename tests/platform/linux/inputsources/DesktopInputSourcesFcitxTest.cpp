@@ -122,22 +122,22 @@ TEST_F(InputSourcesOfFcitx, giveTheSelectionToAWindowThatGetsTheKeyboardLate)
     const TypingWindow before(windows_, "Before");
     keyboardApartFrom(slowKeyboard);
     EXPECT_TRUE(comesTo("xkb:us::eng"));
-    std::vector<std::string> told;
+    std::vector<std::string> notified;
     const auto subscription
-        = sources_.observeSelectionChanges([&] { told.push_back(currentID(sources_)); });
+        = sources_.observeSelectionChanges([&] { notified.push_back(currentID(sources_)); });
 
     ::kill(slow.process(), SIGSTOP);
     EXPECT_TRUE(windows_.activate(slow.window()));
     EXPECT_TRUE(loopUntil([&] { return daemon_.context().empty(); }));
     EXPECT_EQ(selectID(sources_, "fcitx5:pinyin"), 0);
-    EXPECT_TRUE(loopUntil([&] { return !told.empty() && told.back() == "fcitx5:pinyin"; }));
-    const auto all = told;
-    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{700}, [&] { return told == all; }));
+    EXPECT_TRUE(loopUntil([&] { return !notified.empty() && notified.back() == "fcitx5:pinyin"; }));
+    const auto all = notified;
+    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{700}, [&] { return notified == all; }));
     ::kill(slow.process(), SIGCONT);
 
     EXPECT_TRUE(loopUntil(
         [&] { return daemon_.context() == slowKeyboard && daemon_.current() == "pinyin"; }));
-    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{500}, [&] { return told == all; }));
+    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{500}, [&] { return notified == all; }));
     EXPECT_EQ(currentID(sources_), "fcitx5:pinyin");
 }
 
