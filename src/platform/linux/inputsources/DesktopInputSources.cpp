@@ -19,7 +19,7 @@ constexpr auto busName = "org.freedesktop.DBus";
 constexpr auto busPath = "/org/freedesktop/DBus";
 constexpr int callLimitMilliseconds = 5000;
 constexpr auto startWait = 100ms;
-/// When to ask a daemon again that runs and could not be used: it may still be starting.
+/// When to try a daemon again that runs and could not be used: it may still be starting.
 constexpr std::array retryDelays{250ms, 500ms, 1000ms, 2000ms, 4000ms, 8000ms};
 
 InputSourceProperties propertiesOf(const InputSource& source)
@@ -69,8 +69,8 @@ DesktopInputSources::DesktopInputSources(X11Connection& connection, QDBusConnect
         findDaemons(std::chrono::steady_clock::now() + startWait);
     }
     announce(bestBackend());
-    toldSources_ = backend_->sources();
-    toldSelection_ = backend_->current();
+    notifiedSources_ = backend_->sources();
+    notifiedSelection_ = backend_->current();
 }
 
 DesktopInputSources::~DesktopInputSources() = default;
@@ -117,18 +117,18 @@ Subscription DesktopInputSources::observeEnabledSourcesChanges(std::function<voi
 
 void DesktopInputSources::findDaemons(DBusDeadline deadline)
 {
-    const auto ask = [this](const char* daemon) {
-        auto question = QDBusMessage::createMethodCall(QLatin1String(busName),
+    const auto hasOwner = [this](const char* daemon) {
+        auto request = QDBusMessage::createMethodCall(QLatin1String(busName),
             QLatin1String(busPath), QLatin1String(busName), QStringLiteral("NameHasOwner"));
-        question.setArguments({QLatin1String(daemon)});
-        return bus_.asyncCall(question, callLimitMilliseconds);
+        request.setArguments({QLatin1String(daemon)});
+        return bus_.asyncCall(request, callLimitMilliseconds);
     };
     const auto isYes = [](const QDBusMessage& reply) {
         return reply.type() == QDBusMessage::ReplyMessage && !reply.arguments().isEmpty()
             && reply.arguments().first().toBool();
     };
-    const auto ibus = ask(ibusName);
-    whenAnswered(ask(fcitxName), deadline, &context_,
+    const auto ibus = hasOwner(ibusName);
+    whenAnswered(hasOwner(fcitxName), deadline, &context_,
         [this, ibus, isYes, deadline](const QDBusMessage& fcitxReply) {
             takeFcitx(isYes(fcitxReply), deadline);
             whenAnswered(
@@ -144,7 +144,7 @@ void DesktopInputSources::takeFcitx(bool isRunning, DBusDeadline deadline)
     isFcitxRunning_ = isRunning;
     if (!isRunning) {
         dropFcitx();
-    } else if (!fcitx_ || !fcitx_->hasAnswered()) {
+    } else if (!fcitx_ || !fcitx_->hasReplied()) {
         dropFcitx();
         fcitx_ = std::make_unique<Fcitx5InputSources>(bus_, connection_, registry_, deadline);
         fcitxChanges_ = fcitx_->observe([this] { settleSoon_.start(); });
@@ -157,7 +157,7 @@ void DesktopInputSources::takeIBus(bool isRunning, DBusDeadline deadline)
     isIBusRunning_ = isRunning;
     if (!isRunning) {
         dropIBus();
-    } else if (!ibus_ || !ibus_->hasAnswered()) {
+    } else if (!ibus_ || !ibus_->hasReplied()) {
         dropIBus();
         ibus_ = std::make_unique<IBusInputSources>(xkb_, deadline);
         ibusChanges_ = ibus_->observe([this] { settleSoon_.start(); });
@@ -201,9 +201,9 @@ InputSourceBackend& DesktopInputSources::bestBackend()
 void DesktopInputSources::tryAgainLater()
 {
     std::string problem;
-    if (fcitx_ && !fcitx_->hasAnswered() && !fcitx_->problem().empty())
+    if (fcitx_ && !fcitx_->hasReplied() && !fcitx_->problem().empty())
         problem = "Fcitx 5 cannot be used: " + fcitx_->problem();
-    else if (ibus_ && !ibus_->hasAnswered() && !ibus_->problem().empty())
+    else if (ibus_ && !ibus_->hasReplied() && !ibus_->problem().empty())
         problem = "IBus cannot be used: " + ibus_->problem();
     if (problem.empty() || retry_.isActive())
         return;
@@ -215,13 +215,13 @@ void DesktopInputSources::tryAgainLater()
 
 void DesktopInputSources::settle()
 {
-    // Its connection may end before the bus tells that its name has no owner any more.
-    if (ibus_ && !ibus_->hasAnswered())
+    // Its connection may end before the bus notifies that its name has no owner any more.
+    if (ibus_ && !ibus_->hasReplied())
         leave(ibus_.get());
     announce(bestBackend());
     tryAgainLater();
-    tellOfSources();
-    tellOfSelection();
+    notifyOfSources();
+    notifyOfSelection();
 }
 
 void DesktopInputSources::announce(InputSourceBackend& backend)
@@ -232,20 +232,20 @@ void DesktopInputSources::announce(InputSourceBackend& backend)
             "Input sources come from " + std::string(backend.name()), logCategory::inputMethod);
 }
 
-void DesktopInputSources::tellOfSources()
+void DesktopInputSources::notifyOfSources()
 {
-    if (!backend_->isUsable() || backend_->sources() == toldSources_)
+    if (!backend_->isUsable() || backend_->sources() == notifiedSources_)
         return;
-    toldSources_ = backend_->sources();
+    notifiedSources_ = backend_->sources();
     enabledSourcesObservers_.notify();
 }
 
-void DesktopInputSources::tellOfSelection()
+void DesktopInputSources::notifyOfSelection()
 {
     auto now = backend_->current();
-    if (!now || now == toldSelection_)
+    if (!now || now == notifiedSelection_)
         return;
-    toldSelection_ = std::move(now);
+    notifiedSelection_ = std::move(now);
     selectionObservers_.notify();
 }
 

@@ -21,12 +21,13 @@ namespace brindlex {
 /// The input sources of a Linux desktop, from the program that switches them there: Fcitx 5 when it
 /// runs, else IBus when it runs and has something to switch, else the X server's keyboard groups.
 ///
-/// No daemon is started by asking. One that comes, goes or changes what it offers is followed, also
-/// a restart. Each change is told once, from the loop; changes that follow each other within one
-/// turn of the loop count as one. The status numbers of `select` are those of `SelectionStatus`.
+/// No daemon is started by a request. One that comes, goes or changes what it offers is followed,
+/// also a restart. Each change is notified once, from the loop; changes that follow each other
+/// within one turn of the loop count as one. The status numbers of `select` are those of
+/// `SelectionStatus`.
 class DesktopInputSources final : public KeyboardInputSources {
 public:
-    /// Waits up to 100 ms for the daemons; one that is slower is taken up when it has answered.
+    /// Waits up to 100 ms for the daemons; one that is slower is taken up when it has replied.
     DesktopInputSources(X11Connection& connection, QDBusConnection sessionBus);
     ~DesktopInputSources() override;
 
@@ -46,12 +47,12 @@ private:
     void takeIBus(bool isRunning, DBusDeadline deadline);
     void dropFcitx();
     void dropIBus();
-    /// Says that the backend has gone, and goes on with the server's groups, if it is in use.
+    /// Logs that the backend has gone, and goes on with the server's groups, if it is in use.
     void leave(const InputSourceBackend* backend);
     void settle();
     void announce(InputSourceBackend& backend);
-    void tellOfSources();
-    void tellOfSelection();
+    void notifyOfSources();
+    void notifyOfSelection();
     void tryAgainLater();
     InputSourceBackend& bestBackend();
 
@@ -63,8 +64,8 @@ private:
     std::unique_ptr<IBusInputSources> ibus_;
     std::unique_ptr<Fcitx5InputSources> fcitx_;
     InputSourceBackend* backend_;
-    std::vector<InputSource> toldSources_;
-    std::optional<std::string> toldSelection_;
+    std::vector<InputSource> notifiedSources_;
+    std::optional<std::string> notifiedSelection_;
     QTimer settleSoon_;
     QTimer retry_;
     std::size_t retries_ = 0;

@@ -1,7 +1,5 @@
 #include "platform/linux/inputsources/Fcitx5InputSources.h"
 
-#include "foundation/Text.h"
-#include "log/Log.h"
 #include "platform/InputSourceIdentifiers.h"
 #include "platform/linux/inputsources/Fcitx5Contexts.h"
 #include "platform/linux/inputsources/Fcitx5Method.h"
@@ -15,6 +13,7 @@ namespace brindlex {
 namespace {
 
 using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
 
 constexpr auto daemonName = "org.fcitx.Fcitx5";
 constexpr auto controllerPath = "/controller";
@@ -22,13 +21,9 @@ constexpr auto controllerInterface = "org.fcitx.Fcitx.Controller1";
 
 constexpr int callLimitMilliseconds = 5000;
 constexpr auto pollInterval = 222ms;
-constexpr auto firstLookDelay = 100ms;
-/// A window that is seen to have the keyboard earlier may be the one that is just losing it.
-constexpr auto timeToBeSure = 300ms;
-/// An answer takes 0.2 ms, a selection 1 to 3 ms; a daemon that hangs must not hold us up.
-constexpr auto answerWait = 20ms;
+/// A reply takes 0.2 ms, a selection 1 to 3 ms; a daemon that hangs must not hold us up.
+constexpr auto readWait = 20ms;
 constexpr auto selectionWait = 30ms;
-constexpr auto freshFor = 50ms;
 
 bool isError(const QDBusMessage& reply) { return reply.type() == QDBusMessage::ErrorMessage; }
 
@@ -38,10 +33,23 @@ QString textOf(const QDBusMessage& reply)
     return reply.arguments().isEmpty() ? QString() : reply.arguments().first().toString();
 }
 
-/// Empty as long as there is no reply.
-QString focusedContext(const QDBusPendingCall& debugInfo)
+std::string focusedContext(const QDBusMessage& debugInfo)
 {
-    return debugInfo.isFinished() ? fcitx5FocusedContext(textOf(debugInfo.reply())) : QString();
+    return fcitx5FocusedContext(textOf(debugInfo)).toStdString();
+}
+
+/// Empty as long as there is no reply.
+std::string focusedContext(const QDBusPendingCall& debugInfo)
+{
+    return debugInfo.isFinished() ? focusedContext(debugInfo.reply()) : std::string();
+}
+
+/// Absent as long as there is no reply.
+std::optional<std::string> methodOf(const QDBusPendingCall& current)
+{
+    if (!current.isFinished() || current.isError())
+        return {};
+    return textOf(current.reply()).toStdString();
 }
 
 } // namespace
@@ -55,28 +63,25 @@ Fcitx5InputSources::Fcitx5InputSources(
         QStringList(), [this](const QDBusMessage&) { readGroup(doNotWait); }));
     signals_.push_back(std::make_unique<DBusSignal>(bus_, QStringLiteral("/StatusNotifierItem"),
         QStringLiteral("org.kde.StatusNotifierItem"), QStringLiteral("NewIcon"), QStringList(),
-        [this](const QDBusMessage&) { ask(); }));
+        [this](const QDBusMessage&) { poll(); }));
 
-    poll_.setInterval(pollInterval);
-    QObject::connect(&poll_, &QTimer::timeout, &context_, [this] { ask(); });
-    firstLook_.setSingleShot(true);
-    firstLook_.setInterval(firstLookDelay);
-    QObject::connect(&firstLook_, &QTimer::timeout, &context_, [this] { look(); });
+    pollTimer_.setInterval(pollInterval);
+    QObject::connect(&pollTimer_, &QTimer::timeout, &context_, [this] { poll(); });
+    firstCheck_.setSingleShot(true);
+    firstCheck_.setInterval(Fcitx5Selection::firstCheckDelay);
+    QObject::connect(&firstCheck_, &QTimer::timeout, &context_, [this] { check(); });
 
     readGroup(deadline);
     readCurrent(deadline);
-    poll_.start();
+    pollTimer_.start();
 }
 
 std::optional<std::string> Fcitx5InputSources::current()
 {
-    if (wish_)
-        return sourceOf(wish_->method);
-    if (Clock::now() - readAt_ > freshFor)
-        readCurrent(Clock::now() + answerWait);
-    if (!method_)
-        return {};
-    return sourceOf(*method_);
+    if (selection_.isStale(Clock::now()))
+        readCurrent(Clock::now() + readWait);
+    const auto method = selection_.method();
+    return method ? sourceOf(*method) : std::nullopt;
 }
 
 SelectionStatus Fcitx5InputSources::select(const std::string& id)
@@ -89,34 +94,31 @@ SelectionStatus Fcitx5InputSources::select(const std::string& id)
         return SelectionStatus::unknownSource;
     const auto method = methods_[static_cast<std::size_t>(found - sources_.begin())];
 
-    // The daemon answers in this order.
+    // The daemon replies in this order.
     const auto contexts = call("DebugInfo");
     call("SetCurrentIM", {QString::fromStdString(method)});
-    const int question = ++question_;
     const auto pending = call("CurrentInputMethod");
-    wish_ = Wish{method, activeWindow(connection_)};
-    firstLook_.stop();
-    const int selection = ++selection_;
-    if (!waitForAnswer(pending, Clock::now() + selectionWait)) {
-        whenAnswered(
-            pending, doNotWait, &context_, [this, selection, contexts](const QDBusMessage&) {
-                if (selection == selection_ && wish_)
-                    wish_->context = focusedContext(contexts);
-                lookSoon(selection);
-            });
-        return SelectionStatus::done;
-    }
-    wish_->context = focusedContext(contexts);
-    const auto reply = pending.reply();
-    if (question == question_)
-        takeCurrent(reply);
-    // While no window types through the daemon nothing is selected; the active one may soon do so.
-    if (!isError(reply) && (!method_ || method_ == method)) {
-        lookSoon(selection);
-        return SelectionStatus::done;
-    }
-    wish_.reset();
-    return isError(reply) ? SelectionStatus::notConnected : SelectionStatus::refused;
+    const auto window = activeWindow(connection_);
+    const int selection = selection_.select(method, window, Clock::now());
+    firstCheck_.stop();
+    if (waitForAnswer(pending, Clock::now() + selectionWait))
+        return confirm(selection, contexts, pending.reply());
+    whenAnswered(pending, doNotWait, &context_, [this, selection, contexts](const QDBusMessage&) {
+        if (selection_.acknowledge(selection, focusedContext(contexts)))
+            firstCheck_.start();
+    });
+    return SelectionStatus::done;
+}
+
+SelectionStatus Fcitx5InputSources::confirm(
+    int selection, const QDBusPendingCall& contexts, const QDBusMessage& reply)
+{
+    selection_.acknowledge(selection, focusedContext(contexts));
+    takeCurrent(reply);
+    const auto status = selection_.confirm(isError(reply));
+    if (status == SelectionStatus::done)
+        firstCheck_.start();
+    return status;
 }
 
 QDBusPendingCall Fcitx5InputSources::call(const char* member, const QVariantList& arguments) const
@@ -152,7 +154,7 @@ void Fcitx5InputSources::readMethods(const QString& group, DBusDeadline deadline
             for (const auto& member : fcitx5GroupMembers(reply.arguments()[1]))
                 enabled.append(member.method);
             whenAnswered(available, deadline, &context_,
-                [this, enabled](const QDBusMessage& answer) { setMethods(enabled, answer); });
+                [this, enabled](const QDBusMessage& methods) { setMethods(enabled, methods); });
         });
 }
 
@@ -185,84 +187,56 @@ void Fcitx5InputSources::setMethods(const QStringList& enabled, const QDBusMessa
 
 void Fcitx5InputSources::readCurrent(DBusDeadline deadline)
 {
-    // A daemon that hangs is asked once, and waited for once.
-    if (std::exchange(isAsking_, true))
+    // A daemon that hangs gets one request, and is waited for once.
+    const auto selection = selection_.beginRead();
+    if (!selection)
         return;
     whenAnswered(call("CurrentInputMethod"), deadline, &context_,
-        [this, question = ++question_](const QDBusMessage& reply) {
-            isAsking_ = false;
-            if (question == question_)
+        [this, selection = *selection](const QDBusMessage& reply) {
+            if (selection_.endRead(selection))
                 takeCurrent(reply);
         });
 }
 
 void Fcitx5InputSources::takeCurrent(const QDBusMessage& reply)
 {
-    if (isError(reply) || reply.arguments().isEmpty()) {
+    if (isError(reply) || reply.arguments().isEmpty())
         fail(reply);
-        return;
-    }
-    setCurrent(textOf(reply).toStdString());
-}
-
-void Fcitx5InputSources::setCurrent(const std::string& method)
-{
-    readAt_ = Clock::now();
-    const bool isNew = !hasCurrent_ || method_ != method;
-    hasCurrent_ = true;
-    // Without an input method nothing is said about what the user types with.
-    method_ = method.empty() ? std::nullopt : std::optional(method);
-    if (isNew)
+    else if (selection_.take(textOf(reply).toStdString(), Clock::now()))
         notify();
 }
 
-void Fcitx5InputSources::ask()
+void Fcitx5InputSources::poll()
 {
-    if (wish_)
-        look();
+    if (selection_.isKeeping())
+        check();
     else
         readCurrent(doNotWait);
 }
 
-void Fcitx5InputSources::lookSoon(int selection)
+void Fcitx5InputSources::check()
 {
-    if (selection == selection_)
-        firstLook_.start();
-}
-
-void Fcitx5InputSources::look()
-{
-    if (!wish_ || std::exchange(isLooking_, true))
+    const auto selection = selection_.beginCheck();
+    if (!selection)
         return;
     const auto before = call("DebugInfo");
     const auto current = call("CurrentInputMethod");
     whenAnswered(call("DebugInfo"), doNotWait, &context_,
-        [this, before, current, selection = selection_](const QDBusMessage& after) {
-            isLooking_ = false;
-            const auto context = focusedContext(before);
-            // While the keyboard moves, nobody knows whose method was told.
-            if (selection == selection_ && wish_ && current.isFinished() && !current.isError()
-                && context == fcitx5FocusedContext(textOf(after)))
-                judge(textOf(current.reply()).toStdString(), context);
+        [this, before, current, selection = *selection](const QDBusMessage& after) {
+            endCheck(selection,
+                {focusedContext(before), focusedContext(after), methodOf(current),
+                    activeWindow(connection_)});
         });
 }
 
-void Fcitx5InputSources::judge(const std::string& method, const QString& context)
+void Fcitx5InputSources::endCheck(int selection, const Fcitx5Selection::Observation& seen)
 {
-    const auto active = activeWindow(connection_);
-    const bool isOver = active != XCB_WINDOW_NONE && active != wish_->window;
-    const bool isSure = Clock::now() - wish_->since > timeToBeSure;
-    if (context.isEmpty() && !isOver)
-        return;
-    if (!isOver && method != wish_->method && context != wish_->context) {
-        call("SetCurrentIM", {QString::fromStdString(wish_->method)});
-        wish_->context = context;
-        wish_->since = Clock::now();
-    } else if (isOver || isSure || method != wish_->method) {
-        wish_.reset();
-        setCurrent(method);
+    using Verdict = Fcitx5Selection::Verdict;
+    const auto verdict = selection_.endCheck(selection, seen, Clock::now());
+    if (verdict == Verdict::requestAgain)
+        call("SetCurrentIM", {QString::fromStdString(*selection_.method())});
+    if (verdict == Verdict::end)
         notify();
-    }
 }
 
 void Fcitx5InputSources::fail(const QDBusMessage& reply)

@@ -7,7 +7,7 @@
 
 namespace brindlex {
 
-/// What Fcitx 5 says of one of its input methods, as far as it is of use here.
+/// What Fcitx 5 publishes of one of its input methods, as far as it is of use here.
 struct Fcitx5Method {
     QString method{};
     QString name{};

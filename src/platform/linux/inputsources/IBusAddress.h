@@ -8,7 +8,7 @@
 
 namespace brindlex {
 
-/// Where an IBus daemon says that it can be reached.
+/// Where an IBus daemon can be reached.
 struct IBusAddress {
     std::string address{};
     std::int64_t processIdentifier = 0;
@@ -24,7 +24,7 @@ std::optional<IBusAddress> parseIBusAddress(std::string_view content);
 std::filesystem::path ibusAddressFile(const std::filesystem::path& configFolder,
     const std::string& machine, const std::string& display);
 
-/// The address of the daemon of this session, as environment and address file tell. The file stays
+/// The address of the daemon of this session, from environment and address file. The file stays
 /// behind when a daemon dies: nothing when its process does not run any more.
 std::optional<IBusAddress> ibusAddress();
 

@@ -13,7 +13,7 @@ namespace {
 constexpr IBusConnection::Service bus{
     "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus"};
 
-/// How long an answer is worth anything.
+/// How long a reply is worth anything.
 constexpr int callLimitMilliseconds = 5000;
 
 QString newConnectionName()
@@ -44,7 +44,7 @@ IBusConnection::~IBusConnection()
 }
 
 void IBusConnection::greet(
-    DBusDeadline deadline, std::function<void(const QDBusMessage& answer)> ready)
+    DBusDeadline deadline, std::function<void(const QDBusMessage& reply)> ready)
 {
     whenAnswered(call(bus, "Hello", {}), deadline, &context_, std::move(ready));
 }
@@ -64,7 +64,7 @@ void IBusConnection::follow(const Service& service, const char* member, DBusSign
     signals_.push_back(std::make_unique<DBusSignal>(bus_, QLatin1String(service.path),
         QLatin1String(service.interface), QLatin1String(member), QStringList(),
         std::move(handler)));
-    // A peer does not ask the bus for signals by itself.
+    // A peer does not subscribe to signals by itself.
     call(bus, "AddMatch",
         {QStringLiteral("type='signal',path='%1',interface='%2',member='%3'")
                 .arg(QLatin1String(service.path), QLatin1String(service.interface),

@@ -26,7 +26,7 @@ public:
         const char* interface;
     };
 
-    /// Connects; without a daemon, `problem` says why.
+    /// Connects; without a daemon, `problem` has the reason.
     IBusConnection();
     ~IBusConnection();
     IBusConnection(const IBusConnection&) = delete;
@@ -36,9 +36,9 @@ public:
     /// Why there is no connection, in the words of the system; empty while there is one.
     const std::string& problem() const { return problem_; }
 
-    /// Calls `ready` with the answer to the greeting, once, before the deadline or from the loop.
-    /// The daemon answers nothing that reaches it before it has given the connection a name.
-    void greet(DBusDeadline deadline, std::function<void(const QDBusMessage& answer)> ready);
+    /// Calls `ready` with the reply to the greeting, once, before the deadline or from the loop.
+    /// The daemon replies to nothing that reaches it before it has given the connection a name.
+    void greet(DBusDeadline deadline, std::function<void(const QDBusMessage& reply)> ready);
     QDBusPendingCall call(
         const Service& service, const char* member, const QVariantList& arguments) const;
     /// Calls the handler with each such signal, for as long as the connection lives.

@@ -8,7 +8,7 @@
 
 namespace brindlex {
 
-/// What IBus says of one of its engines.
+/// What IBus publishes of one of its engines.
 struct IBusEngine {
     std::string name{};
     std::string longName{};

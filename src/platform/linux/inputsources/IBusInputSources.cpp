@@ -54,9 +54,9 @@ IBusInputSources::IBusInputSources(XkbInputSources& layouts, DBusDeadline deadli
 {
     if (!bus_.isConnected())
         return;
-    bus_.greet(deadline, [this, deadline](const QDBusMessage& answer) {
-        if (answer.type() == QDBusMessage::ErrorMessage) {
-            fail(answer);
+    bus_.greet(deadline, [this, deadline](const QDBusMessage& reply) {
+        if (reply.type() == QDBusMessage::ErrorMessage) {
+            fail(reply);
             return;
         }
         listen();
@@ -71,7 +71,7 @@ bool IBusInputSources::isUsable() const
 {
     const bool switches
         = engines_.size() > 1 || (engines_.size() == 1 && !isPlainLayout(engines_.front()));
-    return hasAnswered() && switches;
+    return hasReplied() && switches;
 }
 
 std::optional<std::string> IBusInputSources::current()
@@ -96,36 +96,37 @@ SelectionStatus IBusInputSources::select(const std::string& id)
     if (group && *group != groupBefore)
         layouts_.lockGroup(*group);
 
-    if (!selection_.want({found->name, groupBefore}))
+    if (!selection_.request({found->name, groupBefore}))
         return SelectionStatus::done;
-    return ask(std::chrono::steady_clock::now() + selectionWait);
+    return callForEngine(std::chrono::steady_clock::now() + selectionWait);
 }
 
-SelectionStatus IBusInputSources::ask(DBusDeadline deadline)
+SelectionStatus IBusInputSources::callForEngine(DBusDeadline deadline)
 {
-    const auto asked = selection_.ask();
+    const auto called = selection_.beginCall();
     const auto pending
-        = bus_.call(daemon, "SetGlobalEngine", {QString::fromStdString(asked.engine)});
+        = bus_.call(daemon, "SetGlobalEngine", {QString::fromStdString(called.engine)});
     if (waitForAnswer(pending, deadline))
-        return finish(asked, pending.reply());
+        return finish(called, pending.reply());
     whenAnswered(pending, doNotWait, &context_,
-        [this, asked](const QDBusMessage& reply) { finish(asked, reply); });
+        [this, called](const QDBusMessage& reply) { finish(called, reply); });
     return SelectionStatus::done;
 }
 
 SelectionStatus IBusInputSources::finish(
-    const IBusSelection::Wish& asked, const QDBusMessage& reply)
+    const IBusSelection::Request& called, const QDBusMessage& reply)
 {
     const bool isRefused = reply.type() == QDBusMessage::ErrorMessage;
     if (isRefused)
-        Log::warn("IBus did not select " + asked.engine + ": " + reply.errorMessage().toStdString(),
+        Log::warn(
+            "IBus did not select " + called.engine + ": " + reply.errorMessage().toStdString(),
             logCategory::inputMethod);
-    if (!selection_.take(isRefused)) {
-        ask(doNotWait);
+    if (!selection_.endCall(isRefused)) {
+        callForEngine(doNotWait);
         return SelectionStatus::done;
     }
     if (isRefused)
-        layouts_.lockGroup(asked.groupBefore);
+        layouts_.lockGroup(called.groupBefore);
     notify();
     if (!isRefused)
         return SelectionStatus::done;
@@ -195,7 +196,7 @@ void IBusInputSources::readCurrent(DBusDeadline deadline)
     const QVariantList arguments{QLatin1String(daemon.interface), QStringLiteral("GlobalEngine")};
     whenAnswered(bus_.call(daemonProperties, "Get", arguments), deadline, &context_,
         [this](const QDBusMessage& reply) {
-            // A daemon in which nothing was selected yet answers with this error.
+            // A daemon in which nothing was selected yet returns this error.
             const bool hasNone = reply.type() == QDBusMessage::ErrorMessage
                 && reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.Failed");
             if (reply.type() == QDBusMessage::ErrorMessage && !hasNone) {
@@ -203,7 +204,7 @@ void IBusInputSources::readCurrent(DBusDeadline deadline)
                 return;
             }
             if (const auto engine = ibusEngine(firstOf(reply)))
-                selection_.begin(engine->name);
+                selection_.start(engine->name);
             hasCurrent_ = true;
             notify();
         });
@@ -211,7 +212,7 @@ void IBusInputSources::readCurrent(DBusDeadline deadline)
 
 void IBusInputSources::become(const std::string& engine)
 {
-    if (selection_.hear(engine))
+    if (selection_.follow(engine))
         notify();
 }
 

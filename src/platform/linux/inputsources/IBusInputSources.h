@@ -23,7 +23,7 @@ namespace brindlex {
 /// daemon: once it has gone, it stays unusable.
 class IBusInputSources final : public InputSourceBackend {
 public:
-    /// Connects to the daemon and asks it what it has; waits for that until the deadline and goes
+    /// Connects to the daemon and requests what it has; waits for that until the deadline and goes
     /// on from the loop.
     IBusInputSources(XkbInputSources& layouts, DBusDeadline deadline);
     ~IBusInputSources() override;
@@ -34,8 +34,8 @@ public:
     const std::vector<InputSource>& sources() override { return sources_; }
     SelectionStatus select(const std::string& id) override;
 
-    /// Whether the daemon has answered all that was asked at the beginning, and is still there.
-    bool hasAnswered() const { return hasEngines_ && hasCurrent_ && !hasGone_; }
+    /// Whether the daemon has replied to all requests of the beginning, and is still there.
+    bool hasReplied() const { return hasEngines_ && hasCurrent_ && !hasGone_; }
     /// Why it is not usable, in the words of the system; empty when nothing went wrong.
     const std::string& problem() const { return problem_; }
 
@@ -46,8 +46,8 @@ private:
     void setEngines(const QStringList& names, const QVariant& descriptions);
     void readCurrent(DBusDeadline deadline);
     void become(const std::string& engine);
-    SelectionStatus ask(DBusDeadline deadline);
-    SelectionStatus finish(const IBusSelection::Wish& asked, const QDBusMessage& reply);
+    SelectionStatus callForEngine(DBusDeadline deadline);
+    SelectionStatus finish(const IBusSelection::Request& called, const QDBusMessage& reply);
     void fail(const QDBusMessage& reply);
     /// The group for the engine's layout; nothing when its layout is not among the groups.
     std::optional<int> groupFor(const IBusEngine& engine);

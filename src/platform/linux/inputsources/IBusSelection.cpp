@@ -7,38 +7,38 @@ namespace brindlex {
 
 std::optional<std::string> IBusSelection::engine() const
 {
-    return wanted_ ? wanted_->engine : selected_;
+    return requested_ ? requested_->engine : selected_;
 }
 
-bool IBusSelection::want(Wish wish)
+bool IBusSelection::request(Request request)
 {
-    if (!wanted_ && selected_ == wish.engine)
+    if (!requested_ && selected_ == request.engine)
         return false;
-    wanted_ = std::move(wish);
-    return !asked_;
+    requested_ = std::move(request);
+    return !called_;
 }
 
-IBusSelection::Wish IBusSelection::ask()
+IBusSelection::Request IBusSelection::beginCall()
 {
-    asked_ = wanted_;
-    echoes_.push_back(asked_->engine);
-    return *asked_;
+    called_ = requested_;
+    echoes_.push_back(called_->engine);
+    return *called_;
 }
 
-bool IBusSelection::take(bool isRefused)
+bool IBusSelection::endCall(bool isRefused)
 {
-    const auto asked = *std::exchange(asked_, std::nullopt);
+    const auto called = *std::exchange(called_, std::nullopt);
     if (isRefused)
-        std::erase(echoes_, asked.engine);
+        std::erase(echoes_, called.engine);
     else
-        selected_ = asked.engine;
-    if (wanted_->engine != asked.engine)
+        selected_ = called.engine;
+    if (requested_->engine != called.engine)
         return false;
-    wanted_.reset();
+    requested_.reset();
     return true;
 }
 
-bool IBusSelection::hear(const std::string& engine)
+bool IBusSelection::follow(const std::string& engine)
 {
     const auto echo = std::find(echoes_.begin(), echoes_.end(), engine);
     echoes_.erase(echoes_.begin(), echo == echoes_.end() ? echo : echo + 1);

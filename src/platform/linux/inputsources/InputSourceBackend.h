@@ -19,17 +19,16 @@ struct InputSource {
     bool operator==(const InputSource&) const = default;
 };
 
-/// What became of a selection; the numbers are the status that `KeyboardInputSources` answers.
+/// What became of a selection; the numbers are the status that `KeyboardInputSources` returns.
 enum class SelectionStatus : int {
-    /// Selected, or on the way: a daemon that takes its time was asked, and what comes of it is
-    /// told
-    /// as a change.
+    /// Selected, or on the way: a daemon that takes its time has the request, and what comes of it
+    /// is notified as a change.
     done = 0,
     /// There is no such source.
     unknownSource = 1,
     /// The server or the daemon has gone.
     notConnected = 2,
-    /// The daemon said no, or said yes and did nothing.
+    /// The daemon returned an error, or did nothing.
     refused = 3,
 };
 
@@ -41,7 +40,7 @@ public:
     /// For people: "IBus".
     virtual std::string_view name() const = 0;
 
-    /// Whether it can be used now: it has answered and has sources to choose from.
+    /// Whether it can be used now: it has replied and has sources to choose from.
     virtual bool isUsable() const = 0;
 
     /// The identifier of the selected source; while a selection is on its way, that of its target.
@@ -53,7 +52,7 @@ public:
     /// Selects one of `sources`.
     virtual SelectionStatus select(const std::string& id) = 0;
 
-    /// Told that any of the answers above may be another now, also from inside calls.
+    /// Notifies that anything above may return something else now, also from inside calls.
     Subscription observe(std::function<void()> handler)
     {
         return observers_.add(std::move(handler));

@@ -134,7 +134,7 @@ void XkbInputSources::handle(const xcb_generic_event_t& event)
         readGroup();
         notify();
     } else if (kind == firstEvent_) {
-        // What the event tells may be older than a selection made since.
+        // What the event carries may be older than a selection made since.
         readGroup();
         notify();
     }

@@ -20,8 +20,8 @@ struct XkbLayoutName {
 
 /// The names of keyboard layouts.
 ///
-/// The database takes some milliseconds and megabytes to read: it is read when a layout is asked
-/// for that was not asked for before, and let go at once. One thread only.
+/// The database takes some milliseconds and megabytes to read: it is read when a layout is
+/// requested that was not requested before, and let go at once. One thread only.
 class XkbRegistry {
 public:
     /// The names of the layouts, in their order.

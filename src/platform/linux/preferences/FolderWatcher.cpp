@@ -37,7 +37,7 @@ public:
     bool isWatching() const { return isWatching_; }
 
 private:
-    /// Tells of each name once, however often it stands in the events that wait.
+    /// Notifies of each name once, however often it stands in the events that wait.
     void handOn()
     {
         std::set<std::string> names;

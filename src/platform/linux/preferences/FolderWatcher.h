@@ -7,11 +7,11 @@
 
 namespace brindlex {
 
-/// Tells, on the main thread, when a file of a folder was written, moved, removed or made
+/// Notifies, on the main thread, when a file of a folder was written, moved, removed or made
 /// accessible, whichever process did it.
 ///
-/// The handler gets the file's name, or an empty one when there was too much to tell or the folder
-/// itself has gone. A folder that cannot be watched is never told of. Main thread only.
+/// The handler gets the file's name, or an empty one when there were too many events or the folder
+/// itself has gone. A folder that cannot be watched notifies of nothing. Main thread only.
 class FolderWatcher {
 public:
     using Handler = std::function<void(const std::string& name)>;

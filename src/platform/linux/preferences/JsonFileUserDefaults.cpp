@@ -2,19 +2,11 @@
 
 #include "foundation/Text.h"
 
-#include <algorithm>
 #include <system_error>
 #include <utility>
 
 namespace brindlex {
 namespace {
-
-/// Half of the time within which a change has to be on disk.
-constexpr Seconds writeDelay = 0.03;
-constexpr Seconds firstRetryDelay = 1;
-constexpr Seconds longestRetryDelay = 60;
-/// How long an editor may take to put a new file in the place of the old one.
-constexpr Seconds settlingTime = 1;
 
 /// The value with text as JSON can hold it.
 PreferenceValue withWellFormedText(PreferenceValue value)
@@ -32,7 +24,7 @@ PreferenceValue withWellFormedText(PreferenceValue value)
 JsonFileUserDefaults::JsonFileUserDefaults(
     const std::filesystem::path& file, MainThread& mainThread, BackgroundQueue& queue)
     : path_(file), mainThread_(mainThread), queue_(queue), file_(file),
-      retryDelay_(firstRetryDelay), self_(std::make_shared<JsonFileUserDefaults*>(this))
+      self_(std::make_shared<JsonFileUserDefaults*>(this))
 {
     std::error_code ignored;
     std::filesystem::create_directories(path_.parent_path(), ignored);
@@ -43,11 +35,11 @@ JsonFileUserDefaults::JsonFileUserDefaults(
 
 JsonFileUserDefaults::~JsonFileUserDefaults()
 {
-    // Nobody is told any more; who listened may have gone halfway itself.
+    // Nobody is notified any more; who subscribed may have gone halfway itself.
     subscribers_ = {};
     queue_.drain();
     takeOutcomes();
-    write();
+    carryOut(sync_.flush());
     queue_.drain();
 }
 
@@ -73,8 +65,7 @@ void JsonFileUserDefaults::set(const std::string& key, std::optional<PreferenceV
         else
             memory_.erase(key);
     }
-    unwritten_.insert(key);
-    writeSoon();
+    carryOut(sync_.change(key));
     subscribers_.notify();
 }
 
@@ -82,8 +73,8 @@ void JsonFileUserDefaults::synchronize()
 {
     queue_.drain();
     takeOutcomes();
-    write();
-    look(PreferenceFile::Patience::waits);
+    carryOut(sync_.flush());
+    carryOut(sync_.touch());
     queue_.drain();
     takeOutcomes();
 }
@@ -100,7 +91,7 @@ void JsonFileUserDefaults::watch()
         return std::make_unique<FolderWatcher>(file.parent_path(),
             [this, name = file.filename().string()](const std::string& touched) {
                 if (touched.empty() || touched == name)
-                    look(PreferenceFile::Patience::waits);
+                    carryOut(sync_.touch());
             });
     };
     folderWatcher_ = watcherOf(path_);
@@ -109,37 +100,32 @@ void JsonFileUserDefaults::watch()
     targetWatcher_ = isNoLink || target == path_ ? nullptr : watcherOf(target);
 }
 
+void JsonFileUserDefaults::carryOut(const PreferenceFileSync::Actions& actions)
+{
+    using Action = PreferenceFileSync::Action;
+    for (const auto& action : actions)
+        match(
+            action, [this](const Action::Write& due) { write(due.changedKeys); },
+            [this](const Action::Look& due) { look(due.patience); },
+            [this](const Action::StartTimer& due) {
+                timers_[due.timer] = mainThread_.after(
+                    due.delay, [this, timer = due.timer] { carryOut(sync_.fire(timer)); });
+            },
+            [this](const Action::StopTimer& due) { timers_.erase(due.timer); });
+}
+
 void JsonFileUserDefaults::look(PreferenceFile::Patience patience)
 {
-    // What happens while a look is under way may be too late for it.
-    if (isLooking_) {
-        needsAnotherLook_ = true;
-        return;
-    }
-    isLooking_ = true;
     perform([patience](PreferenceFile& file) {
         const auto found = file.look(patience);
         return Outcome{found, {}, file.document()};
     });
 }
 
-void JsonFileUserDefaults::writeSoon()
+void JsonFileUserDefaults::write(const std::set<std::string>& changedKeys)
 {
-    if (!nextWrite_.isActive())
-        nextWrite_ = mainThread_.after(writeDelay, [this] { write(); });
-}
-
-void JsonFileUserDefaults::write()
-{
-    nextWrite_.reset();
-    if (isWriting_ || (unwritten_.empty() && !isFileLost_))
-        return;
-    nextTry_.reset();
-    isWriting_ = true;
-    isFileLost_ = false;
-    beingWritten_ = std::exchange(unwritten_, {});
-    perform([memory = memory_, keys = beingWritten_](PreferenceFile& file) {
-        const bool isWritten = file.write(memory, keys);
+    perform([memory = memory_, changedKeys](PreferenceFile& file) {
+        const bool isWritten = file.write(memory, changedKeys);
         return Outcome{{}, isWritten, file.document()};
     });
 }
@@ -172,33 +158,10 @@ void JsonFileUserDefaults::takeOutcomes()
 
 void JsonFileUserDefaults::take(const Outcome& outcome)
 {
-    using Patience = PreferenceFile::Patience;
-    using Finding = PreferenceFile::Finding;
-    if (outcome.isWritten) {
-        isWriting_ = false;
-        if (*outcome.isWritten) {
-            retryDelay_ = firstRetryDelay;
-            if (!unwritten_.empty())
-                writeSoon();
-        } else {
-            unwritten_.merge(beingWritten_);
-            nextTry_ = mainThread_.after(retryDelay_, [this] { write(); });
-            retryDelay_ = std::min(2 * retryDelay_, longestRetryDelay);
-        }
-        beingWritten_.clear();
-    }
-    if (outcome.found) {
-        isLooking_ = false;
-        settling_.reset();
-        if (outcome.found == Finding::unsettled)
-            settling_ = mainThread_.after(settlingTime, [this] { look(Patience::acts); });
-        if (outcome.found == Finding::setAside) {
-            isFileLost_ = true;
-            writeSoon();
-        }
-        if (std::exchange(needsAnotherLook_, false))
-            look(Patience::waits);
-    }
+    if (outcome.isWritten)
+        carryOut(sync_.endWrite(*outcome.isWritten));
+    if (outcome.found)
+        carryOut(sync_.endLook(*outcome.found));
     // The folder was removed, or made by the first write.
     if (!folderWatcher_->isWatching())
         watch();
@@ -208,9 +171,7 @@ void JsonFileUserDefaults::take(const Outcome& outcome)
 /// Takes over the content of the file where this process has nothing newer.
 void JsonFileUserDefaults::adopt(const PreferenceDocument& file)
 {
-    auto newer = unwritten_;
-    newer.insert(beingWritten_.begin(), beingWritten_.end());
-    auto content = merged(file, memory_, newer);
+    auto content = merged(file, memory_, sync_.pendingKeys());
     if (isSameDocument(content, memory_))
         return;
     {

@@ -6,10 +6,12 @@
 #include "platform/UserDefaults.h"
 #include "platform/linux/preferences/FolderWatcher.h"
 #include "platform/linux/preferences/PreferenceFile.h"
+#include "platform/linux/preferences/PreferenceFileSync.h"
 
 #include <deque>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -49,9 +51,9 @@ private:
     };
 
     void watch();
+    void carryOut(const PreferenceFileSync::Actions& actions);
     void look(PreferenceFile::Patience patience);
-    void writeSoon();
-    void write();
+    void write(const std::set<std::string>& changedKeys);
     void perform(std::function<Outcome(PreferenceFile&)> work);
     void takeOutcomes();
     void take(const Outcome& outcome);
@@ -65,21 +67,13 @@ private:
 
     mutable std::shared_mutex memoryMutex_;
     PreferenceDocument memory_;
-    std::set<std::string> unwritten_;
-    std::set<std::string> beingWritten_;
-    bool isWriting_ = false;
-    bool isFileLost_ = false;
-    bool isLooking_ = false;
-    bool needsAnotherLook_ = false;
-    Seconds retryDelay_;
+    PreferenceFileSync sync_;
     Subscribers<std::function<void()>> subscribers_;
 
     std::mutex outcomesMutex_;
     std::deque<Outcome> outcomes_;
     std::shared_ptr<JsonFileUserDefaults*> self_;
-    Subscription nextWrite_;
-    Subscription nextTry_;
-    Subscription settling_;
+    std::map<PreferenceFileSync::Timer, Subscription> timers_;
     std::unique_ptr<FolderWatcher> folderWatcher_;
     std::unique_ptr<FolderWatcher> targetWatcher_;
 };

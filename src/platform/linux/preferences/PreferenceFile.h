@@ -16,8 +16,8 @@ namespace brindlex {
 /// nobody's change gets lost. What is damaged (not one JSON object, nested too deeply, larger than
 /// 64 MiB, no regular file) is set aside under the name with the suffix "corrupt", numbered where
 /// there is one already, and never overwritten or removed. A file that cannot be read is left alone
-/// and nothing is written as long as that lasts. Both, and a failure to write, are told to the log,
-/// a lasting failure once.
+/// and nothing is written as long as that lasts. Both, and a failure to write, are logged, a
+/// lasting failure once.
 ///
 /// Every operation waits for the disk. One thread at a time.
 class PreferenceFile {
@@ -32,7 +32,7 @@ public:
     enum class Finding { unchanged, changed, unsettled, setAside, unreadable };
 
     /// Looks whether the file is another than at the last time; `document` has its content
-    /// afterwards. With `waits` a missing or damaged file is only told of, as unsettled.
+    /// afterwards. With `waits` a missing or damaged file is only returned as unsettled.
     Finding look(Patience patience);
 
     /// Brings what `memory` has under the changed keys into the file, and all that it has where
@@ -44,7 +44,7 @@ public:
     const PreferenceDocument& document() const { return document_; }
 
 private:
-    /// What tells one state of a file from another.
+    /// What distinguishes one state of a file from another.
     struct Identity {
         bool exists = false;
         std::uint64_t device = 0;

@@ -80,6 +80,17 @@ protected:
         return loopUntil([&] { return currentID(sources_) == id; });
     }
 
+    /// Waits until a window other than that one has the keyboard.
+    std::string keyboardApartFrom(const std::string& context)
+    {
+        std::string found;
+        EXPECT_TRUE(loopUntil([&] {
+            found = daemon_.context();
+            return !found.empty() && found != context;
+        }));
+        return found;
+    }
+
     VirtualDesktop desktop_;
     FcitxDaemon daemon_{desktop_, fcitxMethods};
     XConnection server_;
@@ -107,27 +118,26 @@ TEST_F(InputSourcesOfFcitx, takeASelectionBeforeAnyWindowTypes)
 TEST_F(InputSourcesOfFcitx, giveTheSelectionToAWindowThatGetsTheKeyboardLate)
 {
     const TypingWindow slow(windows_, "Slow");
+    const auto slowKeyboard = keyboardApartFrom("");
     const TypingWindow before(windows_, "Before");
+    keyboardApartFrom(slowKeyboard);
     EXPECT_TRUE(comesTo("xkb:us::eng"));
-    std::vector<std::string> told;
+    std::vector<std::string> notified;
     const auto subscription
-        = sources_.observeSelectionChanges([&] { told.push_back(currentID(sources_)); });
-    const auto keyboardBefore = daemon_.context();
+        = sources_.observeSelectionChanges([&] { notified.push_back(currentID(sources_)); });
 
     ::kill(slow.process(), SIGSTOP);
     EXPECT_TRUE(windows_.activate(slow.window()));
     EXPECT_TRUE(loopUntil([&] { return daemon_.context().empty(); }));
     EXPECT_EQ(selectID(sources_, "fcitx5:pinyin"), 0);
-    EXPECT_TRUE(loopUntil([&] { return !told.empty() && told.back() == "fcitx5:pinyin"; }));
-    const auto all = told;
-    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{700}, [&] { return told == all; }));
+    EXPECT_TRUE(loopUntil([&] { return !notified.empty() && notified.back() == "fcitx5:pinyin"; }));
+    const auto all = notified;
+    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{700}, [&] { return notified == all; }));
     ::kill(slow.process(), SIGCONT);
 
-    EXPECT_TRUE(loopUntil([&] {
-        const auto context = daemon_.context();
-        return !context.empty() && context != keyboardBefore && daemon_.current() == "pinyin";
-    }));
-    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{500}, [&] { return told == all; }));
+    EXPECT_TRUE(loopUntil(
+        [&] { return daemon_.context() == slowKeyboard && daemon_.current() == "pinyin"; }));
+    EXPECT_TRUE(loopThroughout(std::chrono::milliseconds{500}, [&] { return notified == all; }));
     EXPECT_EQ(currentID(sources_), "fcitx5:pinyin");
 }
 

@@ -39,7 +39,7 @@ TEST(DesktopInputSources, findsIBusAgainAfterItWasKilled)
     EXPECT_TRUE(becomes(sources, "IBus"));
     EXPECT_EQ(selectID(sources, "ibus:libpinyin"), 0);
     EXPECT_EQ(currentID(sources), "ibus:libpinyin");
-    // What was on its way when the daemon died, or came before it was ready, is told beside.
+    // What was on its way when the daemon died, or came before it was ready, is logged beside.
     std::vector<std::string> lines;
     for (const auto& line : log.lines())
         if (line.find("cannot be used") == line.npos && line.find("did not") == line.npos)
@@ -124,7 +124,7 @@ TEST(DesktopInputSources, endsInTheLastOfTwoEnginesWhenTheFirstHasToStart)
     X11Connection connection;
     DesktopInputSources sources(connection, bus.get());
     ASSERT_TRUE(becomes(sources, "IBus"));
-    // By the user, so that nothing that was asked for is still on its way.
+    // By the user, so that nothing that was requested is still on its way.
     ASSERT_TRUE(daemon.select("xkb:us::eng"));
     ASSERT_TRUE(loopUntil([&] { return currentID(sources) == "xkb:us::eng"; }));
     PlayedInput(server).type("a");

@@ -29,7 +29,7 @@ inline std::string currentID(DesktopInputSources& sources)
     return source ? source->id.value_or("") : "";
 }
 
-/// The answer of `select`; -1 where there is no such source.
+/// The status of `select`; -1 where there is no such source.
 inline int selectID(DesktopInputSources& sources, const std::string& id)
 {
     const auto found = sources.list({.id = id});

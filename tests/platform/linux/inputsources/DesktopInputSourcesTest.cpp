@@ -21,18 +21,19 @@ TEST(DesktopInputSources, followsLayoutsThatAreSetWhileItRuns)
     X11Connection connection;
     DesktopInputSources sources(connection, bus.get());
     EXPECT_EQ(idsOf(sources), (std::vector<std::string>{"xkb:us::eng", "xkb:de::deu"}));
-    int told = 0;
-    const auto subscription = sources.observeSelectionChanges([&] { ++told; });
+    int notifications = 0;
+    const auto subscription = sources.observeSelectionChanges([&] { ++notifications; });
     desktop.setKeyboardLayouts("fr,us,ru,de");
-    EXPECT_TRUE(loopUntil([&] { return currentID(sources) == "xkb:fr::fra" && told == 1; }));
+    EXPECT_TRUE(
+        loopUntil([&] { return currentID(sources) == "xkb:fr::fra" && notifications == 1; }));
     EXPECT_EQ(idsOf(sources),
         (std::vector<std::string>{"xkb:fr::fra", "xkb:us::eng", "xkb:ru::rus", "xkb:de::deu"}));
     EXPECT_EQ(selectID(sources, "xkb:de::deu"), 0);
     EXPECT_EQ(keyboardGroup(server), 3);
-    EXPECT_TRUE(loopUntil([&] { return told == 2; }));
+    EXPECT_TRUE(loopUntil([&] { return notifications == 2; }));
 }
 
-TEST(DesktopInputSources, tellsTwoGroupsWithTheSameLayoutApart)
+TEST(DesktopInputSources, distinguishesTwoGroupsWithTheSameLayout)
 {
     const VirtualDesktop desktop({.keyboardLayouts = "us,de,us"});
     const XConnection server;

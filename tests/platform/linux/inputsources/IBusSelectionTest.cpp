@@ -5,13 +5,13 @@
 namespace brindlex {
 namespace {
 
-using Wish = IBusSelection::Wish;
+using Request = IBusSelection::Request;
 
-/// One that has been told what is selected.
+/// One that knows what is selected.
 IBusSelection with(const std::string& engine)
 {
     IBusSelection selection;
-    selection.begin(engine);
+    selection.start(engine);
     return selection;
 }
 
@@ -21,87 +21,87 @@ TEST(IBusSelection, knowsNoEngineBeforeTheDaemonNamesOne)
     EXPECT_EQ(with("english").engine(), "english");
 }
 
-TEST(IBusSelection, asksForWhatIsWantedAndIsSettledByTheAnswer)
+TEST(IBusSelection, callsForWhatIsRequestedAndIsSettledByTheReply)
 {
     auto selection = with("english");
 
-    EXPECT_TRUE(selection.want({"pinyin", 1}));
+    EXPECT_TRUE(selection.request({"pinyin", 1}));
     EXPECT_EQ(selection.engine(), "pinyin");
-    EXPECT_EQ(selection.ask(), (Wish{"pinyin", 1}));
-    EXPECT_TRUE(selection.take(/*isRefused*/ false));
+    EXPECT_EQ(selection.beginCall(), (Request{"pinyin", 1}));
+    EXPECT_TRUE(selection.endCall(/*isRefused*/ false));
 
     EXPECT_EQ(selection.engine(), "pinyin");
 }
 
-TEST(IBusSelection, doesNotAskForWhatIsSelected)
+TEST(IBusSelection, doesNotCallForWhatIsSelected)
 {
     auto selection = with("english");
 
-    EXPECT_FALSE(selection.want({"english", 0}));
+    EXPECT_FALSE(selection.request({"english", 0}));
 
     EXPECT_EQ(selection.engine(), "english");
 }
 
-TEST(IBusSelection, asksForTheLastOfManyOnceTheFirstIsAnswered)
+TEST(IBusSelection, callsForTheLastOfManyOnceTheFirstHasItsReply)
 {
     auto selection = with("english");
-    ASSERT_TRUE(selection.want({"pinyin", 0}));
-    selection.ask();
+    ASSERT_TRUE(selection.request({"pinyin", 0}));
+    selection.beginCall();
 
-    EXPECT_FALSE(selection.want({"anthy", 0}));
-    EXPECT_FALSE(selection.want({"english", 2}));
+    EXPECT_FALSE(selection.request({"anthy", 0}));
+    EXPECT_FALSE(selection.request({"english", 2}));
     EXPECT_EQ(selection.engine(), "english");
-    EXPECT_FALSE(selection.take(/*isRefused*/ false));
+    EXPECT_FALSE(selection.endCall(/*isRefused*/ false));
     EXPECT_EQ(selection.engine(), "english");
 
-    EXPECT_EQ(selection.ask(), (Wish{"english", 2}));
-    EXPECT_TRUE(selection.take(/*isRefused*/ false));
+    EXPECT_EQ(selection.beginCall(), (Request{"english", 2}));
+    EXPECT_TRUE(selection.endCall(/*isRefused*/ false));
     EXPECT_EQ(selection.engine(), "english");
 }
 
-TEST(IBusSelection, isSettledByTheAnswerToTheSameEngineWantedTwice)
+TEST(IBusSelection, isSettledByTheReplyForTheSameEngineRequestedTwice)
 {
     auto selection = with("english");
-    ASSERT_TRUE(selection.want({"pinyin", 0}));
-    selection.ask();
+    ASSERT_TRUE(selection.request({"pinyin", 0}));
+    selection.beginCall();
 
-    EXPECT_FALSE(selection.want({"pinyin", 1}));
+    EXPECT_FALSE(selection.request({"pinyin", 1}));
 
-    EXPECT_TRUE(selection.take(/*isRefused*/ false));
+    EXPECT_TRUE(selection.endCall(/*isRefused*/ false));
     EXPECT_EQ(selection.engine(), "pinyin");
 }
 
 TEST(IBusSelection, staysWhereItWasWhenRefused)
 {
     auto selection = with("english");
-    ASSERT_TRUE(selection.want({"pinyin", 0}));
-    selection.ask();
+    ASSERT_TRUE(selection.request({"pinyin", 0}));
+    selection.beginCall();
 
-    EXPECT_TRUE(selection.take(/*isRefused*/ true));
+    EXPECT_TRUE(selection.endCall(/*isRefused*/ true));
 
     EXPECT_EQ(selection.engine(), "english");
-    EXPECT_TRUE(selection.hear("anthy")) << "The signal of what was refused is not waited for.";
+    EXPECT_TRUE(selection.follow("anthy")) << "The signal of what was refused is not waited for.";
     EXPECT_EQ(selection.engine(), "anthy");
 }
 
-TEST(IBusSelection, asksForTheLaterWishWhenTheFirstIsRefused)
+TEST(IBusSelection, callsForTheLaterRequestWhenTheFirstIsRefused)
 {
     auto selection = with("english");
-    ASSERT_TRUE(selection.want({"pinyin", 0}));
-    selection.ask();
-    ASSERT_FALSE(selection.want({"anthy", 0}));
+    ASSERT_TRUE(selection.request({"pinyin", 0}));
+    selection.beginCall();
+    ASSERT_FALSE(selection.request({"anthy", 0}));
 
-    EXPECT_FALSE(selection.take(/*isRefused*/ true));
+    EXPECT_FALSE(selection.endCall(/*isRefused*/ true));
 
-    EXPECT_EQ(selection.ask(), (Wish{"anthy", 0}));
+    EXPECT_EQ(selection.beginCall(), (Request{"anthy", 0}));
 }
 
 TEST(IBusSelection, followsWhatTheUserSelects)
 {
     auto selection = with("english");
 
-    EXPECT_TRUE(selection.hear("pinyin"));
-    EXPECT_TRUE(selection.hear("anthy"));
+    EXPECT_TRUE(selection.follow("pinyin"));
+    EXPECT_TRUE(selection.follow("anthy"));
 
     EXPECT_EQ(selection.engine(), "anthy");
 }
@@ -110,36 +110,36 @@ TEST(IBusSelection, isNotLedBackByALateSignalOfItsOwn)
 {
     auto selection = with("english");
     for (const auto* engine : {"pinyin", "anthy"}) {
-        ASSERT_TRUE(selection.want({engine, 0}));
-        selection.ask();
-        ASSERT_TRUE(selection.take(/*isRefused*/ false));
+        ASSERT_TRUE(selection.request({engine, 0}));
+        selection.beginCall();
+        ASSERT_TRUE(selection.endCall(/*isRefused*/ false));
     }
 
-    EXPECT_FALSE(selection.hear("pinyin"));
+    EXPECT_FALSE(selection.follow("pinyin"));
     EXPECT_EQ(selection.engine(), "anthy");
-    EXPECT_TRUE(selection.hear("anthy"));
+    EXPECT_TRUE(selection.follow("anthy"));
     EXPECT_EQ(selection.engine(), "anthy");
 }
 
 TEST(IBusSelection, followsAForeignSignalWhateverOfItsOwnWasToCome)
 {
     auto selection = with("english");
-    ASSERT_TRUE(selection.want({"pinyin", 0}));
-    selection.ask();
-    ASSERT_TRUE(selection.take(/*isRefused*/ false));
+    ASSERT_TRUE(selection.request({"pinyin", 0}));
+    selection.beginCall();
+    ASSERT_TRUE(selection.endCall(/*isRefused*/ false));
 
-    EXPECT_TRUE(selection.hear("anthy"));
+    EXPECT_TRUE(selection.follow("anthy"));
 
     EXPECT_EQ(selection.engine(), "anthy");
 }
 
-TEST(IBusSelection, namesTheWishWhateverIsHeardMeanwhile)
+TEST(IBusSelection, namesTheRequestWhateverIsSelectedMeanwhile)
 {
     auto selection = with("english");
-    ASSERT_TRUE(selection.want({"pinyin", 0}));
-    selection.ask();
+    ASSERT_TRUE(selection.request({"pinyin", 0}));
+    selection.beginCall();
 
-    EXPECT_TRUE(selection.hear("anthy"));
+    EXPECT_TRUE(selection.follow("anthy"));
 
     EXPECT_EQ(selection.engine(), "pinyin");
 }

@@ -14,57 +14,57 @@ namespace files = std::filesystem;
 
 class FolderWatcherTest : public testing::Test {
 protected:
-    bool isTold(const std::string& name)
+    bool isNotified(const std::string& name)
     {
-        return loop.runUntil([&] { return told.contains(name); });
+        return loop.runUntil([&] { return notified.contains(name); });
     }
 
     QtLoop loop;
     TemporaryFolder folder;
-    std::set<std::string> told;
-    FolderWatcher watcher{folder.path(), [this](const auto& name) { told.insert(name); }};
+    std::set<std::string> notified;
+    FolderWatcher watcher{folder.path(), [this](const auto& name) { notified.insert(name); }};
 };
 
-TEST_F(FolderWatcherTest, tellsOfFilesThatAreWrittenMovedAndRemoved)
+TEST_F(FolderWatcherTest, notifiesOfFilesThatAreWrittenMovedAndRemoved)
 {
     ASSERT_TRUE(watcher.isWatching());
     write(folder.path() / "written", "x");
-    EXPECT_TRUE(isTold("written"));
+    EXPECT_TRUE(isNotified("written"));
     files::rename(folder.path() / "written", folder.path() / "moved");
-    EXPECT_TRUE(isTold("moved"));
-    told.clear();
+    EXPECT_TRUE(isNotified("moved"));
+    notified.clear();
     files::permissions(folder.path() / "moved", files::perms::owner_read);
-    EXPECT_TRUE(isTold("moved"));
-    told.clear();
+    EXPECT_TRUE(isNotified("moved"));
+    notified.clear();
     files::remove(folder.path() / "moved");
-    EXPECT_TRUE(isTold("moved"));
+    EXPECT_TRUE(isNotified("moved"));
 }
 
 TEST_F(FolderWatcherTest, isQuietAboutReading)
 {
     write(folder.path() / "file", "x");
-    ASSERT_TRUE(isTold("file"));
+    ASSERT_TRUE(isNotified("file"));
     loop.runFor(0.01);
-    told.clear();
+    notified.clear();
     EXPECT_EQ(contentOf(folder.path() / "file"), "x");
     write(folder.path() / "last", "x");
-    ASSERT_TRUE(isTold("last"));
-    EXPECT_EQ(told, std::set<std::string>{"last"});
+    ASSERT_TRUE(isNotified("last"));
+    EXPECT_EQ(notified, std::set<std::string>{"last"});
 }
 
-TEST_F(FolderWatcherTest, tellsThatTheFolderHasGone)
+TEST_F(FolderWatcherTest, notifiesThatTheFolderHasGone)
 {
     files::remove_all(folder.path());
-    EXPECT_TRUE(isTold(""));
+    EXPECT_TRUE(isNotified(""));
     EXPECT_TRUE(loop.runUntil([&] { return !watcher.isWatching(); }));
 }
 
 TEST_F(FolderWatcherTest, doesNotWatchWhatIsNoFolder)
 {
     write(folder.path() / "file", "x");
-    const auto tell = [](const std::string&) { FAIL(); };
-    EXPECT_FALSE(FolderWatcher(folder.path() / "missing", tell).isWatching());
-    EXPECT_FALSE(FolderWatcher(folder.path() / "file", tell).isWatching());
+    const auto handler = [](const std::string&) { FAIL(); };
+    EXPECT_FALSE(FolderWatcher(folder.path() / "missing", handler).isWatching());
+    EXPECT_FALSE(FolderWatcher(folder.path() / "file", handler).isWatching());
 }
 
 } // namespace

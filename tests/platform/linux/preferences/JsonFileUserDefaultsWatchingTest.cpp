@@ -52,11 +52,11 @@ TEST_F(JsonFileUserDefaultsTest, takesARemovedFileForEmpty)
 {
     write(path(), R"({"a":1})");
     start();
-    int told = 0;
-    const auto subscription = defaults->observeChanges([&] { ++told; });
+    int notifications = 0;
+    const auto subscription = defaults->observeChanges([&] { ++notifications; });
     files::remove(path());
     EXPECT_TRUE(runUntil([&] { return !defaults->value("a"); }));
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(notifications, 1);
     loop.runFor(0.1);
     EXPECT_FALSE(files::exists(path()));
 }
@@ -76,15 +76,15 @@ TEST_F(JsonFileUserDefaultsTest, noticesChangesInAFolderThatWasRemovedAndMadeAne
     EXPECT_TRUE(runUntil([&] { return removed.value("c") == PreferenceValue(true); }));
 }
 
-TEST_F(JsonFileUserDefaultsTest, tellsNobodyAtItsEnd)
+TEST_F(JsonFileUserDefaultsTest, notifiesNobodyAtItsEnd)
 {
     start();
-    int told = 0;
-    const auto subscription = defaults->observeChanges([&] { ++told; });
+    int notifications = 0;
+    const auto subscription = defaults->observeChanges([&] { ++notifications; });
     defaults->set("a", true);
     write(path(), R"({"b":true})");
     defaults.reset();
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(notifications, 1);
     EXPECT_EQ(valueInFile("a"), PreferenceValue(true));
     EXPECT_EQ(valueInFile("b"), PreferenceValue(true));
 }

@@ -1,0 +1,108 @@
+#include "platform/linux/inputsources/Fcitx5Selection.h"
+
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto freshFor = 50ms;
+/// A window that is seen to have the keyboard earlier may be the one that is just losing it.
+constexpr auto timeToBeSure = 300ms;
+
+} // namespace
+
+std::optional<std::string> Fcitx5Selection::method() const
+{
+    return request_ ? request_->method : read_;
+}
+
+bool Fcitx5Selection::isStale(Time now) const
+{
+    return !isKeeping() && (!readAt_ || now - *readAt_ > freshFor);
+}
+
+std::optional<int> Fcitx5Selection::beginRead()
+{
+    if (std::exchange(isReading_, true))
+        return {};
+    return selection_;
+}
+
+bool Fcitx5Selection::endRead(int selection)
+{
+    isReading_ = false;
+    return selection == selection_;
+}
+
+bool Fcitx5Selection::take(const std::string& method, Time now)
+{
+    // Without an input context nothing is said about what the user types with.
+    auto read = method.empty() ? std::nullopt : std::optional(method);
+    const bool isNew = !hasRead() || read_ != read;
+    readAt_ = now;
+    read_ = std::move(read);
+    return isNew;
+}
+
+int Fcitx5Selection::select(const std::string& method, std::uint32_t window, Time now)
+{
+    request_ = Request{method, window, {}, now};
+    return ++selection_;
+}
+
+bool Fcitx5Selection::acknowledge(int selection, const std::string& context)
+{
+    if (selection != selection_ || !isKeeping())
+        return false;
+    request_->context = context;
+    return true;
+}
+
+SelectionStatus Fcitx5Selection::confirm(bool isReplyAnError)
+{
+    // While no window types through the daemon nothing is selected; the active one may soon do so.
+    if (!isReplyAnError && (!read_ || read_ == method()))
+        return SelectionStatus::done;
+    request_.reset();
+    return isReplyAnError ? SelectionStatus::notConnected : SelectionStatus::refused;
+}
+
+std::optional<int> Fcitx5Selection::beginCheck()
+{
+    if (!isKeeping() || std::exchange(isChecking_, true))
+        return {};
+    return selection_;
+}
+
+Fcitx5Selection::Verdict Fcitx5Selection::endCheck(int selection, const Observation& seen, Time now)
+{
+    isChecking_ = false;
+    // While the keyboard moves, nobody knows whose method was read.
+    if (selection != selection_ || !isKeeping() || !seen.method
+        || seen.contextBefore != seen.contextAfter)
+        return Verdict::keep;
+    const auto verdict = judge(seen, now);
+    if (verdict == Verdict::requestAgain) {
+        request_->context = seen.contextAfter;
+        request_->madeAt = now;
+    } else if (verdict == Verdict::end) {
+        request_.reset();
+        take(*seen.method, now);
+    }
+    return verdict;
+}
+
+Fcitx5Selection::Verdict Fcitx5Selection::judge(const Observation& seen, Time now) const
+{
+    if (seen.activeWindow != 0 && seen.activeWindow != request_->window)
+        return Verdict::end;
+    if (seen.contextAfter.empty())
+        return Verdict::keep;
+    if (seen.method != request_->method)
+        return seen.contextAfter == request_->context ? Verdict::end : Verdict::requestAgain;
+    return now - request_->madeAt > timeToBeSure ? Verdict::end : Verdict::keep;
+}
+
+} // namespace brindlex

@@ -1,0 +1,184 @@
+#include "platform/linux/inputsources/Fcitx5SelectionSteps.h"
+
+#include <optional>
+#include <string>
+
+namespace brindlex {
+namespace {
+
+using namespace std::chrono_literals;
+using Verdict = Fcitx5Selection::Verdict;
+
+TEST(Fcitx5Selection, knowsNothingBeforeItHasRead)
+{
+    const Fcitx5Selection selection;
+
+    EXPECT_FALSE(selection.hasRead());
+    EXPECT_FALSE(selection.isKeeping());
+    EXPECT_EQ(selection.method(), std::nullopt);
+    EXPECT_TRUE(selection.isStale({}));
+}
+
+TEST(Fcitx5Selection, followsWhatIsReadAndNotifiesOfChangesAlone)
+{
+    Fcitx5Selection selection;
+
+    EXPECT_TRUE(selection.take("pinyin", start));
+    EXPECT_EQ(selection.method(), "pinyin");
+    EXPECT_FALSE(selection.take("pinyin", start + 1s));
+    EXPECT_TRUE(selection.take("anthy", start + 2s));
+    EXPECT_EQ(selection.method(), "anthy");
+}
+
+TEST(Fcitx5Selection, hasNoMethodWhileNoWindowTypes)
+{
+    Fcitx5Selection selection;
+
+    EXPECT_TRUE(selection.take("", start)) << "That there is none is news at first.";
+    EXPECT_TRUE(selection.hasRead());
+    EXPECT_EQ(selection.method(), std::nullopt);
+    EXPECT_FALSE(selection.take("", start + 1s));
+    EXPECT_TRUE(selection.take("pinyin", start + 2s));
+}
+
+TEST(Fcitx5Selection, isStaleAfterFiftyMilliseconds)
+{
+    const auto selection = following("pinyin");
+
+    EXPECT_FALSE(selection.isStale(start));
+    EXPECT_FALSE(selection.isStale(start + 50ms));
+    EXPECT_TRUE(selection.isStale(start + 50ms + 1ns));
+    EXPECT_FALSE(selection.isStale(start - 1s)) << "Time went backwards.";
+}
+
+TEST(Fcitx5Selection, isFreshAgainWithEachReadThatSaysTheSame)
+{
+    auto selection = following("pinyin");
+
+    selection.take("pinyin", start + 50ms);
+
+    EXPECT_FALSE(selection.isStale(start + 100ms));
+}
+
+TEST(Fcitx5Selection, readsOnceAtATime)
+{
+    Fcitx5Selection selection;
+
+    const auto read = selection.beginRead();
+    ASSERT_TRUE(read);
+    EXPECT_EQ(selection.beginRead(), std::nullopt);
+    EXPECT_TRUE(selection.endRead(*read));
+    EXPECT_TRUE(selection.beginRead());
+}
+
+TEST(Fcitx5Selection, checksNothingWhileItFollows)
+{
+    auto selection = following("pinyin");
+
+    EXPECT_EQ(selection.beginCheck(), std::nullopt);
+}
+
+TEST(Fcitx5Selection, namesTheMethodOfTheSelectionFromItsRequestOn)
+{
+    auto selection = following("keyboard-us");
+
+    selection.select("pinyin", window, start);
+
+    EXPECT_TRUE(selection.isKeeping());
+    EXPECT_EQ(selection.method(), "pinyin");
+    EXPECT_FALSE(selection.isStale(start + 1h)) << "Nothing is read in its place.";
+}
+
+TEST(Fcitx5Selection, ignoresAReadFromBeforeTheSelection)
+{
+    auto selection = following("keyboard-us");
+    const auto read = selection.beginRead();
+    ASSERT_TRUE(read);
+
+    selection.select("pinyin", window, start);
+
+    EXPECT_EQ(selection.beginRead(), std::nullopt) << "The late read is still under way.";
+    EXPECT_FALSE(selection.endRead(*read));
+    EXPECT_EQ(selection.method(), "pinyin");
+    EXPECT_TRUE(selection.beginRead());
+}
+
+TEST(Fcitx5Selection, isConfirmedByTheMethodOrByNone)
+{
+    for (const std::string read : {"pinyin", ""}) {
+        auto selection = following("keyboard-us");
+        EXPECT_TRUE(selection.acknowledge(selection.select("pinyin", window, start), context));
+        selection.take(read, start);
+
+        EXPECT_EQ(selection.confirm(/*isReplyAnError*/ false), SelectionStatus::done) << read;
+
+        EXPECT_TRUE(selection.isKeeping()) << read;
+        EXPECT_EQ(selection.method(), "pinyin") << read;
+    }
+}
+
+TEST(Fcitx5Selection, isRefusedByAnotherMethod)
+{
+    auto selection = following("keyboard-us");
+    selection.acknowledge(selection.select("pinyin", window, start), context);
+    selection.take("keyboard-us", start);
+
+    EXPECT_EQ(selection.confirm(/*isReplyAnError*/ false), SelectionStatus::refused);
+
+    EXPECT_FALSE(selection.isKeeping());
+    EXPECT_EQ(selection.method(), "keyboard-us");
+}
+
+TEST(Fcitx5Selection, isNotConnectedAfterAnErrorWhateverWasReadBefore)
+{
+    for (const std::string read : {"pinyin", "keyboard-us", ""}) {
+        auto selection = following(read);
+        selection.acknowledge(selection.select("pinyin", window, start), "");
+
+        EXPECT_EQ(selection.confirm(/*isReplyAnError*/ true), SelectionStatus::notConnected);
+
+        EXPECT_FALSE(selection.isKeeping());
+        EXPECT_EQ(selection.method(), following(read).method());
+    }
+}
+
+TEST(Fcitx5Selection, isCheckedAfterALateReplyUnlessAnotherCameMeanwhile)
+{
+    auto selection = following("keyboard-us");
+    const int first = selection.select("pinyin", window, start);
+    const int second = selection.select("anthy", window, start + 100ms);
+
+    EXPECT_FALSE(selection.acknowledge(first, context));
+    EXPECT_TRUE(selection.acknowledge(second, context));
+
+    EXPECT_EQ(check(selection, observed(context, "keyboard-us"), start + 200ms), Verdict::end)
+        << "The context is the one at the second request.";
+}
+
+TEST(Fcitx5Selection, isNotCheckedAfterAReplyThatComesWhenItIsOver)
+{
+    auto selection = following("keyboard-us");
+    const int late = selection.select("pinyin", window, start);
+    ASSERT_EQ(check(selection, observed(context, "anthy", anotherWindow), start), Verdict::end);
+
+    EXPECT_FALSE(selection.acknowledge(late, context));
+
+    EXPECT_FALSE(selection.isKeeping());
+    EXPECT_EQ(selection.method(), "anthy");
+}
+
+TEST(Fcitx5Selection, replacesTheSelectionThatIsKept)
+{
+    auto selection = keeping();
+
+    const int second = selection.select("anthy", anotherWindow, start + 200ms);
+    EXPECT_TRUE(selection.acknowledge(second, anotherContext));
+
+    EXPECT_EQ(selection.method(), "anthy");
+    EXPECT_EQ(check(selection, observed(anotherContext, "anthy", anotherWindow), start + 400ms),
+        Verdict::keep)
+        << "300 ms from the second one.";
+}
+
+} // namespace
+} // namespace brindlex
