@@ -2,6 +2,7 @@
 
 #include "foundation/FatalError.h"
 #include "platform/Event.h"
+#include "platform/VirtualKey.h"
 
 #include <utility>
 
@@ -9,10 +10,6 @@ namespace brindlex {
 namespace {
 
 using Effect = MouseActionEffect::Any;
-
-constexpr std::uint16_t rightBracketKey = 30;
-constexpr std::uint16_t leftBracketKey = 33;
-constexpr std::uint16_t f11Key = 103;
 
 std::uint16_t keyCodeOf(const MouseAction::SendKeystroke& keystroke)
 {
@@ -45,13 +42,13 @@ MouseActionEffect::Any effectOf(const MouseAction::Any& action)
             return MouseActionEffect::OpenApplication{"/System/Applications/Mission Control.app"};
         },
         [](const MouseAction::Back&) -> Effect {
-            return MouseActionEffect::PostKeystroke{leftBracketKey, eventFlag::command};
+            return MouseActionEffect::PostKeystroke{virtualKey::leftBracket, eventFlag::command};
         },
         [](const MouseAction::Forward&) -> Effect {
-            return MouseActionEffect::PostKeystroke{rightBracketKey, eventFlag::command};
+            return MouseActionEffect::PostKeystroke{virtualKey::rightBracket, eventFlag::command};
         },
         [](const MouseAction::ShowDesktop&) -> Effect {
-            return MouseActionEffect::PostKeystroke{f11Key, 0};
+            return MouseActionEffect::PostKeystroke{virtualKey::f11, 0};
         },
         [](const MouseAction::SwitchSpaceLeft&) -> Effect {
             return MouseActionEffect::SwitchSpace{false};
