@@ -49,7 +49,8 @@ TEST(AppLifecycleCoordinator, followsMouseSettingsThatAnotherProcessWrites)
     process.desktop.mainThread.runUntilIdle();
 
     EXPECT_EQ(process.shared.mouseConfigStore().config().value(), config);
-    EXPECT_EQ(process.desktop.input.tapMasks(), std::vector<EventMask>{0x400046});
+    EXPECT_EQ(
+        process.desktop.input.tapMasks(), std::vector{mouseScrollEventMask | mouseButtonMaskOf(0)});
     SimulatedMouse mouse(process.desktop.input);
     EXPECT_EQ(mouse.scroll(1), EventVerdict::swallow);
     ASSERT_EQ(process.desktop.input.delivered().size(), 1U);
@@ -73,7 +74,8 @@ TEST(AppLifecycleCoordinator, startsWithDefaultsWhereTheMouseSettingsAreDamaged)
         }));
     EXPECT_EQ(process.shared.mouseConfigStore().config().value(), MouseConfig{});
     EXPECT_EQ(process.desktop.defaults.value("mouseConfig"), PreferenceValue(damaged));
-    EXPECT_EQ(process.desktop.input.tapMasks(), std::vector<EventMask>{0x6400000});
+    EXPECT_EQ(
+        process.desktop.input.tapMasks(), std::vector{mouseScrollEventMask | mouseClickEventMask});
 }
 
 } // namespace

@@ -8,8 +8,8 @@ namespace {
 
 using Trigger = TapDemand::Trigger;
 
-constexpr EventMask gestureMask = 0xE000000;
-constexpr EventMask leftMask = 0x46;
+constexpr EventMask gestureMask = mouseButtonMaskOf(2);
+constexpr EventMask leftMask = mouseButtonMaskOf(0);
 constexpr EventMask wheelMask = eventMask(EventType::scrollWheel);
 constexpr EventMask keyDownMask = eventMask(EventType::keyDown);
 
