@@ -43,7 +43,7 @@ Curve smoothScroll(const std::string& name, Seconds duration)
     constexpr double pixels = 100;
     constexpr Seconds frame = 1.0 / 60;
     ScrollMotion motion;
-    motion.add(0, 0, pixels);
+    motion.add(0, {.vertical = pixels});
     Curve curve{name, {{0, 0}}};
     double shown = 0;
     for (int number = 1; number <= 60; ++number) {

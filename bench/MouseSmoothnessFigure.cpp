@@ -43,7 +43,7 @@ double notchesPosted(double frameRate)
     for (int frame = 1;; ++frame) {
         const double now = frame / frameRate;
         for (; turned < notchesOfTurn && turned * timeOfNotch < now; ++turned)
-            motion.add(0, 0, WheelTicks::pixelsPerNotch);
+            motion.add(0, {.vertical = WheelTicks::pixelsPerNotch});
         const auto advance = motion.advance(now, duration);
         if (advance.step)
             pixels += std::round(advance.step->vertical);

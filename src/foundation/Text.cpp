@@ -174,6 +174,24 @@ std::vector<std::string_view> characters(std::string_view text)
     return result;
 }
 
+std::optional<std::string> unlessEmpty(std::string text)
+{
+    if (text.empty())
+        return {};
+    return text;
+}
+
+std::optional<std::uint8_t> hexDigitValue(char digit)
+{
+    if (digit >= '0' && digit <= '9')
+        return static_cast<std::uint8_t>(digit - '0');
+    if (digit >= 'A' && digit <= 'F')
+        return static_cast<std::uint8_t>(digit - 'A' + 10);
+    if (digit >= 'a' && digit <= 'f')
+        return static_cast<std::uint8_t>(digit - 'a' + 10);
+    return {};
+}
+
 bool isWhiteSpace(char32_t scalar) { return u_isUWhiteSpace(static_cast<UChar32>(scalar)); }
 
 bool isLetter(char32_t scalar) { return u_isUAlphabetic(static_cast<UChar32>(scalar)); }

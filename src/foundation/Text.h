@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -33,6 +34,12 @@ std::vector<std::string> split(std::string_view text, char separator);
 
 /// The text as the characters that a reader sees: extended grapheme clusters, as ranges of `text`.
 std::vector<std::string_view> characters(std::string_view text);
+
+/// The text, or nothing in place of an empty one.
+std::optional<std::string> unlessEmpty(std::string text);
+
+/// What a hexadecimal digit stands for, in either case; nothing for any other character.
+std::optional<std::uint8_t> hexDigitValue(char digit);
 
 bool isWhiteSpace(char32_t scalar);
 

@@ -1,6 +1,7 @@
 #include "foundation/Uuid.h"
 
 #include "foundation/FatalError.h"
+#include "foundation/Text.h"
 
 #include <cerrno>
 #include <unistd.h>
@@ -11,17 +12,6 @@ namespace {
 constexpr std::string_view hexDigits = "0123456789ABCDEF";
 
 bool isDashBefore(std::size_t byte) { return byte == 4 || byte == 6 || byte == 8 || byte == 10; }
-
-std::optional<std::uint8_t> hexValue(char digit)
-{
-    if (digit >= '0' && digit <= '9')
-        return static_cast<std::uint8_t>(digit - '0');
-    if (digit >= 'A' && digit <= 'F')
-        return static_cast<std::uint8_t>(digit - 'A' + 10);
-    if (digit >= 'a' && digit <= 'f')
-        return static_cast<std::uint8_t>(digit - 'a' + 10);
-    return {};
-}
 
 } // namespace
 
@@ -44,8 +34,8 @@ std::optional<Uuid> Uuid::fromText(std::string_view text)
     for (std::size_t byte = 0; byte < uuid.bytes.size(); ++byte) {
         if (isDashBefore(byte) && text[at++] != '-')
             return {};
-        const auto high = hexValue(text[at++]);
-        const auto low = hexValue(text[at++]);
+        const auto high = hexDigitValue(text[at++]);
+        const auto low = hexDigitValue(text[at++]);
         if (!high || !low)
             return {};
         uuid.bytes[byte] = static_cast<std::uint8_t>(*high << 4 | *low);

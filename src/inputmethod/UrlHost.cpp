@@ -76,17 +76,6 @@ bool isAllowedInHost(char byte)
         || others.find(byte) != std::string_view::npos;
 }
 
-std::optional<char> hexDigitValue(char digit)
-{
-    if (isAsciiDigit(digit))
-        return static_cast<char>(digit - '0');
-    if (digit >= 'A' && digit <= 'F')
-        return static_cast<char>(digit - 'A' + 10);
-    if (digit >= 'a' && digit <= 'f')
-        return static_cast<char>(digit - 'a' + 10);
-    return {};
-}
-
 std::optional<std::string> decoded(std::string_view host)
 {
     std::string text;

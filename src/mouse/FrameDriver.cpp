@@ -1,5 +1,7 @@
 #include "mouse/FrameDriver.h"
 
+#include "mouse/NominalFrame.h"
+
 #include <algorithm>
 #include <utility>
 

@@ -18,8 +18,6 @@ public:
     enum class Source { idle, display, timer };
     using FrameHandler = std::function<void(Seconds now)>;
 
-    static constexpr Seconds nominalFrame = 1.0 / 60;
-
     FrameDriver(DisplayLink& displayLink, MainThread& mainThread, const Clock& clock);
 
     /// Calls the handler for each frame, with the time of the continuous clock. With `lowestRate`

@@ -28,7 +28,7 @@ struct MouseClickOutcome {
 /// The presses and releases of the middle and the side buttons: the only events in which click
 /// bindings take an interest.
 inline constexpr EventMask mouseClickEventMask
-    = eventMask(EventType::otherMouseDown) | eventMask(EventType::otherMouseUp);
+    = eventMask(EventType::otherMouseDown, EventType::otherMouseUp);
 
 /// Decides on one event.
 ///

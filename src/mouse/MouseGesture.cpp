@@ -185,24 +185,8 @@ EventMask eventMask(bool enabled, const std::vector<MouseGestureBinding>& bindin
     if (!enabled)
         return 0;
     EventMask mask = 0;
-    for (const auto& binding : bindings) {
-        switch (binding.button) {
-        case MouseButton::left:
-            mask |= eventMask(EventType::leftMouseDown) | eventMask(EventType::leftMouseUp)
-                | eventMask(EventType::leftMouseDragged);
-            break;
-        case MouseButton::right:
-            mask |= eventMask(EventType::rightMouseDown) | eventMask(EventType::rightMouseUp)
-                | eventMask(EventType::rightMouseDragged);
-            break;
-        case MouseButton::button3:
-        case MouseButton::button4:
-        case MouseButton::button5:
-            mask |= eventMask(EventType::otherMouseDown) | eventMask(EventType::otherMouseUp)
-                | eventMask(EventType::otherMouseDragged);
-            break;
-        }
-    }
+    for (const auto& binding : bindings)
+        mask |= mouseButtonMaskOf(storedValue(binding.button));
     return mask;
 }
 
@@ -218,18 +202,11 @@ EventTriggers eventTriggers(const MouseGestureConfig& config)
 
 std::array<SyntheticEvent, 2> replayedClick(MouseButton button, Point point)
 {
-    auto down = EventType::otherMouseDown;
-    auto up = EventType::otherMouseUp;
-    if (button == MouseButton::left) {
-        down = EventType::leftMouseDown;
-        up = EventType::leftMouseUp;
-    } else if (button == MouseButton::right) {
-        down = EventType::rightMouseDown;
-        up = EventType::rightMouseUp;
-    }
-    const EventFields fields{{EventField::mouseEventButtonNumber, storedValue(button)},
+    const auto number = storedValue(button);
+    const EventFields fields{{EventField::mouseEventButtonNumber, number},
         {EventField::eventSourceUserData, mouseEventTag::replay}};
-    return {SyntheticEvent{down, point, {}, fields}, SyntheticEvent{up, point, {}, fields}};
+    return {SyntheticEvent{mouseDownType(number), point, {}, fields},
+        SyntheticEvent{mouseUpType(number), point, {}, fields}};
 }
 
 } // namespace brindlex

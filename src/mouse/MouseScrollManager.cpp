@@ -62,7 +62,7 @@ EventVerdict MouseScrollManager::receive(const Event& event)
     if (!distance)
         return EventVerdict::pass;
     if (scroll.smoothEnabled)
-        smoother_.add(event.flags, distance->horizontal, distance->vertical);
+        smoother_.add(event.flags, *distance);
     else
         post(event.flags, *distance);
     return EventVerdict::swallow;

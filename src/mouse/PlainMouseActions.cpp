@@ -1,6 +1,7 @@
 #include "mouse/PlainMouseActions.h"
 
 #include "platform/Event.h"
+#include "platform/VirtualKey.h"
 
 #include <algorithm>
 #include <array>
@@ -11,10 +12,6 @@ namespace {
 using Plain = MouseAction::Plain;
 using Effect = MouseActionEffect;
 
-constexpr std::uint16_t rightBracketKey = 30;
-constexpr std::uint16_t leftBracketKey = 33;
-constexpr std::uint16_t f11Key = 103;
-
 } // namespace
 
 std::span<const PlainMouseAction> plainMouseActions()
@@ -22,10 +19,12 @@ std::span<const PlainMouseAction> plainMouseActions()
     static const std::array<PlainMouseAction, 6> rows{{
         {Plain::missionControl, "missionControl", "Mission Control",
             Effect::OpenApplication{"/System/Applications/Mission Control.app"}},
-        {Plain::back, "back", "Back", Effect::PostKeystroke{leftBracketKey, eventFlag::command}},
+        {Plain::back, "back", "Back",
+            Effect::PostKeystroke{virtualKey::leftBracket, eventFlag::command}},
         {Plain::forward, "forward", "Forward",
-            Effect::PostKeystroke{rightBracketKey, eventFlag::command}},
-        {Plain::showDesktop, "showDesktop", "Show Desktop", Effect::PostKeystroke{f11Key, 0}},
+            Effect::PostKeystroke{virtualKey::rightBracket, eventFlag::command}},
+        {Plain::showDesktop, "showDesktop", "Show Desktop",
+            Effect::PostKeystroke{virtualKey::f11, 0}},
         {Plain::switchSpaceLeft, "switchSpaceLeft", "Switch Space Left",
             Effect::SwitchSpace{false}},
         {Plain::switchSpaceRight, "switchSpaceRight", "Switch Space Right",

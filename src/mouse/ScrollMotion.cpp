@@ -1,6 +1,6 @@
 #include "mouse/ScrollMotion.h"
 
-#include "mouse/FrameDriver.h"
+#include "mouse/NominalFrame.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,14 +21,14 @@ bool isReversal(double change, double remainder)
 
 } // namespace
 
-void ScrollMotion::add(std::uint64_t flags, double dx, double dy)
+void ScrollMotion::add(std::uint64_t flags, ScrollDistance change)
 {
-    if (isReversal(dy, remainingY) || isReversal(dx, remainingX)) {
+    if (isReversal(change.vertical, remainingY) || isReversal(change.horizontal, remainingX)) {
         remainingX = 0;
         remainingY = 0;
     }
-    remainingX += dx;
-    remainingY += dy;
+    remainingX += change.horizontal;
+    remainingY += change.vertical;
     pendingFlags = flags;
 }
 
@@ -36,7 +36,7 @@ ScrollMotion::Frame ScrollMotion::advance(Seconds now, Seconds smoothDuration)
 {
     const auto previous = std::exchange(lastTimestamp, now);
     const auto timeConstant = std::max(smoothDuration, minimumTimeConstant);
-    const auto elapsed = previous == 0 ? FrameDriver::nominalFrame : now - previous;
+    const auto elapsed = previous == 0 ? nominalFrame : now - previous;
     const double share = 1 - std::exp(-elapsed / timeConstant);
     const ScrollDistance step{remainingY * share, remainingX * share};
     remainingY -= step.vertical;

@@ -12,15 +12,15 @@ inline constexpr double scrollStopThreshold = 0.5;
 
 /// A smooth motion on its way: an exponential approach to where the wheel has asked to go.
 struct ScrollMotion {
-    double remainingX = 0;
     double remainingY = 0;
+    double remainingX = 0;
     /// The time of the frame before; 0 before the first.
     Seconds lastTimestamp = 0;
     /// Those of the newest notch, for every event of the motion.
     std::uint64_t pendingFlags = 0;
 
     /// Adds to what remains; a reversal drops what was left first.
-    void add(std::uint64_t flags, double dx, double dy);
+    void add(std::uint64_t flags, ScrollDistance change);
 
     /// What one frame does.
     struct Frame {

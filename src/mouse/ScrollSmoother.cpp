@@ -10,9 +10,9 @@ ScrollSmoother::ScrollSmoother(
 {
 }
 
-void ScrollSmoother::add(std::uint64_t flags, double dx, double dy)
+void ScrollSmoother::add(std::uint64_t flags, ScrollDistance change)
 {
-    motion_.add(flags, dx, dy);
+    motion_.add(flags, change);
     if (driver_.source() != FrameDriver::Source::idle)
         return;
     motion_.lastTimestamp = 0;

@@ -19,7 +19,7 @@ public:
     /// `smoothDuration` is asked for at each frame.
     ScrollSmoother(FrameDriver& driver, std::function<Seconds()> smoothDuration, Post post);
 
-    void add(std::uint64_t flags, double dx, double dy);
+    void add(std::uint64_t flags, ScrollDistance change);
 
     /// Ends the frames; what remains is kept and joins the next `add`.
     void stop();

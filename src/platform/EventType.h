@@ -1,5 +1,6 @@
 #pragma once
 
+#include <concepts>
 #include <cstdint>
 
 namespace brindlex {
@@ -36,22 +37,57 @@ constexpr EventMask eventMask(EventType type)
     return number < 64 ? EventMask{1} << number : 0;
 }
 
-constexpr bool isMouseDown(EventType type)
+/// The mask of several types together.
+template <std::same_as<EventType>... More>
+constexpr EventMask eventMask(EventType type, More... more)
 {
-    return type == EventType::leftMouseDown || type == EventType::rightMouseDown
-        || type == EventType::otherMouseDown;
+    return (eventMask(type) | ... | eventMask(more));
 }
 
-constexpr bool isMouseUp(EventType type)
+inline constexpr EventMask mouseDownMask
+    = eventMask(EventType::leftMouseDown, EventType::rightMouseDown, EventType::otherMouseDown);
+inline constexpr EventMask mouseUpMask
+    = eventMask(EventType::leftMouseUp, EventType::rightMouseUp, EventType::otherMouseUp);
+inline constexpr EventMask mouseDraggedMask = eventMask(
+    EventType::leftMouseDragged, EventType::rightMouseDragged, EventType::otherMouseDragged);
+/// All that depends on the buttons of a mouse.
+inline constexpr EventMask mouseButtonMask = mouseDownMask | mouseUpMask | mouseDraggedMask;
+/// All keys but the modifiers.
+inline constexpr EventMask keyMask = eventMask(EventType::keyDown, EventType::keyUp);
+
+constexpr bool isMouseDown(EventType type) { return (mouseDownMask & eventMask(type)) != 0; }
+
+constexpr bool isMouseUp(EventType type) { return (mouseUpMask & eventMask(type)) != 0; }
+
+constexpr bool isMouseDragged(EventType type) { return (mouseDraggedMask & eventMask(type)) != 0; }
+
+/// The types of the events of one button, by its number: 0 is the left one, 1 the right one, and
+/// all that follow are others.
+constexpr EventType mouseDownType(std::int64_t button)
 {
-    return type == EventType::leftMouseUp || type == EventType::rightMouseUp
-        || type == EventType::otherMouseUp;
+    return button == 0 ? EventType::leftMouseDown
+        : button == 1  ? EventType::rightMouseDown
+                       : EventType::otherMouseDown;
 }
 
-constexpr bool isMouseDragged(EventType type)
+constexpr EventType mouseUpType(std::int64_t button)
 {
-    return type == EventType::leftMouseDragged || type == EventType::rightMouseDragged
-        || type == EventType::otherMouseDragged;
+    return button == 0 ? EventType::leftMouseUp
+        : button == 1  ? EventType::rightMouseUp
+                       : EventType::otherMouseUp;
+}
+
+constexpr EventType mouseDraggedType(std::int64_t button)
+{
+    return button == 0 ? EventType::leftMouseDragged
+        : button == 1  ? EventType::rightMouseDragged
+                       : EventType::otherMouseDragged;
+}
+
+/// The press, the release and the drags of one button, by its number.
+constexpr EventMask mouseButtonMaskOf(std::int64_t button)
+{
+    return eventMask(mouseDownType(button), mouseUpType(button), mouseDraggedType(button));
 }
 
 } // namespace brindlex

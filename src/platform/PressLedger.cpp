@@ -4,9 +4,10 @@
 
 namespace brindlex {
 
-void PressLedger::pressed(DeviceIdentifier device, Kind kind, std::int64_t code, bool wentOn)
+bool PressLedger::pressed(DeviceIdentifier device, Kind kind, std::int64_t code, bool wentOn)
 {
-    pressesThatWentOn_.try_emplace({device, {kind, code}}, wentOn);
+    const auto [press, isNew] = pressesThatWentOn_.try_emplace({device, {kind, code}}, wentOn);
+    return isNew && wentOn;
 }
 
 bool PressLedger::released(DeviceIdentifier device, Kind kind, std::int64_t code)

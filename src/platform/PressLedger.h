@@ -20,9 +20,10 @@ public:
     using DeviceIdentifier = std::uint64_t;
     enum class Kind { button, key };
 
-    /// Notes a press and whether it went on to the applications. A repeated press of a key that is
-    /// held adds nothing.
-    void pressed(DeviceIdentifier device, Kind kind, std::int64_t code, bool wentOn);
+    /// Notes a press and whether it went on to the applications. A second press without a release
+    /// in between, as a held key repeats it, adds nothing. Whether the press opened a pair that is
+    /// to go on.
+    bool pressed(DeviceIdentifier device, Kind kind, std::int64_t code, bool wentOn);
 
     /// Whether the release has to go on; the pair is then closed. True for what was never pressed
     /// here, since the press came before the program did.

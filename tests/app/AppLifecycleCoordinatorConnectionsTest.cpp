@@ -48,7 +48,8 @@ TEST(AppLifecycleCoordinator, followsMouseSettingsThatAnotherProcessWrites)
     process.computer.mainThread.runUntilIdle();
 
     EXPECT_EQ(process.shared.mouse().configStore().config().value(), config);
-    EXPECT_EQ(process.computer.input.tapMasks(), std::vector<EventMask>{0x400046});
+    EXPECT_EQ(process.computer.input.tapMasks(),
+        std::vector{mouseScrollEventMask | mouseButtonMaskOf(0)});
     EXPECT_EQ(process.computer.mouse.scroll(1), EventVerdict::swallow);
     ASSERT_EQ(process.computer.input.delivered().size(), 1U);
     EXPECT_EQ(
@@ -71,7 +72,8 @@ TEST(AppLifecycleCoordinator, startsWithDefaultsWhereTheMouseSettingsAreDamaged)
         }));
     EXPECT_EQ(process.shared.mouse().configStore().config().value(), MouseConfig{});
     EXPECT_EQ(process.computer.defaults.value("mouseConfig"), PreferenceValue(damaged));
-    EXPECT_EQ(process.computer.input.tapMasks(), std::vector<EventMask>{0x6400000});
+    EXPECT_EQ(
+        process.computer.input.tapMasks(), std::vector{mouseScrollEventMask | mouseClickEventMask});
 }
 
 } // namespace

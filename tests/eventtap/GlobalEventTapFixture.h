@@ -21,6 +21,11 @@ struct GlobalEventTapTest : testing::Test {
     using Lines = std::vector<std::string>;
     using Masks = std::vector<EventMask>;
 
+    static constexpr EventMask presses
+        = eventMask(EventType::otherMouseDown, EventType::otherMouseUp);
+    static constexpr EventMask keyPresses = eventMask(EventType::keyDown);
+    static constexpr EventMask wheel = eventMask(EventType::scrollWheel);
+
     /// A handler that notes its name and answers the verdict.
     GlobalEventTap::Handler noting(std::string name, EventVerdict verdict = EventVerdict::pass)
     {

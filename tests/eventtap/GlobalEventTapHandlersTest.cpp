@@ -6,7 +6,7 @@ namespace {
 TEST_F(GlobalEventTapTest, letsAHandlerEndItsOwnSubscription)
 {
     Uuid id;
-    id = tap.subscribe(1024, [&](const Event&) {
+    id = tap.subscribe(keyPresses, [&](const Event&) {
         tap.unsubscribe(id);
         return EventVerdict::swallow;
     });
@@ -20,14 +20,14 @@ TEST_F(GlobalEventTapTest, walksTheSubscribersThatThereWereWhenTheEventCame)
 {
     Uuid second;
     bool isFirst = true;
-    tap.subscribe(1024, [&](const Event&) {
+    tap.subscribe(keyPresses, [&](const Event&) {
         if (std::exchange(isFirst, false)) {
             tap.unsubscribe(second);
-            tap.subscribe(1024, noting("third"));
+            tap.subscribe(keyPresses, noting("third"));
         }
         return EventVerdict::pass;
     });
-    second = tap.subscribe(1024, noting("second"));
+    second = tap.subscribe(keyPresses, noting("second"));
 
     keyboard.press(9);
     EXPECT_EQ(calls, Lines{"second"});
@@ -37,7 +37,7 @@ TEST_F(GlobalEventTapTest, walksTheSubscribersThatThereWereWhenTheEventCame)
 
 TEST_F(GlobalEventTapTest, survivesTheLossOfPermissionInsideAHandler)
 {
-    tap.subscribe(1024, [&](const Event&) {
+    tap.subscribe(keyPresses, [&](const Event&) {
         permissions.set(false);
         permissions.tell();
         return EventVerdict::swallow;

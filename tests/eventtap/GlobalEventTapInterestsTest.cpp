@@ -36,8 +36,8 @@ protected:
 
 TEST_F(GlobalEventTapInterestsTest, changeForOneSubscriberAlone)
 {
-    const auto first = tap.subscribe(0xE000000, swallowing, sideButton);
-    tap.subscribe(0xE000000, passing, middleButton);
+    const auto first = tap.subscribe(mouseButtonMaskOf(2), swallowing, sideButton);
+    tap.subscribe(mouseButtonMaskOf(2), passing, middleButton);
 
     tap.setTriggers(first, forwardButton);
 
@@ -50,7 +50,7 @@ TEST_F(GlobalEventTapInterestsTest, changeForOneSubscriberAlone)
 
 TEST_F(GlobalEventTapInterestsTest, changeForNobodyUnderAnIdentifierThatIsNotKnown)
 {
-    tap.subscribe(0xE000000, swallowing, sideButton);
+    tap.subscribe(mouseButtonMaskOf(2), swallowing, sideButton);
 
     tap.setTriggers(Uuid::random(), forwardButton);
 
@@ -60,7 +60,7 @@ TEST_F(GlobalEventTapInterestsTest, changeForNobodyUnderAnIdentifierThatIsNotKno
 
 TEST_F(GlobalEventTapInterestsTest, changedWithoutATapCountForTheNextOne)
 {
-    const auto id = tap.subscribe(0xE000000, swallowing, sideButton);
+    const auto id = tap.subscribe(mouseButtonMaskOf(2), swallowing, sideButton);
     permissions.set(false);
     permissions.tell();
 
@@ -85,8 +85,8 @@ protected:
 
 TEST_F(GlobalEventTapsLifeTest, isSwitchedOffBeforeItGoes)
 {
-    const auto id = tap.subscribe(1024, passing);
-    tap.subscribe(0x400000, passing);
+    const auto id = tap.subscribe(eventMask(EventType::keyDown), passing);
+    tap.subscribe(eventMask(EventType::scrollWheel), passing);
     tap.unsubscribe(id);
     permissions.set(false);
     permissions.tell();
@@ -98,7 +98,7 @@ TEST_F(GlobalEventTapsLifeTest, isSwitchedOffBeforeItGoes)
 
 TEST_F(GlobalEventTapsLifeTest, doesNotBeginAgainByWordOfATapThatIsGone)
 {
-    tap.subscribe(1024, swallowing);
+    tap.subscribe(eventMask(EventType::keyDown), swallowing);
     const auto handler = input.newestHandler();
     permissions.set(false);
     permissions.tell();

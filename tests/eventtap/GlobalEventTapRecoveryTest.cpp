@@ -22,7 +22,7 @@ TEST_F(GlobalEventTapTest, switchesItselfOnAgainEveryTime)
 TEST_F(GlobalEventTapTest, saysThatTheSystemRefusedAndKeepsTheSubscription)
 {
     input.setRefusesTaps(true);
-    tap.subscribe(1024, noting("only"));
+    tap.subscribe(keyPresses, noting("only"));
 
     EXPECT_EQ(log.takeLines(),
         (Lines{"WARN [mouse] CGEvent.tapCreate returned nil; check Accessibility and Input "
@@ -41,11 +41,11 @@ TEST_F(GlobalEventTapTest, saysThatTheSystemRefusedAndKeepsTheSubscription)
 TEST_F(GlobalEventTapTest, triesAgainAtTheNextSubscription)
 {
     input.setRefusesTaps(true);
-    tap.subscribe(1024, noting("first"));
+    tap.subscribe(keyPresses, noting("first"));
     input.setRefusesTaps(false);
-    tap.subscribe(0x400000, noting("second"));
+    tap.subscribe(wheel, noting("second"));
 
-    EXPECT_EQ(input.tapMasks(), Masks{0x400400});
+    EXPECT_EQ(input.tapMasks(), Masks{wheel | keyPresses});
 }
 
 TEST_F(GlobalEventTapTest, doesNothingWithoutSubscribersWhenTheProgramBecomesActive)
@@ -58,7 +58,7 @@ TEST_F(GlobalEventTapTest, doesNothingWithoutSubscribersWhenTheProgramBecomesAct
 
 TEST_F(GlobalEventTapTest, leavesAGoodTapAlone)
 {
-    tap.subscribe(1024, noting("only"));
+    tap.subscribe(keyPresses, noting("only"));
 
     activation.becomeActive();
     permissions.tell();
@@ -69,7 +69,7 @@ TEST_F(GlobalEventTapTest, leavesAGoodTapAlone)
 
 TEST_F(GlobalEventTapTest, goesWhenOnlyInputMonitoringIsLost)
 {
-    tap.subscribe(1024, noting("only"));
+    tap.subscribe(keyPresses, noting("only"));
     permissions.canListen = false;
 
     activation.becomeActive();
@@ -83,8 +83,8 @@ TEST_F(GlobalEventTapTest, goesWhenOnlyInputMonitoringIsLost)
 
 TEST_F(GlobalEventTapTest, goesAndComesWithAccessibility)
 {
-    tap.subscribe(1024, noting("first"));
-    tap.subscribe(1024, noting("second"));
+    tap.subscribe(keyPresses, noting("first"));
+    tap.subscribe(keyPresses, noting("second"));
     permissions.isTrusted = false;
     permissions.tell();
     permissions.isTrusted = true;

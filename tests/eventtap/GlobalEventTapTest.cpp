@@ -5,10 +5,10 @@ namespace {
 
 TEST_F(GlobalEventTapTest, isOneTapForAllMasks)
 {
-    tap.subscribe(0x6000000, noting("first"));
-    tap.subscribe(0x4000400, noting("second"));
+    tap.subscribe(presses, noting("first"));
+    tap.subscribe(eventMask(EventType::otherMouseUp, EventType::keyDown), noting("second"));
 
-    EXPECT_EQ(input.tapMasks(), Masks{0x6000400});
+    EXPECT_EQ(input.tapMasks(), Masks{presses | keyPresses});
     EXPECT_EQ(input.tapsMade(), 2u);
     mouse.press(2);
     mouse.release(2);
@@ -18,8 +18,8 @@ TEST_F(GlobalEventTapTest, isOneTapForAllMasks)
 
 TEST_F(GlobalEventTapTest, asksEverySubscriberAlsoWhenTheFirstSwallows)
 {
-    tap.subscribe(0x6000000, noting("first", EventVerdict::swallow));
-    tap.subscribe(0x6000000, noting("second", EventVerdict::pass));
+    tap.subscribe(presses, noting("first", EventVerdict::swallow));
+    tap.subscribe(presses, noting("second", EventVerdict::pass));
 
     EXPECT_EQ(mouse.press(3), EventVerdict::swallow);
     EXPECT_EQ(calls, (Lines{"first", "second"}));
@@ -28,8 +28,8 @@ TEST_F(GlobalEventTapTest, asksEverySubscriberAlsoWhenTheFirstSwallows)
 
 TEST_F(GlobalEventTapTest, swallowsForTheLastSubscriberToo)
 {
-    tap.subscribe(0x6000000, noting("first", EventVerdict::pass));
-    tap.subscribe(0x6000000, noting("second", EventVerdict::swallow));
+    tap.subscribe(presses, noting("first", EventVerdict::pass));
+    tap.subscribe(presses, noting("second", EventVerdict::swallow));
 
     EXPECT_EQ(mouse.press(3), EventVerdict::swallow);
 }
@@ -37,7 +37,7 @@ TEST_F(GlobalEventTapTest, swallowsForTheLastSubscriberToo)
 TEST_F(GlobalEventTapTest, showsTheEventAsItCame)
 {
     Event seen;
-    tap.subscribe(0x6000000, [&](const Event& event) {
+    tap.subscribe(presses, [&](const Event& event) {
         seen = event;
         return EventVerdict::pass;
     });
@@ -55,10 +55,10 @@ TEST_F(GlobalEventTapTest, showsTheEventAsItCame)
 
 TEST_F(GlobalEventTapTest, putsWhoSubscribesAgainBehindTheOthers)
 {
-    const auto first = tap.subscribe(0x6000000, noting("first"));
-    tap.subscribe(0x6000000, noting("second"));
+    const auto first = tap.subscribe(presses, noting("first"));
+    tap.subscribe(presses, noting("second"));
     tap.unsubscribe(first);
-    tap.subscribe(0x6000000, noting("first"));
+    tap.subscribe(presses, noting("first"));
 
     mouse.press(2);
 
@@ -68,7 +68,7 @@ TEST_F(GlobalEventTapTest, putsWhoSubscribesAgainBehindTheOthers)
 TEST_F(GlobalEventTapTest, hasNoTapWithoutSubscribers)
 {
     EXPECT_EQ(input.tapMasks(), Masks{});
-    const auto id = tap.subscribe(1024, noting("only"));
+    const auto id = tap.subscribe(keyPresses, noting("only"));
     EXPECT_TRUE(tap.isLive());
 
     tap.unsubscribe(id);
@@ -81,11 +81,11 @@ TEST_F(GlobalEventTapTest, hasNoTapWithoutSubscribers)
 
 TEST_F(GlobalEventTapTest, isRebuiltForAnIdentifierThatItDoesNotKnow)
 {
-    tap.subscribe(1024, noting("only"));
+    tap.subscribe(keyPresses, noting("only"));
 
     tap.unsubscribe(Uuid::random());
 
-    EXPECT_EQ(input.tapMasks(), Masks{1024});
+    EXPECT_EQ(input.tapMasks(), Masks{keyPresses});
     EXPECT_EQ(input.tapsMade(), 2u);
 }
 
@@ -103,8 +103,8 @@ TEST_F(GlobalEventTapTest, neverMatchesATypeBeyondTheMask)
 
 TEST_F(GlobalEventTapTest, changesTriggersWithoutANewTap)
 {
-    const auto id = tap.subscribe(0x6000000, noting("first"), EventTriggers{{{2, {}}}, {}, false});
-    tap.subscribe(0x6000000, noting("second"), EventTriggers{{{3, {}}}, {}, false});
+    const auto id = tap.subscribe(presses, noting("first"), EventTriggers{{{2, {}}}, {}, false});
+    tap.subscribe(presses, noting("second"), EventTriggers{{{3, {}}}, {}, false});
 
     tap.setTriggers(id, EventTriggers{{{4, {}}}, {}, false});
 
@@ -122,7 +122,7 @@ TEST(GlobalEventTap, atTheDevicesSeesWhatItsTriggersBegin)
     GlobalEventTap tap(input, permissions, activation);
     std::vector<EventType> seen;
     const auto id = tap.subscribe(
-        0xE000000,
+        mouseButtonMaskOf(2),
         [&](const Event& event) {
             seen.push_back(event.type);
             return EventVerdict::swallow;
@@ -152,7 +152,8 @@ TEST(GlobalEventTap, leavesNothingBehind)
     SimulatedProgramActivation activation;
     {
         GlobalEventTap tap(input, permissions, activation);
-        tap.subscribe(1024, [](const Event&) { return EventVerdict::swallow; });
+        tap.subscribe(
+            GlobalEventTapTest::keyPresses, [](const Event&) { return EventVerdict::swallow; });
     }
     EXPECT_EQ(input.tapMasks(), std::vector<EventMask>{});
     EXPECT_FALSE(activation.isObserved());

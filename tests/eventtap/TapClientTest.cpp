@@ -20,8 +20,8 @@ namespace {
 using Lines = std::vector<std::string>;
 using Masks = std::vector<EventMask>;
 
-constexpr EventMask presses = 0x6000000;
-constexpr EventMask wheel = 0x400000;
+constexpr EventMask presses = eventMask(EventType::otherMouseDown, EventType::otherMouseUp);
+constexpr EventMask wheel = eventMask(EventType::scrollWheel);
 
 /// A client whose manager notes what is asked of it and swallows all events.
 class TapClientTest : public testing::Test {

@@ -160,5 +160,27 @@ TEST(Text, knowsWhiteSpaceLettersAndNumbersOfAnyScript)
         EXPECT_FALSE(isNumber(scalar)) << std::hex << static_cast<unsigned>(scalar);
 }
 
+TEST(Text, isNothingInPlaceOfAnEmptyOne)
+{
+    EXPECT_EQ(unlessEmpty(""), std::nullopt);
+    EXPECT_EQ(unlessEmpty(" "), " ");
+    EXPECT_EQ(unlessEmpty(std::string(1, '\0')), std::string(1, '\0'));
+    EXPECT_EQ(unlessEmpty("é"), "é");
+}
+
+TEST(Text, knowsWhatAHexadecimalDigitStandsFor)
+{
+    const std::string upper = "0123456789ABCDEF";
+    const std::string lower = "0123456789abcdef";
+    for (int byte = 0; byte < 256; ++byte) {
+        const auto digit = static_cast<char>(byte);
+        const auto place = std::min(upper.find(digit), lower.find(digit));
+        const auto expected = place == std::string::npos
+            ? std::nullopt
+            : std::optional(static_cast<std::uint8_t>(place));
+        EXPECT_EQ(hexDigitValue(digit), expected) << byte;
+    }
+}
+
 } // namespace
 } // namespace brindlex

@@ -68,7 +68,8 @@ TEST_F(MouseActionDispatcherTest, postsTheReleaseWhenThePressCannotBeMade)
 TEST_F(MouseActionDispatcherTest, showsItsKeystrokesToTheTap)
 {
     std::vector<Event> seen;
-    const auto tap = input.createTap(1024, {{1024, {}}}, [&](const Event& event) {
+    constexpr auto mask = eventMask(EventType::keyDown);
+    const auto tap = input.createTap(mask, {{mask, {}}}, [&](const Event& event) {
         seen.push_back(event);
         return EventVerdict::swallow;
     });

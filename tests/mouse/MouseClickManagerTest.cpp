@@ -22,7 +22,7 @@ TEST_F(MouseClickManagerTest, takesTheOtherButtonsWhateverTheSettingSays)
     clicks.start();
     clicks.start();
 
-    EXPECT_EQ(input.tapMasks(), Masks{0x6000000});
+    EXPECT_EQ(input.tapMasks(), Masks{mouseClickEventMask});
     EXPECT_EQ(input.tapsMade(), 1u);
     EXPECT_EQ(mouse.press(3), EventVerdict::swallow);
     EXPECT_EQ(mouse.release(3), EventVerdict::swallow);
@@ -36,7 +36,7 @@ TEST_F(MouseClickManagerTest, followsAChangeOfTheSetting)
     EXPECT_EQ(input.tapMasks(), Masks{});
     edit([](MouseConfig& value) { value.click.enabled = false; });
     edit([](MouseConfig& value) { value.click.enabled = true; });
-    EXPECT_EQ(input.tapMasks(), Masks{0x6000000});
+    EXPECT_EQ(input.tapMasks(), Masks{mouseClickEventMask});
     edit([](MouseConfig& value) { value.gesture.distanceThreshold = 40; });
     EXPECT_EQ(input.tapsMade(), 2u);
 }
@@ -95,7 +95,7 @@ TEST_F(MouseClickManagerTest, waitsForPermission)
     permissions.isTrusted = true;
     activation.becomeActive();
 
-    EXPECT_EQ(input.tapMasks(), Masks{0x6000000});
+    EXPECT_EQ(input.tapMasks(), Masks{mouseClickEventMask});
     EXPECT_EQ(mainThread.timers(), 0u);
 }
 
@@ -124,7 +124,7 @@ TEST_F(MouseClickManagerTest, canGoWhileAnEventIsOnItsWay)
 {
     auto second = std::make_unique<MouseClickManager>(config, environment, dispatcher);
     bindClick(MouseButton::button4, {}, MouseAction::Plain::back);
-    tap.subscribe(0x6000000, [&](const Event&) {
+    tap.subscribe(mouseClickEventMask, [&](const Event&) {
         second.reset();
         return EventVerdict::pass;
     });

@@ -39,12 +39,7 @@ struct MouseGestureTest : testing::Test {
     };
     static Types typesOf(std::int64_t button)
     {
-        if (button == 0)
-            return {EventType::leftMouseDown, EventType::leftMouseUp, EventType::leftMouseDragged};
-        if (button == 1)
-            return {
-                EventType::rightMouseDown, EventType::rightMouseUp, EventType::rightMouseDragged};
-        return {EventType::otherMouseDown, EventType::otherMouseUp, EventType::otherMouseDragged};
+        return {mouseDownType(button), mouseUpType(button), mouseDraggedType(button)};
     }
 
     void bind(MouseButton button, ModifierSet modifiers, MouseDirection direction,

@@ -31,7 +31,7 @@ TEST_F(MouseGestureManagerTest, performsADragAndHidesIt)
 {
     bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
-    EXPECT_EQ(input.tapMasks(), Masks{0xE000000});
+    EXPECT_EQ(input.tapMasks(), Masks{mouseButtonMaskOf(2)});
     mouse.moveTo({100, 100});
     input.takeDelivered();
 
@@ -98,7 +98,7 @@ TEST_F(MouseGestureManagerTest, staysAtItsPlaceWhenBindingsChangeWithinTheirButt
 {
     bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
-    gestures.install(0xE000000);
+    gestures.install(mouseButtonMaskOf(2));
     bindGesture(MouseButton::button5, {}, MouseDirection::left, MouseAction::Plain::back);
     EXPECT_EQ(input.tapsMade(), 1u);
 
@@ -133,7 +133,7 @@ TEST_F(MouseGestureManagerTest, takesAnotherPlaceForOtherButtons)
 
     bindGesture(MouseButton::right, {}, MouseDirection::right, MouseAction::Plain::forward);
 
-    EXPECT_EQ(input.tapMasks(), Masks{0xE000098});
+    EXPECT_EQ(input.tapMasks(), Masks{mouseButtonMaskOf(1) | mouseButtonMaskOf(2)});
     log.takeLines();
     EXPECT_EQ(mouse.release(3), EventVerdict::pass);
     EXPECT_EQ(log.lines(), (Lines{"INFO [mouse] MouseGesture: up without pending Side Back (4)"}));
@@ -152,7 +152,7 @@ TEST_F(MouseGestureManagerTest, letsGoOfAPressWhenGesturesAreSwitchedOff)
     EXPECT_EQ(mouse.release(3), EventVerdict::pass);
     EXPECT_EQ(log.lines(), Lines{});
     edit([](MouseConfig& value) { value.gesture.enabled = true; });
-    EXPECT_EQ(input.tapMasks(), Masks{0xE000000});
+    EXPECT_EQ(input.tapMasks(), Masks{mouseButtonMaskOf(2)});
 }
 
 TEST_F(MouseGestureManagerTest, knowsNothingOfAPressFromBeforeItWasSwitchedOff)
@@ -184,7 +184,7 @@ TEST_F(MouseGestureManagerTest, givesUpItsPlaceWhenItMayNotTakeAnother)
     EXPECT_EQ(input.tapMasks(), Masks{});
     permissions.canListen = true;
     mainThread.advance(2);
-    EXPECT_EQ(input.tapMasks(), Masks{0xE000046});
+    EXPECT_EQ(input.tapMasks(), Masks{mouseButtonMaskOf(0) | mouseButtonMaskOf(2)});
 }
 
 TEST_F(MouseGestureManagerTest, waitsForPermission)
@@ -209,7 +209,7 @@ TEST_F(MouseGestureManagerTest, waitsForPermission)
     mainThread.advance(2);
 
     EXPECT_EQ(log.takeLines(), Lines{});
-    EXPECT_EQ(input.tapMasks(), Masks{0xE000046});
+    EXPECT_EQ(input.tapMasks(), Masks{mouseButtonMaskOf(0) | mouseButtonMaskOf(2)});
     EXPECT_EQ(mainThread.timers(), 0u);
 }
 
@@ -270,7 +270,7 @@ TEST_F(MouseGestureManagerTest, canGoWhileAnEventIsOnItsWay)
     bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     second->tearDown();
     gestures.tearDown();
-    tap.subscribe(0x6000000, [&](const Event&) {
+    tap.subscribe(eventMask(EventType::otherMouseDown, EventType::otherMouseUp), [&](const Event&) {
         second.reset();
         return EventVerdict::pass;
     });

@@ -33,7 +33,7 @@ TEST_F(MouseScrollManagerTest, takesTheWheelWhateverIsSet)
     scrolling.start();
     scrolling.start();
 
-    EXPECT_EQ(input.tapMasks(), Masks{0x400000});
+    EXPECT_EQ(input.tapMasks(), Masks{mouseScrollEventMask});
     EXPECT_EQ(input.tapsMade(), 1u);
     EXPECT_EQ(mouse.scroll(1), EventVerdict::swallow);
     EXPECT_EQ(mouse.scroll(-2, 1), EventVerdict::swallow);
@@ -130,13 +130,13 @@ TEST_F(MouseScrollManagerTest, isEndedOnlyByAChangeToAllOff)
 {
     scrolling.start();
     edit([](MouseConfig& value) { value.scroll.speedMultiplier = 2; });
-    EXPECT_EQ(input.tapMasks(), Masks{0x400000});
+    EXPECT_EQ(input.tapMasks(), Masks{mouseScrollEventMask});
     edit([](MouseConfig& value) { value.scroll.invertHorizontal = true; });
     edit([](MouseConfig& value) { value.scroll.invertHorizontal = false; });
     EXPECT_EQ(input.tapMasks(), Masks{});
     EXPECT_EQ(mouse.scroll(1), EventVerdict::pass);
     edit([](MouseConfig& value) { value.scroll.invertVertical = true; });
-    EXPECT_EQ(input.tapMasks(), Masks{0x400000});
+    EXPECT_EQ(input.tapMasks(), Masks{mouseScrollEventMask});
 }
 
 TEST_F(MouseScrollManagerTest, forgetsItsMotionWhenItIsTornDown)
@@ -217,7 +217,7 @@ TEST_F(MouseScrollManagerTest, waitsForPermission)
     permissions.canListen = true;
     mainThread.advance(2);
 
-    EXPECT_EQ(input.tapMasks(), Masks{0x400000});
+    EXPECT_EQ(input.tapMasks(), Masks{mouseScrollEventMask});
     EXPECT_EQ(mainThread.timers(), 0u);
 }
 
@@ -225,7 +225,7 @@ TEST_F(MouseScrollManagerTest, canGoWhileAnEventIsOnItsWay)
 {
     auto second = std::make_unique<MouseScrollManager>(config, environment,
         MouseScrollManager::Abilities{input, applications, displayLink, clock});
-    tap.subscribe(0x400000, [&](const Event&) {
+    tap.subscribe(mouseScrollEventMask, [&](const Event&) {
         second.reset();
         return EventVerdict::pass;
     });

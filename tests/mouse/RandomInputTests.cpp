@@ -141,7 +141,8 @@ private:
             others_.pop_back();
             return;
         }
-        const EventMask mask = number(2) == 0 ? 0x400 : 0xE000000;
+        const EventMask mask
+            = number(2) == 0 ? eventMask(EventType::keyDown) : mouseButtonMaskOf(2);
         others_.push_back(session.tap.subscribe(mask, [this](const Event& event) {
             const bool isOwn = event.value(EventField::eventSourceUserData) != 0;
             return !isOwn && number(3) == 0 ? EventVerdict::swallow : EventVerdict::pass;

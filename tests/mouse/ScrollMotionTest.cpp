@@ -12,52 +12,53 @@ using Frame = ScrollMotion::Frame;
 TEST(ScrollMotion, addsUpAndKeepsTheNewestFlags)
 {
     ScrollMotion motion;
-    motion.add(eventFlag::shift, 3, 10);
-    motion.add(eventFlag::option, 4, 20);
+    motion.add(eventFlag::shift, {10, 3});
+    motion.add(eventFlag::option, {20, 4});
 
-    EXPECT_EQ(motion, (ScrollMotion{7, 30, 0, eventFlag::option}));
+    EXPECT_EQ(motion,
+        (ScrollMotion{.remainingY = 30, .remainingX = 7, .pendingFlags = eventFlag::option}));
 }
 
 TEST(ScrollMotion, dropsTheOldMotionAtAReversal)
 {
-    ScrollMotion vertical{8, 30, 0, 0};
-    vertical.add(0, 1, -10);
-    EXPECT_EQ(vertical, (ScrollMotion{1, -10, 0, 0}));
+    ScrollMotion vertical{.remainingY = 30, .remainingX = 8};
+    vertical.add(0, {-10, 1});
+    EXPECT_EQ(vertical, (ScrollMotion{.remainingY = -10, .remainingX = 1}));
 
-    ScrollMotion horizontal{8, 30, 0, 0};
-    horizontal.add(0, -1, 10);
-    EXPECT_EQ(horizontal, (ScrollMotion{-1, 10, 0, 0}));
+    ScrollMotion horizontal{.remainingY = 30, .remainingX = 8};
+    horizontal.add(0, {10, -1});
+    EXPECT_EQ(horizontal, (ScrollMotion{.remainingY = 10, .remainingX = -1}));
 }
 
 TEST(ScrollMotion, needsHalfAPixelOnBothSidesForAReversal)
 {
-    ScrollMotion exactly{0, 0.5, 0, 0};
-    exactly.add(0, 0, -0.5);
+    ScrollMotion exactly{.remainingY = 0.5};
+    exactly.add(0, {-0.5, 0});
     EXPECT_EQ(exactly.remainingY, -0.5);
 
-    ScrollMotion smallRemainder{0, 0.25, 0, 0};
-    smallRemainder.add(0, 0, -10);
+    ScrollMotion smallRemainder{.remainingY = 0.25};
+    smallRemainder.add(0, {-10, 0});
     EXPECT_EQ(smallRemainder.remainingY, -9.75);
 
-    ScrollMotion smallChange{0, 10, 0, 0};
-    smallChange.add(0, 0, -0.25);
+    ScrollMotion smallChange{.remainingY = 10};
+    smallChange.add(0, {-0.25, 0});
     EXPECT_EQ(smallChange.remainingY, 9.75);
 }
 
 TEST(ScrollMotion, isNotReversedByANegativeZero)
 {
-    ScrollMotion motion{0, 30, 0, 0};
-    motion.add(0, -0.0, -0.0);
+    ScrollMotion motion{.remainingY = 30};
+    motion.add(0, {-0.0, -0.0});
     EXPECT_EQ(motion.remainingY, 30);
 
-    ScrollMotion rested{-0.0, -0.0, 0, 0};
-    rested.add(0, 10, 10);
-    EXPECT_EQ(rested, (ScrollMotion{10, 10, 0, 0}));
+    ScrollMotion rested{.remainingY = -0.0, .remainingX = -0.0};
+    rested.add(0, {10, 10});
+    EXPECT_EQ(rested, (ScrollMotion{.remainingY = 10, .remainingX = 10}));
 }
 
 TEST(ScrollMotion, takesAFirstFrameForOneSixtieth)
 {
-    ScrollMotion motion{0, 100, 0, 0};
+    ScrollMotion motion{.remainingY = 100};
 
     const auto frame = motion.advance(500, 0.18);
 
@@ -72,7 +73,7 @@ TEST(ScrollMotion, takesAFirstFrameForOneSixtieth)
 
 TEST(ScrollMotion, takesALaterFrameForItsTime)
 {
-    ScrollMotion motion{100, 0, 0.5, 0};
+    ScrollMotion motion{.remainingX = 100, .lastTimestamp = 0.5};
 
     const auto frame = motion.advance(0.51, 0.18);
 
@@ -84,7 +85,7 @@ TEST(ScrollMotion, takesALaterFrameForItsTime)
 TEST(ScrollMotion, goesAlmostAllTheWayAtOnceWithoutADuration)
 {
     for (const double duration : {0.0, 0.001, -5.0}) {
-        ScrollMotion motion{0, 100, 0, 0};
+        ScrollMotion motion{.remainingY = 100};
         const auto frame = motion.advance(500, duration);
         EXPECT_NEAR(frame.step->vertical, 99.99999422225148, 1e-12);
         EXPECT_TRUE(frame.isDrained);
@@ -94,7 +95,7 @@ TEST(ScrollMotion, goesAlmostAllTheWayAtOnceWithoutADuration)
 
 TEST(ScrollMotion, neverPostsARemainderBelowHalfAPixel)
 {
-    ScrollMotion motion{0, 0.4, 0, 0};
+    ScrollMotion motion{.remainingY = 0.4};
 
     EXPECT_EQ(motion.advance(500, 0.18), (Frame{{}, true}));
     EXPECT_LT(motion.remainingY, 0.4);
@@ -103,7 +104,7 @@ TEST(ScrollMotion, neverPostsARemainderBelowHalfAPixel)
 
 TEST(ScrollMotion, dropsAStepBelowHalfAPixel)
 {
-    ScrollMotion motion{0, 5, 0, 0};
+    ScrollMotion motion{.remainingY = 5};
 
     EXPECT_EQ(motion.advance(500, 0.18), (Frame{{}, false}));
     EXPECT_NEAR(motion.remainingY, 5 * 0.9115648029083242264, 1e-12);
@@ -111,7 +112,7 @@ TEST(ScrollMotion, dropsAStepBelowHalfAPixel)
 
 TEST(ScrollMotion, postsBothAxesWhenOneIsLargeEnough)
 {
-    ScrollMotion motion{1, 100, 0, 0};
+    ScrollMotion motion{.remainingY = 100, .remainingX = 1};
 
     const auto frame = motion.advance(500, 0.18);
 
@@ -120,17 +121,17 @@ TEST(ScrollMotion, postsBothAxesWhenOneIsLargeEnough)
 
 TEST(ScrollMotion, isDrainedWhenLittleRemainsOnBothAxes)
 {
-    ScrollMotion motion{0, 0.4999, 0, 0};
+    ScrollMotion motion{.remainingY = 0.4999};
     EXPECT_TRUE(motion.advance(500, 1e9).isDrained);
-    ScrollMotion exactly{0, 0.5, 0, 0};
+    ScrollMotion exactly{.remainingY = 0.5};
     EXPECT_FALSE(exactly.advance(500, 1e18).isDrained);
-    ScrollMotion other{-20, 0.1, 0, 0};
+    ScrollMotion other{.remainingY = 0.1, .remainingX = -20};
     EXPECT_FALSE(other.advance(500, 0.18).isDrained);
 }
 
 TEST(ScrollMotion, losesLessThanAPixelPerFrameOfItsTail)
 {
-    ScrollMotion motion{0, 300, 0, 0};
+    ScrollMotion motion{.remainingY = 300};
     double posted = 0;
     int frames = 0;
     for (bool isDrained = false; !isDrained; ++frames) {

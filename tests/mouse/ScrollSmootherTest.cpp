@@ -30,7 +30,7 @@ protected:
 
 TEST_F(ScrollSmootherTest, runsWithTheScreenUntilItIsDrained)
 {
-    smoother.add(eventFlag::option, 0, 100);
+    smoother.add(eventFlag::option, {100, 0});
     EXPECT_EQ(driver.source(), Source::display);
     EXPECT_EQ(displayLink.lastWish, std::nullopt);
     EXPECT_TRUE(posts.empty());
@@ -49,7 +49,7 @@ TEST_F(ScrollSmootherTest, runsWithTheScreenUntilItIsDrained)
 TEST_F(ScrollSmootherTest, runsByATimerWithoutAScreen)
 {
     displayLink.framesPerSecond.reset();
-    smoother.add(0, 0, 100);
+    smoother.add(0, {100, 0});
     EXPECT_EQ(driver.source(), Source::timer);
 
     mainThread.advance(1.0 / 60);
@@ -63,9 +63,9 @@ TEST_F(ScrollSmootherTest, runsByATimerWithoutAScreen)
 
 TEST_F(ScrollSmootherTest, joinsTheMotionThatRuns)
 {
-    smoother.add(0, 0, 100);
+    smoother.add(0, {100, 0});
     displayLink.frame(500);
-    smoother.add(eventFlag::shift, 0, 100);
+    smoother.add(eventFlag::shift, {100, 0});
     EXPECT_EQ(smoother.motion().lastTimestamp, 500);
 
     displayLink.frame(500 + 1.0 / 60);
@@ -76,17 +76,17 @@ TEST_F(ScrollSmootherTest, joinsTheMotionThatRuns)
 
 TEST_F(ScrollSmootherTest, startsFromNothingAtAReversal)
 {
-    smoother.add(0, 0, 100);
+    smoother.add(0, {100, 0});
     displayLink.frame(500);
 
-    smoother.add(0, 0, -20);
+    smoother.add(0, {-20, 0});
 
     EXPECT_EQ(smoother.motion().remainingY, -20);
 }
 
 TEST_F(ScrollSmootherTest, postsNothingForLessThanHalfAPixel)
 {
-    smoother.add(0, 0, 0.4);
+    smoother.add(0, {0.4, 0});
     displayLink.frame(500);
 
     EXPECT_TRUE(posts.empty());
@@ -95,11 +95,11 @@ TEST_F(ScrollSmootherTest, postsNothingForLessThanHalfAPixel)
 
 TEST_F(ScrollSmootherTest, keepsTheTailForTheNextMotion)
 {
-    smoother.add(0, 0, 0.4);
+    smoother.add(0, {0.4, 0});
     displayLink.frame(500);
     const auto tail = smoother.motion().remainingY;
 
-    smoother.add(0, 0, 10);
+    smoother.add(0, {10, 0});
 
     EXPECT_EQ(smoother.motion().remainingY, tail + 10);
     EXPECT_TRUE(displayLink.isRunning());
@@ -107,7 +107,7 @@ TEST_F(ScrollSmootherTest, keepsTheTailForTheNextMotion)
 
 TEST_F(ScrollSmootherTest, readsTheDurationAtEachFrame)
 {
-    smoother.add(0, 0, 100);
+    smoother.add(0, {100, 0});
     smoothDuration = 0;
     displayLink.frame(500);
 
@@ -119,7 +119,7 @@ TEST_F(ScrollSmootherTest, takesADurationBelowNothingForTheShortest)
 {
     for (const Seconds duration : {-0.18, -1e308}) {
         smoothDuration = duration;
-        smoother.add(0, 0, 100);
+        smoother.add(0, {100, 0});
         displayLink.frame(500);
 
         EXPECT_NEAR(posts.back().second.vertical, 99.99999422225148, 1e-12) << duration;
@@ -131,7 +131,7 @@ TEST_F(ScrollSmootherTest, takesADurationBelowNothingForTheShortest)
 TEST_F(ScrollSmootherTest, goesOnOnceADurationWithoutEndIsOver)
 {
     smoothDuration = 1e308;
-    smoother.add(0, 0, 100);
+    smoother.add(0, {100, 0});
     for (int frame = 0; frame < 100; ++frame)
         displayLink.frame(500 + frame / 60.0);
     EXPECT_TRUE(posts.empty());
@@ -147,7 +147,7 @@ TEST_F(ScrollSmootherTest, goesOnOnceADurationWithoutEndIsOver)
 
 TEST_F(ScrollSmootherTest, keepsWhatRemainsWhenItIsStopped)
 {
-    smoother.add(eventFlag::option, 5, 100);
+    smoother.add(eventFlag::option, {100, 5});
     displayLink.frame(500);
     const auto before = smoother.motion();
 
@@ -155,7 +155,7 @@ TEST_F(ScrollSmootherTest, keepsWhatRemainsWhenItIsStopped)
 
     EXPECT_FALSE(displayLink.isRunning());
     EXPECT_EQ(smoother.motion(),
-        (ScrollMotion{before.remainingX, before.remainingY, 0, eventFlag::option}));
+        (ScrollMotion{before.remainingY, before.remainingX, 0, eventFlag::option}));
     smoother.reset();
     EXPECT_EQ(smoother.motion(), ScrollMotion{});
 }

@@ -1,15 +1,15 @@
 #include "platform/EventPosting.h"
 
 #include "platform/TappedSessions.h"
+#include "platform/VirtualKey.h"
 
 namespace brindlex {
 namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr EventMask otherButtons = 0xE000000;
+constexpr EventMask otherButtons = mouseButtonMaskOf(2);
 constexpr std::int64_t tag = 0x4D4F534547535452;
-constexpr std::int64_t keyA = 0;
 
 template <typename Session>
 class EventPostingPromise : public testing::Test {
@@ -24,8 +24,8 @@ protected:
     void stroke()
     {
         for (const auto type : {EventType::keyDown, EventType::keyUp})
-            EXPECT_TRUE(
-                session_.posting().post({type, {}, 0, {{EventField::keyboardEventKeycode, keyA}}}));
+            EXPECT_TRUE(session_.posting().post(
+                {type, {}, 0, {{EventField::keyboardEventKeycode, virtualKey::a}}}));
     }
 
     void tap(EventTriggers triggers, EventTapping::Handler handler)

@@ -2,6 +2,7 @@
 
 #include "platform/EventTap.h"
 #include "platform/TappedSessions.h"
+#include "platform/VirtualKey.h"
 
 #include <gtest/gtest.h>
 
@@ -48,15 +49,14 @@ protected:
         EXPECT_EQ(seen_, (std::vector<std::string>{"25 3", "26 3"}));
     }
 
-    static constexpr EventMask otherButtons = 0xE000000;
-    static constexpr EventMask keys = 0xC00;
+    static constexpr EventMask otherButtons = mouseButtonMaskOf(2);
     static EventInterest button(std::int64_t number, std::optional<std::uint64_t> flags = {})
     {
-        return {0xE0000DE, EventTriggers{.buttons = {{number, flags}}}};
+        return {mouseButtonMask, EventTriggers{.buttons = {{number, flags}}}};
     }
     static EventInterest key(std::int64_t code, std::uint64_t flags)
     {
-        return {keys, EventTriggers{.keys = {{code, flags}}}};
+        return {keyMask, EventTriggers{.keys = {{code, flags}}}};
     }
 
     Session session_;

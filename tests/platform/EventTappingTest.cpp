@@ -8,9 +8,6 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr std::int64_t keyA = 0;
-constexpr std::int64_t keyS = 1;
-
 TYPED_TEST(EventTappingPromise, handsOnOnceAndInOrderWhatPasses)
 {
     this->tap({{this->otherButtons | eventMask(EventType::scrollWheel), {}}});
@@ -46,13 +43,14 @@ TYPED_TEST(EventTappingPromise, keepsAlsoWhatIsSwallowedLate)
 
 TYPED_TEST(EventTappingPromise, leavesAloneWhatIsNoTrigger)
 {
-    this->tap({this->button(2), this->key(keyA, eventFlag::control)}, EventVerdict::swallow);
+    this->tap(
+        {this->button(2), this->key(virtualKey::a, eventFlag::control)}, EventVerdict::swallow);
 
     this->session_.press(0);
     this->session_.release(0);
     this->session_.turnWheelUp();
-    this->session_.pressKey(keyA);
-    this->session_.releaseKey(keyA);
+    this->session_.pressKey(virtualKey::a);
+    this->session_.releaseKey(virtualKey::a);
 
     EXPECT_TRUE(this->session_.receives(
         {"press 1", "release 1", "press 4", "release 4", "key 38 down", "key 38 up"}));
@@ -61,15 +59,15 @@ TYPED_TEST(EventTappingPromise, leavesAloneWhatIsNoTrigger)
 
 TYPED_TEST(EventTappingPromise, swallowsAKeyWithExactlyItsModifiers)
 {
-    this->tap({this->key(keyA, eventFlag::control)}, EventVerdict::swallow);
+    this->tap({this->key(virtualKey::a, eventFlag::control)}, EventVerdict::swallow);
 
-    this->session_.pressKey(keyA);
-    this->session_.releaseKey(keyA);
+    this->session_.pressKey(virtualKey::a);
+    this->session_.releaseKey(virtualKey::a);
     this->session_.holdControl();
-    this->session_.pressKey(keyA);
-    this->session_.releaseKey(keyA);
-    this->session_.pressKey(keyS);
-    this->session_.releaseKey(keyS);
+    this->session_.pressKey(virtualKey::a);
+    this->session_.releaseKey(virtualKey::a);
+    this->session_.pressKey(virtualKey::s);
+    this->session_.releaseKey(virtualKey::s);
     this->session_.dropControl();
 
     EXPECT_TRUE(this->session_.receives({"key 38 down", "key 38 up", "key 37 down",

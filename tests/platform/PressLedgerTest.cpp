@@ -11,8 +11,8 @@ constexpr auto key = PressLedger::Kind::key;
 TEST(PressLedger, sendsAReleaseWhereItsPressWent)
 {
     PressLedger ledger;
-    ledger.pressed(1, button, 3, false);
-    ledger.pressed(1, button, 4, true);
+    EXPECT_FALSE(ledger.pressed(1, button, 3, false));
+    EXPECT_TRUE(ledger.pressed(1, button, 4, true));
 
     EXPECT_FALSE(ledger.released(1, button, 3));
     EXPECT_TRUE(ledger.released(1, button, 4));
@@ -31,13 +31,29 @@ TEST(PressLedger, keepsDevicesAndKindsApart)
     EXPECT_FALSE(ledger.released(1, button, 3));
 }
 
-TEST(PressLedger, countsARepeatedKeyAsOnePress)
+TEST(PressLedger, countsTwoPressesWithoutAReleaseAsTheFirst)
+{
+    for (const bool wentOn : {true, false})
+        for (const bool secondWentOn : {true, false}) {
+            PressLedger ledger;
+            EXPECT_EQ(ledger.pressed(1, key, 9, wentOn), wentOn);
+            EXPECT_FALSE(ledger.pressed(1, key, 9, secondWentOn));
+
+            EXPECT_EQ(ledger.released(1, key, 9), wentOn);
+            EXPECT_TRUE(ledger.isEmpty());
+            EXPECT_TRUE(ledger.released(1, key, 9));
+        }
+}
+
+TEST(PressLedger, knowsButtonsOfAnyNumber)
 {
     PressLedger ledger;
-    ledger.pressed(1, key, 9, true);
-    ledger.pressed(1, key, 9, false);
-
-    EXPECT_TRUE(ledger.released(1, key, 9));
+    for (const std::int64_t number : {INT64_MIN, -1L, 0L, 31L, 32L, 64L, 255L, 256L, INT64_MAX}) {
+        EXPECT_TRUE(ledger.pressed(1, button, number, true));
+        EXPECT_TRUE(ledger.isOpen(1, button, number));
+        EXPECT_FALSE(ledger.isOpen(1, key, number));
+    }
+    EXPECT_EQ(ledger.forget(1).size(), 9U);
     EXPECT_TRUE(ledger.isEmpty());
 }
 

@@ -1,5 +1,7 @@
 #include "platform/simulated/SimulatedKeyboard.h"
 
+#include "platform/VirtualKey.h"
+
 #include <array>
 #include <utility>
 
@@ -8,12 +10,12 @@ namespace {
 
 /// The modifier keys on the left, by flag.
 constexpr std::array modifierKeys{
-    std::pair{eventFlag::command, std::int64_t{55}},
-    std::pair{eventFlag::shift, std::int64_t{56}},
-    std::pair{eventFlag::capsLock, std::int64_t{57}},
-    std::pair{eventFlag::option, std::int64_t{58}},
-    std::pair{eventFlag::control, std::int64_t{59}},
-    std::pair{eventFlag::function, std::int64_t{63}},
+    std::pair{eventFlag::command, virtualKey::command},
+    std::pair{eventFlag::shift, virtualKey::shift},
+    std::pair{eventFlag::capsLock, virtualKey::capsLock},
+    std::pair{eventFlag::option, virtualKey::option},
+    std::pair{eventFlag::control, virtualKey::control},
+    std::pair{eventFlag::function, virtualKey::function},
 };
 
 } // namespace

@@ -3,11 +3,6 @@
 namespace brindlex {
 namespace {
 
-EventType typeFor(std::int64_t button, EventType left, EventType right, EventType other)
-{
-    return button == 0 ? left : button == 1 ? right : other;
-}
-
 EventFields buttonFields(std::int64_t button)
 {
     return {{EventField::mouseEventButtonNumber, button}};
@@ -17,29 +12,20 @@ EventFields buttonFields(std::int64_t button)
 
 EventVerdict SimulatedMouse::press(std::int64_t button)
 {
-    heldButtons_.insert(button);
-    return send(typeFor(button, EventType::leftMouseDown, EventType::rightMouseDown,
-                    EventType::otherMouseDown),
-        buttonFields(button));
+    held_.press(button);
+    return send(mouseDownType(button), buttonFields(button));
 }
 
 EventVerdict SimulatedMouse::release(std::int64_t button)
 {
-    heldButtons_.erase(button);
-    return send(
-        typeFor(button, EventType::leftMouseUp, EventType::rightMouseUp, EventType::otherMouseUp),
-        buttonFields(button));
+    held_.release(button);
+    return send(mouseUpType(button), buttonFields(button));
 }
 
 EventVerdict SimulatedMouse::moveTo(Point point)
 {
     input_.cursor = point;
-    if (heldButtons_.empty())
-        return send(EventType::mouseMoved, {});
-    const auto button = *heldButtons_.begin();
-    return send(typeFor(button, EventType::leftMouseDragged, EventType::rightMouseDragged,
-                    EventType::otherMouseDragged),
-        buttonFields(button));
+    return send(held_.motionType(), held_.motionFields());
 }
 
 EventVerdict SimulatedMouse::scroll(std::int64_t vertical, std::int64_t horizontal)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/HeldButtons.h"
 #include "platform/simulated/SimulatedInput.h"
 
 #include <set>
@@ -23,14 +24,14 @@ public:
     /// Scrolls by pixels, as a trackpad does.
     EventVerdict scrollContinuously(std::int64_t vertical, std::int64_t horizontal = 0);
 
-    const std::set<std::int64_t>& heldButtons() const { return heldButtons_; }
+    const std::set<std::int64_t>& heldButtons() const { return held_.numbers(); }
 
 private:
     EventVerdict send(EventType type, EventFields fields);
 
     SimulatedInput& input_;
     PressLedger::DeviceIdentifier device_;
-    std::set<std::int64_t> heldButtons_;
+    HeldButtons held_;
 };
 
 } // namespace brindlex

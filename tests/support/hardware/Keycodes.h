@@ -1,29 +1,35 @@
 #pragma once
 
 #include <cstdint>
+#include <linux/input-event-codes.h>
 
 namespace brindlex {
 
-/// Keys as X counts them, by what stands on them on a US keyboard.
+/// Keys as X counts them, by what stands on them on a US keyboard: X adds 8 to the kernel's
+/// numbers.
 namespace keycode {
 
-inline constexpr std::uint8_t escape = 9;
-inline constexpr std::uint8_t tab = 23;
-inline constexpr std::uint8_t q = 24;
-inline constexpr std::uint8_t y = 29;
-inline constexpr std::uint8_t enter = 36;
-inline constexpr std::uint8_t control = 37;
-inline constexpr std::uint8_t a = 38;
-inline constexpr std::uint8_t d = 40;
-inline constexpr std::uint8_t shift = 50;
-inline constexpr std::uint8_t alt = 64;
-inline constexpr std::uint8_t capsLock = 66;
-inline constexpr std::uint8_t numLock = 77;
-inline constexpr std::uint8_t up = 111;
-inline constexpr std::uint8_t right = 114;
-inline constexpr std::uint8_t end = 115;
-inline constexpr std::uint8_t down = 116;
-inline constexpr std::uint8_t super = 133;
+inline constexpr std::uint8_t escape = KEY_ESC + 8;
+inline constexpr std::uint8_t one = KEY_1 + 8;
+inline constexpr std::uint8_t tab = KEY_TAB + 8;
+inline constexpr std::uint8_t q = KEY_Q + 8;
+inline constexpr std::uint8_t y = KEY_Y + 8;
+inline constexpr std::uint8_t enter = KEY_ENTER + 8;
+inline constexpr std::uint8_t control = KEY_LEFTCTRL + 8;
+inline constexpr std::uint8_t a = KEY_A + 8;
+inline constexpr std::uint8_t s = KEY_S + 8;
+inline constexpr std::uint8_t d = KEY_D + 8;
+inline constexpr std::uint8_t shift = KEY_LEFTSHIFT + 8;
+inline constexpr std::uint8_t backslash = KEY_BACKSLASH + 8;
+inline constexpr std::uint8_t alt = KEY_LEFTALT + 8;
+inline constexpr std::uint8_t space = KEY_SPACE + 8;
+inline constexpr std::uint8_t capsLock = KEY_CAPSLOCK + 8;
+inline constexpr std::uint8_t numLock = KEY_NUMLOCK + 8;
+inline constexpr std::uint8_t up = KEY_UP + 8;
+inline constexpr std::uint8_t right = KEY_RIGHT + 8;
+inline constexpr std::uint8_t end = KEY_END + 8;
+inline constexpr std::uint8_t down = KEY_DOWN + 8;
+inline constexpr std::uint8_t super = KEY_LEFTMETA + 8;
 
 } // namespace keycode
 

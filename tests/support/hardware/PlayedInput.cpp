@@ -18,11 +18,11 @@ struct KeyRow {
 
 /// The rows of a US keyboard; X counts each row from left to right without a gap.
 constexpr std::array rows{
-    KeyRow{9, "\x1b"},
-    KeyRow{10, "1234567890-=\b\tqwertyuiop[]\n"},
-    KeyRow{38, "asdfghjkl;'`"},
-    KeyRow{51, "\\zxcvbnm,./"},
-    KeyRow{65, " "},
+    KeyRow{keycode::escape, "\x1b"},
+    KeyRow{keycode::one, "1234567890-=\b\tqwertyuiop[]\n"},
+    KeyRow{keycode::a, "asdfghjkl;'`"},
+    KeyRow{keycode::backslash, "\\zxcvbnm,./"},
+    KeyRow{keycode::space, " "},
 };
 
 } // namespace

@@ -1,5 +1,6 @@
 #include "eventtap/GlobalEventTap.h"
 #include "log/Log.h"
+#include "platform/VirtualKey.h"
 #include "platform/linux/input/X11EventPermissions.h"
 #include "platform/linux/input/X11EventTapping.h"
 #include "platform/linux/input/X11InputStream.h"
@@ -19,21 +20,21 @@ namespace {
 constexpr std::int64_t leftButton = 0;
 constexpr std::int64_t middleButton = 2;
 constexpr std::int64_t forwardButton = 4;
-constexpr EventMask everything = 0xE400CDE;
-constexpr EventMask keys = 0xC00;
+constexpr EventMask everything = mouseButtonMask | eventMask(EventType::scrollWheel) | keyMask;
 
 /// What to tap, by the program's argument.
 EventInterest interestOf(const std::string& name)
 {
     if (name == "triggers")
         return {everything,
-            EventTriggers{.buttons = {{middleButton, {}}}, .keys = {{0, eventFlag::control}}}};
+            EventTriggers{
+                .buttons = {{middleButton, {}}}, .keys = {{virtualKey::a, eventFlag::control}}}};
     if (name == "gesture")
         return {everything, EventTriggers{.buttons = {{leftButton, {}}}}};
     if (name == "mice")
-        return {everything & ~keys, {}};
+        return {everything & ~keyMask, {}};
     if (name == "keyboards")
-        return {keys, {}};
+        return {keyMask, {}};
     return {everything, {}};
 }
 

@@ -1,17 +1,10 @@
 #include "platform/linux/applications/DesktopApplicationBundles.h"
 
+#include "foundation/Text.h"
 #include "platform/linux/applications/ApplicationIdentity.h"
 #include "platform/linux/applications/DesktopIcons.h"
 
 namespace brindlex {
-namespace {
-
-std::optional<std::string> unlessEmpty(const std::string& text)
-{
-    return text.empty() ? std::nullopt : std::optional(text);
-}
-
-} // namespace
 
 DesktopApplicationBundles::DesktopApplicationBundles(const DesktopEntries& entries)
     : entries_(entries)

@@ -31,11 +31,6 @@ bool isSameApplication(const RunningApplication& one, const RunningApplication& 
         && one.bundleIdentifier == other.bundleIdentifier;
 }
 
-std::optional<std::string> unlessEmpty(const std::string& text)
-{
-    return text.empty() ? std::nullopt : std::optional(text);
-}
-
 } // namespace
 
 X11RunningApplications::X11RunningApplications(

@@ -6,28 +6,22 @@
 namespace brindlex {
 namespace {
 
-constexpr EventMask downs = eventMask(EventType::leftMouseDown)
-    | eventMask(EventType::rightMouseDown) | eventMask(EventType::otherMouseDown);
 constexpr EventMask wheel = eventMask(EventType::scrollWheel);
-constexpr EventMask mice = downs | wheel | eventMask(EventType::leftMouseUp)
-    | eventMask(EventType::rightMouseUp) | eventMask(EventType::otherMouseUp)
-    | eventMask(EventType::leftMouseDragged) | eventMask(EventType::rightMouseDragged)
-    | eventMask(EventType::otherMouseDragged) | eventMask(EventType::mouseMoved);
-constexpr EventMask keys = eventMask(EventType::keyDown) | eventMask(EventType::keyUp)
-    | eventMask(EventType::flagsChanged);
+constexpr EventMask mice = mouseButtonMask | wheel | eventMask(EventType::mouseMoved);
+constexpr EventMask keyboards = keyMask | eventMask(EventType::flagsChanged);
 
 void add(TapDemand& demand, const EventInterest& interest)
 {
     if (!interest.triggers) {
         demand.takesMice |= (interest.mask & mice) != 0;
-        demand.takesKeyboards |= (interest.mask & keys) != 0;
+        demand.takesKeyboards |= (interest.mask & keyboards) != 0;
         return;
     }
     // The wheel turns at once: there is no press from which on it could be taken.
     demand.takesMice |= interest.triggers->wheel && (interest.mask & wheel) != 0;
     for (const auto& button : interest.triggers->buttons)
         if (const auto number = buttonOfNumber(button.number);
-            number != 0 && (interest.mask & eventMask(downTypeOf(button.number))) != 0)
+            number != 0 && (interest.mask & eventMask(mouseDownType(button.number))) != 0)
             demand.buttons.insert({number, button.modifierFlags});
     if ((interest.mask & eventMask(EventType::keyDown)) == 0)
         return;

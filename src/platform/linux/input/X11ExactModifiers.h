@@ -1,9 +1,9 @@
 #pragma once
 
+#include "platform/linux/input/ModifierChange.h"
 #include "platform/linux/input/X11TapSession.h"
 
 #include <cstdint>
-#include <vector>
 
 namespace brindlex {
 
@@ -30,9 +30,7 @@ private:
 
     bool isHolding_ = false;
     std::uint64_t flags_ = 0;
-    std::vector<std::uint8_t> released_;
-    std::vector<std::uint8_t> pressed_;
-    bool tookCapsLock_ = false;
+    ModifierChange change_;
 };
 
 } // namespace brindlex

@@ -38,12 +38,6 @@ void X11Injection::release(Kind kind, std::uint8_t code)
     play(kind, code, false);
 }
 
-void X11Injection::releaseIfHeld(Kind kind, std::uint8_t code)
-{
-    if (holds(kind, code))
-        release(kind, code);
-}
-
 void X11Injection::releaseAll()
 {
     for (const auto& [press, count] : held_)

@@ -29,7 +29,6 @@ public:
     void release(Kind kind, std::uint8_t code);
 
     /// Releases what was pressed here; nothing else.
-    void releaseIfHeld(Kind kind, std::uint8_t code);
     void releaseAll();
     bool holdsNothing() const { return held_.empty(); }
     bool holds(Kind kind, std::uint8_t code) const { return held_.contains({kind, code}); }

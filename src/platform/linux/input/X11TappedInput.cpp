@@ -1,6 +1,6 @@
 #include "platform/linux/input/X11TappedInput.h"
 
-#include "platform/linux/input/VirtualKeyCodes.h"
+#include "platform/linux/input/X11KeyEvent.h"
 #include "platform/linux/x11/X11Buttons.h"
 
 #include <cmath>
@@ -11,16 +11,11 @@ namespace {
 
 using Kind = PressLedger::Kind;
 
-constexpr EventMask motions = eventMask(EventType::mouseMoved)
-    | eventMask(EventType::leftMouseDragged) | eventMask(EventType::rightMouseDragged)
-    | eventMask(EventType::otherMouseDragged);
+constexpr EventMask motions = mouseDraggedMask | eventMask(EventType::mouseMoved);
 
-/// The whole part of a distance; the rest stays.
-int takeWholePixels(double& distance)
+EventFields fieldsOf(const X11InputEvent::Button& event)
 {
-    const double whole = std::trunc(distance);
-    distance -= whole;
-    return static_cast<int>(whole);
+    return {{EventField::mouseEventButtonNumber, buttonNumber(event.button)}};
 }
 
 } // namespace
@@ -33,67 +28,57 @@ X11TappedInput::X11TappedInput(
 
 void X11TappedInput::receive(const X11InputEvent::Button& event)
 {
-    if (isWheel(event.button)) {
-        if (event.isPress)
-            turnWheel(event.button);
+    const bool isTurn = isWheel(event.button);
+    if (isTurn && !event.isPress)
         return;
-    }
+    if (isTurn)
+        turnWheel(event.button);
+    else if (event.isPress)
+        press(event);
+    else
+        release(event);
+    hooks_.eventDone();
+}
+
+void X11TappedInput::press(const X11InputEvent::Button& event)
+{
     const auto number = buttonNumber(event.button);
-    const EventFields fields{{EventField::mouseEventButtonNumber, number}};
-    auto& held = heldButtons_[event.device];
-    const bool takesDevice = event.isPress && held.empty() && !grabs_.isTaken(event.device);
+    const auto type = mouseDownType(number);
+    const bool isFirst = mice_[event.device].held.press(number);
+    const bool takesDevice = isFirst && !grabs_.isTaken(event.device);
     if (takesDevice)
         injection_.takeCursor();
-    if (event.isPress)
-        held.insert(number);
-    else
-        held.erase(number);
+    const auto verdict = takesDevice
+        ? taps_.offer({type, event.location, event.flags, fieldsOf(event)})
+        : offer(type, fieldsOf(event));
+    pressed(event.device, Kind::button, event.button, verdict);
+}
 
-    const auto type = event.isPress ? downTypeOf(number) : upTypeOf(number);
-    if (takesDevice) {
-        const auto verdict = taps_.offer({type, event.location, event.flags, fields});
-        pressed(event.device, Kind::button, event.button, verdict);
-    } else if (event.isPress) {
-        pressed(event.device, Kind::button, event.button, offer(type, fields));
-    } else {
-        // Its way is decided, so that the application need not wait for the question where the
-        // cursor is.
-        released(event.device, Kind::button, event.button);
-        offer(type, fields);
-    }
-    hooks_.eventDone();
+void X11TappedInput::release(const X11InputEvent::Button& event)
+{
+    const auto number = buttonNumber(event.button);
+    mice_[event.device].held.release(number);
+    // Its way is decided, so that the application need not wait for the question where the cursor
+    // is.
+    released(event.device, Kind::button, event.button);
+    offer(mouseUpType(number), fieldsOf(event));
 }
 
 void X11TappedInput::turnWheel(std::uint8_t button)
 {
-    const std::int64_t vertical = button == wheelUp ? 1 : button == wheelDown ? -1 : 0;
-    const std::int64_t horizontal = button == wheelLeft ? 1 : button == wheelRight ? -1 : 0;
+    const auto lines = wheelLinesOf(button);
     const auto verdict = offer(EventType::scrollWheel,
-        {{EventField::scrollWheelEventDeltaAxis1, vertical},
-            {EventField::scrollWheelEventDeltaAxis2, horizontal}});
+        {{EventField::scrollWheelEventDeltaAxis1, lines.vertical},
+            {EventField::scrollWheelEventDeltaAxis2, lines.horizontal}});
     if (verdict == EventVerdict::pass)
         injection_.turnWheel(button);
-    hooks_.eventDone();
 }
 
 void X11TappedInput::receive(const X11InputEvent::Key& event)
 {
-    const auto code = virtualKeyCode(event.keycode);
-    const auto modifier = modifierFlagOf(code);
-    const auto type = modifier != 0 ? EventType::flagsChanged
-        : event.isPress             ? EventType::keyDown
-                                    : EventType::keyUp;
     auto verdict = EventVerdict::pass;
-    if (taps_.sees(eventMask(type))) {
-        EventFields fields{{EventField::keyboardEventKeycode, code}};
-        if (event.isRepeat)
-            fields.set(EventField::keyboardEventAutorepeat, 1);
-        const auto cursor = hooks_.cursor();
-        // A modifier counts from its own event on; Caps Lock only switches.
-        const auto held = modifier & ~eventFlag::capsLock;
-        const auto flags = event.isPress ? cursor.flags | held : cursor.flags & ~held;
-        verdict = taps_.offer({type, cursor.location, flags, fields});
-    }
+    if (taps_.sees(eventMask(eventTypeOf(event))))
+        verdict = taps_.offer(eventOf(event, hooks_.cursor()));
     if (!event.isPress)
         released(event.device, Kind::key, event.keycode);
     else if (!event.isRepeat)
@@ -103,15 +88,10 @@ void X11TappedInput::receive(const X11InputEvent::Key& event)
 
 void X11TappedInput::receive(const X11InputEvent::Motion& event)
 {
-    // What is less than a pixel is kept for the next motion.
-    auto& remainder = remainders_[event.device];
-    remainder.x += event.x;
-    remainder.y += event.y;
-    const int x = takeWholePixels(remainder.x);
-    const int y = takeWholePixels(remainder.y);
-    if (x == 0 && y == 0)
+    const auto pixels = mice_[event.device].remainder.add(event.x, event.y);
+    if (pixels.isNone())
         return;
-    injection_.moveBy(x, y);
+    injection_.moveBy(pixels.x, pixels.y);
     offerMotion(event.device);
 }
 
@@ -125,7 +105,7 @@ void X11TappedInput::receive(const X11InputEvent::Place& event)
 void X11TappedInput::receive(const X11InputEvent::FreeRelease& event)
 {
     if (event.kind == Kind::button)
-        heldButtons_[event.device].erase(buttonNumber(event.code));
+        mice_[event.device].held.release(buttonNumber(event.code));
     if (ledger_.isOpen(event.device, event.kind, event.code))
         released(event.device, event.kind, event.code);
 }
@@ -134,19 +114,15 @@ void X11TappedInput::lose(std::uint16_t device)
 {
     for (const auto& press : ledger_.forget(device))
         injection_.release(press.kind, static_cast<std::uint8_t>(press.code));
-    remainders_.erase(device);
-    heldButtons_.erase(device);
+    mice_.erase(device);
 }
 
 void X11TappedInput::offerMotion(std::uint16_t device)
 {
     if (!taps_.sees(motions))
         return;
-    const auto& held = heldButtons_[device];
-    if (held.empty())
-        offer(EventType::mouseMoved, {});
-    else
-        offer(dragTypeOf(*held.begin()), {{EventField::mouseEventButtonNumber, *held.begin()}});
+    const auto& held = mice_[device].held;
+    offer(held.motionType(), held.motionFields());
     hooks_.eventDone();
 }
 
@@ -161,12 +137,7 @@ EventVerdict X11TappedInput::offer(EventType type, EventFields fields)
 void X11TappedInput::pressed(
     std::uint16_t device, Kind kind, std::uint8_t code, EventVerdict verdict)
 {
-    // A second press without a release in between presses nothing.
-    if (ledger_.isOpen(device, kind, code))
-        return;
-    const bool goesOn = verdict == EventVerdict::pass;
-    ledger_.pressed(device, kind, code, goesOn);
-    if (goesOn)
+    if (ledger_.pressed(device, kind, code, verdict == EventVerdict::pass))
         injection_.press(kind, code);
 }
 

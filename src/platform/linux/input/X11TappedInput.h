@@ -1,6 +1,8 @@
 #pragma once
 
+#include "platform/HeldButtons.h"
 #include "platform/PressLedger.h"
+#include "platform/linux/input/MotionRemainder.h"
 #include "platform/linux/input/TapChain.h"
 #include "platform/linux/input/X11CursorState.h"
 #include "platform/linux/input/X11DeviceGrabs.h"
@@ -9,7 +11,6 @@
 
 #include <functional>
 #include <map>
-#include <set>
 
 namespace brindlex {
 
@@ -47,11 +48,13 @@ public:
     bool holdsNothing() const { return ledger_.isEmpty(); }
 
 private:
-    struct Remainder {
-        double x = 0;
-        double y = 0;
+    struct Mouse {
+        HeldButtons held{};
+        MotionRemainder remainder{};
     };
 
+    void press(const X11InputEvent::Button& event);
+    void release(const X11InputEvent::Button& event);
     void turnWheel(std::uint8_t button);
     void offerMotion(std::uint16_t device);
     EventVerdict offer(EventType type, EventFields fields);
@@ -64,8 +67,7 @@ private:
     X11Injection& injection_;
     Hooks hooks_;
     PressLedger ledger_;
-    std::map<std::uint16_t, Remainder> remainders_;
-    std::map<std::uint16_t, std::set<std::int64_t>> heldButtons_;
+    std::map<std::uint16_t, Mouse> mice_;
 };
 
 } // namespace brindlex

@@ -1,63 +1,41 @@
 #include "platform/linux/panels/X11OpenWindows.h"
 
+#include "platform/linux/windows/X11WindowKind.h"
 #include "platform/linux/windows/X11WindowReading.h"
-#include "platform/linux/x11/X11Properties.h"
+#include "platform/linux/windows/X11WindowStack.h"
 
 #include <algorithm>
-#include <array>
 
 namespace brindlex {
 namespace {
 
-constexpr std::uint32_t manyWindows = 4096 * sizeof(std::uint32_t);
-constexpr std::uint32_t someAtoms = 32 * sizeof(std::uint32_t);
-
-struct KindRequest {
-    KindRequest(X11Connection& connection, xcb_window_t window)
-        : types(connection, window, "_NET_WM_WINDOW_TYPE", someAtoms),
-          states(connection, window, "_NET_WM_STATE", someAtoms)
-    {
-    }
-
-    X11PropertyRequest types;
-    X11PropertyRequest states;
-};
-
 /// All that the window manager looks after, the topmost first.
 std::vector<xcb_window_t> fromTheTop(X11Connection& connection)
 {
-    auto windows = X11PropertyRequest(
-        connection, connection.root(), "_NET_CLIENT_LIST_STACKING", manyWindows)
-                       .values();
-    if (!windows)
-        windows = managedWindows(connection);
-    std::ranges::reverse(*windows);
-    return *windows;
+    if (auto windows = X11WindowStackRequest(connection).fromTheTop())
+        return *windows;
+    auto windows = managedWindows(connection);
+    std::ranges::reverse(windows);
+    return windows;
+}
+
+bool wouldBeNamed(const X11WindowKind& kind)
+{
+    return !kind.isDesktop && !kind.isFurniture && !kind.skipsTaskbar;
 }
 
 std::vector<xcb_window_t> withoutFurniture(
     X11Connection& connection, const std::vector<xcb_window_t>& windows)
 {
-    const std::array kinds{connection.atom("_NET_WM_WINDOW_TYPE_DESKTOP"),
-        connection.atom("_NET_WM_WINDOW_TYPE_DOCK"), connection.atom("_NET_WM_WINDOW_TYPE_MENU"),
-        connection.atom("_NET_WM_WINDOW_TYPE_POPUP_MENU"),
-        connection.atom("_NET_WM_WINDOW_TYPE_DROPDOWN_MENU"),
-        connection.atom("_NET_WM_WINDOW_TYPE_TOOLTIP"),
-        connection.atom("_NET_WM_WINDOW_TYPE_NOTIFICATION"),
-        connection.atom("_NET_WM_WINDOW_TYPE_SPLASH"),
-        connection.atom("_NET_WM_STATE_SKIP_TASKBAR")};
-    std::vector<KindRequest> requests;
+    const X11WindowKinds kinds([&](std::string_view name) { return connection.atom(name); });
+    std::vector<X11WindowKindRequest> requests;
     requests.reserve(windows.size());
     for (const auto window : windows)
         requests.emplace_back(connection, window);
     std::vector<xcb_window_t> kept;
-    for (std::size_t index = 0; index < windows.size(); ++index) {
-        auto said = requests[index].types.values().value_or(std::vector<std::uint32_t>{});
-        const auto states = requests[index].states.values().value_or(std::vector<std::uint32_t>{});
-        said.insert(said.end(), states.begin(), states.end());
-        if (std::ranges::find_first_of(said, kinds) == said.end())
+    for (std::size_t index = 0; index < windows.size(); ++index)
+        if (wouldBeNamed(requests[index].kind(kinds)))
             kept.push_back(windows[index]);
-    }
     return kept;
 }
 

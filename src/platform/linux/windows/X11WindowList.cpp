@@ -1,15 +1,11 @@
 #include "platform/linux/windows/X11WindowList.h"
 
-#include "platform/linux/x11/X11Properties.h"
-
-#include <algorithm>
-#include <array>
+#include "platform/linux/windows/X11WindowKind.h"
+#include "platform/linux/windows/X11WindowStack.h"
 
 namespace brindlex {
 namespace {
 
-constexpr std::uint32_t manyWindows = 4096 * sizeof(std::uint32_t);
-constexpr std::uint32_t someAtoms = 32 * sizeof(std::uint32_t);
 constexpr std::uint32_t allDesktops = 0xFFFFFFFF;
 
 /// What is asked about one window, all at once.
@@ -19,9 +15,7 @@ struct WindowQuestions {
           shadow(connection, window, "_GTK_FRAME_EXTENTS", 4 * sizeof(std::uint32_t)),
           opacity(connection, window, "_NET_WM_WINDOW_OPACITY", sizeof(std::uint32_t)),
           desktop(connection, window, "_NET_WM_DESKTOP", sizeof(std::uint32_t)),
-          state(connection, window, "_NET_WM_STATE", someAtoms),
-          type(connection, window, "_NET_WM_WINDOW_TYPE", someAtoms),
-          attributes(xcb_get_window_attributes(connection.get(), window)),
+          kind(connection, window), attributes(xcb_get_window_attributes(connection.get(), window)),
           geometry(xcb_get_geometry(connection.get(), window)),
           origin(xcb_translate_coordinates(connection.get(), window, connection.root(), 0, 0))
     {
@@ -31,17 +25,11 @@ struct WindowQuestions {
     X11PropertyRequest shadow;
     X11PropertyRequest opacity;
     X11PropertyRequest desktop;
-    X11PropertyRequest state;
-    X11PropertyRequest type;
+    X11WindowKindRequest kind;
     xcb_get_window_attributes_cookie_t attributes;
     xcb_get_geometry_cookie_t geometry;
     xcb_translate_coordinates_cookie_t origin;
 };
-
-bool has(const std::optional<std::vector<std::uint32_t>>& values, xcb_atom_t atom)
-{
-    return values && std::ranges::find(*values, atom) != values->end();
-}
 
 std::optional<std::uint32_t> first(std::optional<std::vector<std::uint32_t>> values)
 {
@@ -74,28 +62,36 @@ std::optional<Rect> boundsOf(X11Connection& connection, WindowQuestions& questio
     return bounds;
 }
 
+/// Nothing for a window that is not to be seen now, and for the desktop.
+std::optional<WindowInfo> infoOf(X11Connection& connection, WindowQuestions& questions,
+    const X11WindowKinds& kinds, std::optional<std::uint32_t> currentDesktop)
+{
+    const X11Message<xcb_get_window_attributes_reply_t> attributes(
+        xcb_get_window_attributes_reply(connection.get(), questions.attributes, nullptr));
+    const auto kind = questions.kind.kind(kinds);
+    const auto desktop = first(questions.desktop.values());
+    const auto opacity = first(questions.opacity.values());
+    const auto bounds = boundsOf(connection, questions);
+    const bool isElsewhere
+        = desktop && currentDesktop && *desktop != allDesktops && *desktop != *currentDesktop;
+    const bool isViewable = attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
+    if (!isViewable || isElsewhere || kind.isHidden || kind.isDesktop)
+        return {};
+    const bool isRaised = kind.isAbove || kind.isFurniture;
+    return WindowInfo{isRaised ? 1 : 0, opacity ? *opacity / double(0xFFFFFFFF) : 1.0, bounds};
+}
+
 } // namespace
 
 std::vector<WindowInfo> X11WindowList::onScreen()
 {
     auto& connection = connection_;
-    X11PropertyRequest stackingRequest(
-        connection, connection.root(), "_NET_CLIENT_LIST_STACKING", manyWindows);
+    X11WindowStackRequest stackRequest(connection);
     X11PropertyRequest desktopRequest(
         connection, connection.root(), "_NET_CURRENT_DESKTOP", sizeof(std::uint32_t));
-    auto frontToBack = stackingRequest.values().value_or(std::vector<std::uint32_t>{});
-    std::ranges::reverse(frontToBack);
+    const auto frontToBack = stackRequest.fromTheTop().value_or(std::vector<xcb_window_t>{});
     const auto current = first(desktopRequest.values());
-    const auto ofDesktop = connection.atom("_NET_WM_WINDOW_TYPE_DESKTOP");
-    const auto hidden = connection.atom("_NET_WM_STATE_HIDDEN");
-    const auto above = connection.atom("_NET_WM_STATE_ABOVE");
-    const std::array raisedTypes{connection.atom("_NET_WM_WINDOW_TYPE_DOCK"),
-        connection.atom("_NET_WM_WINDOW_TYPE_MENU"),
-        connection.atom("_NET_WM_WINDOW_TYPE_POPUP_MENU"),
-        connection.atom("_NET_WM_WINDOW_TYPE_DROPDOWN_MENU"),
-        connection.atom("_NET_WM_WINDOW_TYPE_TOOLTIP"),
-        connection.atom("_NET_WM_WINDOW_TYPE_NOTIFICATION"),
-        connection.atom("_NET_WM_WINDOW_TYPE_SPLASH")};
+    const X11WindowKinds kinds([&](std::string_view name) { return connection.atom(name); });
 
     std::vector<WindowQuestions> questions;
     questions.reserve(frontToBack.size());
@@ -103,25 +99,9 @@ std::vector<WindowInfo> X11WindowList::onScreen()
         questions.emplace_back(connection, window);
 
     std::vector<WindowInfo> windows;
-    for (auto& question : questions) {
-        const X11Message<xcb_get_window_attributes_reply_t> attributes(
-            xcb_get_window_attributes_reply(connection.get(), question.attributes, nullptr));
-        const auto types = question.type.values();
-        const auto states = question.state.values();
-        const auto desktop = first(question.desktop.values());
-        const auto opacity = first(question.opacity.values());
-        const auto bounds = boundsOf(connection, question);
-        const bool isElsewhere
-            = desktop && current && *desktop != allDesktops && *desktop != *current;
-        const bool isShown = attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE
-            && !has(states, hidden) && !isElsewhere;
-        if (!isShown || has(types, ofDesktop))
-            continue;
-        const bool isRaised = has(states, above)
-            || std::ranges::any_of(raisedTypes, [&](xcb_atom_t type) { return has(types, type); });
-        windows.push_back(
-            {isRaised ? 1 : 0, opacity ? *opacity / double(0xFFFFFFFF) : 1.0, bounds});
-    }
+    for (auto& question : questions)
+        if (const auto info = infoOf(connection, question, kinds, current))
+            windows.push_back(*info);
     return windows;
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "platform/EventType.h"
-
 #include <cstdint>
 
 namespace brindlex {
@@ -45,29 +43,29 @@ constexpr std::uint8_t buttonOfNumber(std::int64_t number)
     }
 }
 
-/// Which of the three events of one kind a button has.
-constexpr EventType eventTypeFor(
-    std::int64_t number, EventType left, EventType right, EventType other)
-{
-    return number == 0 ? left : number == 1 ? right : other;
-}
+/// Lines of a wheel, positive up and to the left.
+struct WheelLines {
+    std::int64_t vertical = 0;
+    std::int64_t horizontal = 0;
 
-constexpr EventType downTypeOf(std::int64_t number)
-{
-    return eventTypeFor(
-        number, EventType::leftMouseDown, EventType::rightMouseDown, EventType::otherMouseDown);
-}
+    bool operator==(const WheelLines&) const = default;
+};
 
-constexpr EventType upTypeOf(std::int64_t number)
+/// What one press of a button of the wheel turns; nothing for any other button.
+constexpr WheelLines wheelLinesOf(std::uint32_t button)
 {
-    return eventTypeFor(
-        number, EventType::leftMouseUp, EventType::rightMouseUp, EventType::otherMouseUp);
-}
-
-constexpr EventType dragTypeOf(std::int64_t number)
-{
-    return eventTypeFor(number, EventType::leftMouseDragged, EventType::rightMouseDragged,
-        EventType::otherMouseDragged);
+    switch (button) {
+    case wheelUp:
+        return {1, 0};
+    case wheelDown:
+        return {-1, 0};
+    case wheelLeft:
+        return {0, 1};
+    case wheelRight:
+        return {0, -1};
+    default:
+        return {};
+    }
 }
 
 } // namespace brindlex

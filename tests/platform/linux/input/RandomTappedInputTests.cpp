@@ -1,6 +1,7 @@
 #include "eventtap/GlobalEventTap.h"
 #include "platform/simulated/SimulatedEventPermissions.h"
 #include "platform/simulated/SimulatedProgramActivation.h"
+#include "support/hardware/Keycodes.h"
 #include "support/hardware/TappedDesktop.h"
 
 #include <QCoreApplication>
@@ -17,8 +18,13 @@ namespace {
 using Lines = std::vector<std::string>;
 
 constexpr std::array buttons{1, 2, 3, 8, 9};
-constexpr std::array<std::uint8_t, 7> keys{37, 38, 39, 40, 50, 64, 133};
-constexpr std::array<EventMask, 6> masks{0x1E000DE, 0xE000000, 0x400000, 0x400, 0x1C00, 0xE401CDE};
+constexpr std::array keys{keycode::control, keycode::a, keycode::s, keycode::d, keycode::shift,
+    keycode::alt, keycode::super};
+constexpr EventMask wheel = eventMask(EventType::scrollWheel);
+constexpr EventMask keyboard = keyMask | eventMask(EventType::flagsChanged);
+constexpr std::array masks{mouseButtonMaskOf(0) | mouseButtonMaskOf(1) | wheel,
+    mouseButtonMaskOf(2), wheel, eventMask(EventType::keyDown), keyboard,
+    mouseButtonMask | wheel | keyboard};
 
 /// Two mice and a keyboard in the hands of somebody who does anything at all, in front of
 /// subscribers that come and go, swallow as they like and post.

@@ -8,24 +8,24 @@ namespace {
 
 using Trigger = TapDemand::Trigger;
 
-constexpr EventMask gestureMask = 0xE000000;
-constexpr EventMask leftMask = 0x46;
+constexpr EventMask gestureMask = mouseButtonMaskOf(2);
+constexpr EventMask leftMask = mouseButtonMaskOf(0);
 constexpr EventMask wheelMask = eventMask(EventType::scrollWheel);
-constexpr EventMask keyMask = eventMask(EventType::keyDown);
+constexpr EventMask keyDownMask = eventMask(EventType::keyDown);
 
 TapDemand demand(std::vector<EventInterest> interests) { return demandOf(interests); }
 
 TEST(TapDemand, isNothingWithoutInterests)
 {
     EXPECT_TRUE(demand({}).isNothing());
-    EXPECT_TRUE(demand({{gestureMask | keyMask, EventTriggers{}}}).isNothing());
+    EXPECT_TRUE(demand({{gestureMask | keyDownMask, EventTriggers{}}}).isNothing());
 }
 
 TEST(TapDemand, takesEveryDeviceWhoseEventsAreAllWanted)
 {
     EXPECT_EQ(demand({{gestureMask, {}}}), (TapDemand{.takesMice = true}));
     EXPECT_EQ(demand({{wheelMask, {}}}), (TapDemand{.takesMice = true}));
-    EXPECT_EQ(demand({{keyMask, {}}}), (TapDemand{.takesKeyboards = true}));
+    EXPECT_EQ(demand({{keyDownMask, {}}}), (TapDemand{.takesKeyboards = true}));
 }
 
 TEST(TapDemand, takesTheMiceForTheWheel)
@@ -54,7 +54,7 @@ TEST(TapDemand, waitsForKeysInEveryPlaceThatTheyHave)
 {
     const EventTriggers triggers{.keys = {{0, eventFlag::control}, {105, 0}, {52, 0}}};
 
-    EXPECT_EQ(demand({{keyMask, triggers}}),
+    EXPECT_EQ(demand({{keyDownMask, triggers}}),
         (TapDemand{.keys = {Trigger{38, eventFlag::control}, Trigger{107, 0}, Trigger{191, 0}}}));
     EXPECT_TRUE(demand({{eventMask(EventType::keyUp), triggers}}).isNothing());
 }
@@ -63,8 +63,8 @@ TEST(TapDemand, joinsTheInterests)
 {
     const EventInterest bound{gestureMask, EventTriggers{.buttons = {{2, eventFlag::shift}}}};
     const EventInterest any{gestureMask, EventTriggers{.buttons = {{2, {}}}}};
-    const EventInterest hotkey{keyMask, EventTriggers{.keys = {{0, 0}}}};
-    const EventInterest recorder{keyMask, {}};
+    const EventInterest hotkey{keyDownMask, EventTriggers{.keys = {{0, 0}}}};
+    const EventInterest recorder{keyDownMask, {}};
 
     EXPECT_EQ(demand({bound, any}), (TapDemand{.buttons = {Trigger{2, {}}}}));
     EXPECT_EQ(demand({hotkey, bound}),

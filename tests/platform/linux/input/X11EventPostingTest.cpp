@@ -1,6 +1,7 @@
 #include "platform/linux/input/X11EventPosting.h"
 
 #include "platform/DockSwipe.h"
+#include "platform/VirtualKey.h"
 #include "platform/linux/input/VirtualKeyCodes.h"
 #include "support/hardware/Keycodes.h"
 #include "support/hardware/TappedDesktop.h"
@@ -14,7 +15,6 @@ namespace {
 using Lines = std::vector<std::string>;
 
 constexpr std::int64_t tag = 0x4D4F534547535452;
-constexpr std::int64_t keyA = 0;
 
 SyntheticEvent button(EventType type, std::int64_t number, std::optional<Point> location = {})
 {
@@ -58,7 +58,7 @@ TEST_F(X11EventPostingPromise, showsTheEventToTheOwnTapsFirstWithAllItsFields)
 {
     std::vector<Event> seen;
     const auto tap = desktop_.tapping.createTap(
-        0xE000000, {{0xE000000, EventTriggers{}}}, [&](const Event& event) {
+        mouseButtonMaskOf(2), {{mouseButtonMaskOf(2), EventTriggers{}}}, [&](const Event& event) {
             seen.push_back(event);
             return EventVerdict::swallow;
         });
@@ -80,7 +80,9 @@ TEST_F(X11EventPostingPromise, showsTheEventToTheOwnTapsFirstWithAllItsFields)
 TEST_F(X11EventPostingPromise, waitsForTheEventInWhoseHandlerItIsCalled)
 {
     Lines order;
-    const auto tap = desktop_.tapping.createTap(0xE000006, {{0xE000006, {}}}, [&](const Event& e) {
+    const auto mask
+        = mouseButtonMaskOf(2) | eventMask(EventType::leftMouseDown, EventType::leftMouseUp);
+    const auto tap = desktop_.tapping.createTap(mask, {{mask, {}}}, [&](const Event& e) {
         order.push_back("begin " + std::to_string(static_cast<std::uint32_t>(e.type)));
         if (e.type == EventType::otherMouseUp) {
             desktop_.posting.post(button(EventType::leftMouseDown, 0));
@@ -105,7 +107,7 @@ TEST_F(X11EventPostingPromise, sendsAKeyWithExactlyItsModifiers)
     desktop_.keyboard.press(keycode::control);
     desktop_.settle();
 
-    stroke(keyA, eventFlag::shift);
+    stroke(virtualKey::a, eventFlag::shift);
 
     EXPECT_TRUE(desktop_.receives({"key 37 down", "key 37 up (control)", "key 50 down",
         "key 38 down (shift)", "key 38 up (shift)", "key 50 up (shift)", "key 37 down"}));
@@ -122,11 +124,11 @@ TEST_F(X11EventPostingPromise, holdsNoModifierThatTheHandHasLetGo)
 {
     desktop_.keyboard.press(keycode::control);
     desktop_.settle();
-    desktop_.posting.post(key(EventType::keyDown, keyA, 0));
+    desktop_.posting.post(key(EventType::keyDown, virtualKey::a, 0));
 
     desktop_.keyboard.release(keycode::control);
     desktop_.keyboard.settle();
-    desktop_.posting.post(key(EventType::keyUp, keyA, 0));
+    desktop_.posting.post(key(EventType::keyUp, virtualKey::a, 0));
     desktop_.settle();
 
     EXPECT_TRUE(
@@ -138,13 +140,13 @@ TEST_F(X11EventPostingPromise, canHoldTheSameModifierAgainAfterTheHandHasLetItGo
 {
     desktop_.keyboard.press(keycode::shift);
     desktop_.settle();
-    stroke(keyA, 0);
+    stroke(virtualKey::a, 0);
     desktop_.settle();
     desktop_.keyboard.release(keycode::shift);
     desktop_.settle();
     desktop_.window.forget();
 
-    stroke(keyA, eventFlag::shift);
+    stroke(virtualKey::a, eventFlag::shift);
 
     EXPECT_TRUE(desktop_.receives(
         {"key 50 down", "key 38 down (shift)", "key 38 up (shift)", "key 50 up (shift)"}));
@@ -152,7 +154,7 @@ TEST_F(X11EventPostingPromise, canHoldTheSameModifierAgainAfterTheHandHasLetItGo
 
 TEST_F(X11EventPostingPromise, takesCommandForSuper)
 {
-    stroke(keyA, eventFlag::command);
+    stroke(virtualKey::a, eventFlag::command);
 
     EXPECT_TRUE(desktop_.receives(
         {"key 133 down", "key 38 down (super)", "key 38 up (super)", "key 133 up (super)"}));

@@ -60,7 +60,7 @@ protected:
 
 TEST_F(X11TapSessionButtonsTest, letsAllButtonsPassThatNobodyWants)
 {
-    tap({0xE0000DE, EventTriggers{.buttons = {{2, {}}}}});
+    tap({mouseButtonMask, EventTriggers{.buttons = {{2, {}}}}});
 
     clickAll();
 
@@ -81,7 +81,7 @@ TEST_F(X11TapSessionButtonsTest, handsOnAllButtonsOfAMouseWhoseWheelIsTaken)
 
 TEST_F(X11TapSessionButtonsTest, handsOnAllButtonsWhileAnotherIsHeld)
 {
-    tap({0xE0000DE, EventTriggers{.buttons = {{2, {}}}}});
+    tap({mouseButtonMask, EventTriggers{.buttons = {{2, {}}}}});
     desktop_.mouse.press(2);
     desktop_.settle();
 

@@ -16,7 +16,7 @@ TEST_F(X11TapSessionTest, movesTheCursorAsFarAsTheMouseDoesByItself)
     };
     const auto alone = play();
 
-    tap({buttonsAndDrags | wheel | eventMask(EventType::mouseMoved), {}});
+    tap({mouseButtonMask | wheel | eventMask(EventType::mouseMoved), {}});
     const auto tapped = play();
 
     EXPECT_NEAR(alone.x, 640 + 46.5, 1);
@@ -50,7 +50,7 @@ TEST_F(X11TapSessionTest, tellsWhereTheCursorIsAndWhatIsHeldAtEachEvent)
 
 TEST_F(X11TapSessionTest, isNotLedAstrayByAProgramThatMovesTheCursor)
 {
-    tap({buttonsAndDrags, {}});
+    tap({mouseButtonMask, {}});
     desktop_.mouse.move(1, 1);
     desktop_.settle();
 

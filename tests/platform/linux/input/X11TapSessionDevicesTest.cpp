@@ -68,7 +68,7 @@ TEST_F(X11TapSessionTest, takesTheMiceForTheWheelAndTheKeyboardsForEveryKey)
 {
     tap({wheel, EventTriggers{.wheel = true}});
     EXPECT_EQ(floatingDevices(server_), (Lines{"mouse", "second-mouse"}));
-    tap({keys, {}});
+    tap({keyMask, {}});
     EXPECT_EQ(floatingDevices(server_), Lines{"keyboard"});
     drop();
     EXPECT_EQ(floatingDevices(server_), Lines{});
@@ -126,7 +126,7 @@ TEST_F(X11TapSessionTest, tapsAMouseThatIsPluggedIn)
 
 TEST_F(X11TapSessionTest, holdsAButtonUntilTheLastOfTwoMiceLetsGo)
 {
-    tap({buttonsAndDrags, {}});
+    tap({mouseButtonMask, {}});
     desktop_.mouse.press(1);
     desktop_.settle();
     desktop_.secondMouse.press(1);

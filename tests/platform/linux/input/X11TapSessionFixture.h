@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/VirtualKey.h"
 #include "platform/linux/input/X11TapSession.h"
 #include "support/hardware/InputDevices.h"
 #include "support/hardware/Keycodes.h"
@@ -18,19 +19,16 @@ class X11TapSessionTest : public testing::Test {
 protected:
     using Lines = std::vector<std::string>;
 
-    static constexpr EventMask buttonsAndDrags = 0xE0000DE;
     static constexpr EventMask wheel = eventMask(EventType::scrollWheel);
-    static constexpr EventMask keys = 0xC00;
 
     static EventInterest middleButton()
     {
-        return {buttonsAndDrags, EventTriggers{.buttons = {{2, {}}}}};
+        return {mouseButtonMask, EventTriggers{.buttons = {{2, {}}}}};
     }
 
     static EventInterest controlA()
     {
-        constexpr std::int64_t keyA = 0;
-        return {keys, EventTriggers{.keys = {{keyA, eventFlag::control}}}};
+        return {keyMask, EventTriggers{.keys = {{virtualKey::a, eventFlag::control}}}};
     }
 
     X11TapSessionTest()

@@ -31,7 +31,7 @@ TEST_F(X11TapSessionTest, knowsAHotkeyUnderCapsLockAndNumLock)
 
 TEST_F(X11TapSessionTest, showsTheRepeatsOfAHeldKeyAndLetsTheServerRepeatIt)
 {
-    tap({keys, {}});
+    tap({keyMask, {}});
     desktop_.keyboard.press(keycode::a);
 
     EXPECT_TRUE(loopUntil([this] { return seen_.size() >= 3; }));
@@ -50,7 +50,7 @@ TEST_F(X11TapSessionTest, showsTheRepeatsOfAHeldKeyAndLetsTheServerRepeatIt)
 
 TEST_F(X11TapSessionTest, keepsTheLayoutThatTheUserMakesMeanwhile)
 {
-    tap({keys, {}});
+    tap({keyMask, {}});
     desktop_.desktop.setKeyboardLayouts("fr");
     desktop_.settle();
     desktop_.keyboard.stroke(keycode::q);
@@ -76,7 +76,7 @@ TEST_F(X11TapSessionTest, keepsTheSelectedLayout)
     desktop_.settle();
     EXPECT_EQ(keyboardGroup(server_), 1);
 
-    tap({keys, {}});
+    tap({keyMask, {}});
     desktop_.keyboard.stroke(keycode::q);
     desktop_.settle();
     EXPECT_EQ(keyboardGroup(server_), 1);

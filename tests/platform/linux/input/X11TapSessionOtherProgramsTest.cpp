@@ -47,7 +47,7 @@ TEST_F(X11TapSessionTest, takesADeviceOnceAnotherProgramHasGivenItBack)
 
 TEST_F(X11TapSessionTest, leavesAloneWhatOtherProgramsPlay)
 {
-    tap({buttonsAndDrags | keys, {}}, EventVerdict::swallow);
+    tap({mouseButtonMask | keyMask, {}}, EventVerdict::swallow);
     const PlayedInput other(server_);
 
     other.click(100, 100, 2);
