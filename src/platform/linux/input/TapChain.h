@@ -34,7 +34,7 @@ public:
     /// Whether an event is being shown at this moment.
     bool isOffering() const { return isOffering_; }
 
-    /// Switches those off that are on, and tells them why.
+    /// Switches those off that are on, and notifies them of the reason.
     void switchOff(EventType reason);
 
 private:

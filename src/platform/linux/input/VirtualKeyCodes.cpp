@@ -155,7 +155,7 @@ constexpr std::array places{
 
 constexpr std::int64_t firstOther = 0x100;
 
-/// Every X number in the order of what it stands for, so that a span of it answers.
+/// Every X number in the order of what it stands for, so that a span of it can be returned.
 struct Keyboard {
     std::array<std::int64_t, 256> virtualKeyCodes{};
     std::array<std::array<std::uint8_t, 2>, 128> keycodes{};

@@ -6,8 +6,7 @@ namespace brindlex {
 
 X11CursorState cursorState(X11Connection& connection)
 {
-    // Not by the input extension: to that question the server answers with the modifiers of before
-    // the last key.
+    // Not by the input extension: its reply has the modifiers of before the last key.
     auto* const server = connection.get();
     const auto request = xcb_query_pointer(server, connection.root());
     const X11Message<xcb_query_pointer_reply_t> reply(

@@ -16,7 +16,7 @@ struct X11CursorState {
     bool operator==(const X11CursorState&) const = default;
 };
 
-/// Asks the server for the state of the pointer that moves for the connection and of the keyboard
+/// Requests the state of the pointer that moves for the connection and of the keyboard
 /// that goes with it; nothing held, at the origin, when the server is gone.
 X11CursorState cursorState(X11Connection& connection);
 

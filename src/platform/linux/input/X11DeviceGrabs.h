@@ -18,9 +18,9 @@ class X11DeviceGrabs {
 public:
     explicit X11DeviceGrabs(X11Connection& connection) : connection_(connection) { }
 
-    /// Asks the server for what the demand lacks and gives back what it has too much. False when
-    /// something is left to be done: another program holds a device, or one would have to be given
-    /// back while `mayLetGo` forbids it, as a button is held.
+    /// Requests from the server what the demand lacks and gives back what it has too much. False
+    /// when something is left to be done: another program holds a device, or one would have to be
+    /// given back while `mayLetGo` forbids it, as a button is held.
     bool apply(const TapDemand& demand, std::span<const X11InputDevice> devices, bool mayLetGo);
 
     /// Whether the device is taken all the time.

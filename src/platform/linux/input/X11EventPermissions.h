@@ -11,8 +11,8 @@ namespace brindlex {
 /// X asks nobody: who may open a window may control the input. Permission is that the server can be
 /// tapped at all (XInput 2.2 and XTEST) and that the user has not forbidden it.
 ///
-/// The user forbids by a preference: `allowsAccessibility` or `allowsInputMonitoring` is false. A
-/// change of either is told of; nothing tells that the server can be tapped again.
+/// The user forbids by a preference: `allowsAccessibility` or `allowsInputMonitoring` is false.
+/// Observers are notified of a change of either, and of no other.
 class X11EventPermissions : public EventPermissions {
 public:
     X11EventPermissions(X11InputStream& stream, UserDefaults& defaults)

@@ -11,7 +11,7 @@
 namespace brindlex {
 
 /// Plays buttons, keys and motion to the applications as if a device had sent them (XTEST). In the
-/// order of the calls; nothing is waited for but an answer of the server for a button beyond the
+/// order of the calls; nothing is waited for but a reply of the server for a button beyond the
 /// tenth.
 class X11Injection {
 public:

@@ -11,7 +11,7 @@
 
 namespace brindlex {
 
-/// What the X server tells of the devices.
+/// What the X server reports of the devices.
 struct X11InputEvent {
     /// A button of a taken device, those of the wheel among them. Where the cursor was and which
     /// modifiers were held, as flags of an event, holds for the press with which a device is taken;

@@ -7,7 +7,8 @@
 namespace brindlex {
 namespace {
 
-/// How long to wait for a device that another program holds, and for a server that does not answer.
+/// How long to wait for a device that another program holds, and for a server that does not
+/// respond.
 constexpr Seconds timeToRetryDevices = 0.05;
 constexpr Seconds timeToReconnect = 1;
 

@@ -16,10 +16,10 @@ namespace brindlex {
 
 /// The session's input on X11: what the taps and the posting of the program share.
 ///
-/// Connects with the first need and again after its connection was cut; the taps are then told that
-/// they were switched off for taking too long, and those that are switched on again go on. Changes
-/// of what the taps want are carried out once control is back in the loop, all together. Main
-/// thread only.
+/// Connects with the first need and again after its connection was cut; the taps are then notified
+/// that they were switched off for taking too long, and those that are switched on again go on.
+/// Changes of what the taps want are carried out once control is back in the loop, all together.
+/// Main thread only.
 class X11InputStream {
 public:
     struct Options {

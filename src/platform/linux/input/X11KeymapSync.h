@@ -21,7 +21,7 @@ public:
     void listen(bool isListening);
     bool isListening() const { return isListening_; }
 
-    /// Takes note of an event that tells of a change.
+    /// Takes note of an event that reports a change.
     void receive(const xcb_generic_event_t& event);
 
     /// Gives the keyboards the map of the one on which is played, if it has changed; a few

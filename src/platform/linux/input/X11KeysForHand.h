@@ -12,9 +12,9 @@ namespace brindlex {
 /// Keys that are played down in the place of a hand which holds them, after something else has
 /// released them; they go up with the hand.
 ///
-/// The hand may let go at any moment. `expect` comes first, then the connection has to be told of
-/// releases, then `press` looks at the hand: what it has let go before that is seen there, and what
-/// it lets go afterwards comes to `released`.
+/// The hand may let go at any moment. `expect` comes first, then the connection has to be notified
+/// of releases, then `press` looks at the hand: what it has let go before that is seen there, and
+/// what it lets go afterwards comes to `released`.
 class X11KeysForHand {
 public:
     X11KeysForHand(X11Connection& connection, X11Injection& injection)
@@ -30,7 +30,7 @@ public:
     /// The hand has let go of a key.
     void released(std::uint8_t key);
 
-    /// Whether releases need not be told of.
+    /// Whether releases need no notification.
     bool isEmpty() const { return keys_.empty(); }
 
 private:

@@ -16,7 +16,7 @@ void X11LentButtons::setPointer(std::uint16_t pointer)
     pointer_ = pointer;
     const auto found = places();
     learnOwn(found);
-    // To set them tells all programs.
+    // To set them notifies all programs.
     if (own_ != found)
         setPlaces();
 }

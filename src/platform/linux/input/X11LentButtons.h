@@ -13,7 +13,7 @@ namespace brindlex {
 /// Plays buttons beyond those that XTEST has, which are ten: while such a button is down, one of
 /// the side buttons of XTEST is made to stand for it.
 ///
-/// Each press costs a round trip, and the server tells all programs that buttons have changed
+/// Each press costs a round trip, and the server notifies all programs that buttons have changed
 /// places. An ordinary button costs nothing.
 class X11LentButtons {
 public:
@@ -24,7 +24,7 @@ public:
     void setPointer(std::uint16_t pointer);
 
     /// What to press in place of the button: itself, as a rule. Nothing when all that could stand
-    /// for it are down, or when it stands for another itself. Answers the same until `giveBack`.
+    /// for it are down, or when it stands for another itself. Returns the same until `giveBack`.
     std::optional<std::uint8_t> standIn(
         std::uint8_t button, const std::function<bool(std::uint8_t)>& isDown);
 

@@ -84,7 +84,7 @@ void X11TapSession::listenToReleasesAsNeeded()
     if (listensToReleases_ == mayMissReleases())
         return;
     if (listensToReleases_)
-        askForEcho();
+        requestEcho();
     else
         selectEvents(true);
 }
@@ -104,7 +104,7 @@ void X11TapSession::selectEvents(bool toReleases)
     xcb_input_xi_select_events(connection_.get(), connection_.root(), 2, &selection.hierarchyOf);
 }
 
-void X11TapSession::askForEcho()
+void X11TapSession::requestEcho()
 {
     // A press that the server has handed out before it gave the devices back may still be on its
     // way to us, and the release that belongs to it. What comes back here comes behind both.

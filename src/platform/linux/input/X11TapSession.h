@@ -56,7 +56,7 @@ public:
     X11Connection& connection() { return connection_; }
     X11Injection& injection() { return injection_; }
 
-    /// A window of the connection, by which another program can tell the server to end it.
+    /// A window of the connection, by which another program can have the server end it.
     xcb_window_t handle() const { return handle_; }
 
 private:
@@ -64,7 +64,7 @@ private:
     bool mayMissReleases() const;
     void listenToReleasesAsNeeded();
     void selectEvents(bool toReleases);
-    void askForEcho();
+    void requestEcho();
     void receiveEcho(const xcb_generic_event_t& event);
     std::vector<X11InputDevice> takenKeyboards() const;
     void findDevices();

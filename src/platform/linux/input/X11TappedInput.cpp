@@ -58,8 +58,7 @@ void X11TappedInput::release(const X11InputEvent::Button& event)
 {
     const auto number = buttonNumber(event.button);
     mice_[event.device].held.release(number);
-    // Its way is decided, so that the application need not wait for the question where the cursor
-    // is.
+    // Its way is decided, so that the application need not wait for the place of the cursor.
     released(event.device, Kind::button, event.button);
     offer(mouseUpType(number), fieldsOf(event));
 }

@@ -29,7 +29,7 @@ InputRescue::InputRescue(const std::string& display)
     if (!isConnected())
         return;
     root_ = xcb_setup_roots_iterator(xcb_get_setup(server_)).data->root;
-    // From this version on the server tells of devices that another connection has taken.
+    // From this version on the server reports devices that another connection has taken.
     const XMessage<xcb_input_xi_query_version_reply_t> version(xcb_input_xi_query_version_reply(
         server_, xcb_input_xi_query_version(server_, 2, 2), nullptr));
     xcb_test_grab_control(server_, true);

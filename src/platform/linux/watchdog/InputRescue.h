@@ -18,10 +18,10 @@ public:
     bool isConnected() const { return xcb_connection_has_error(server_) == 0; }
     int descriptor() const { return xcb_get_file_descriptor(server_); }
 
-    /// Whether the server tells of what the devices do, whoever has taken them.
+    /// Whether the server reports what the devices do, whoever has taken them.
     void listen(bool isListening);
 
-    /// Whether the server has told of anything since the last time.
+    /// Whether the server has reported anything since the last time.
     bool takeInput();
 
     /// Ends the connection to which the window belongs, with all that it has taken, and tidies up.

@@ -33,20 +33,20 @@ void TapWatchdog::watch(WatchdogMessage order)
     if (!socket_)
         start();
     if (std::exchange(watched_, order) != order)
-        tell(order);
+        notify(order);
 }
 
 void TapWatchdog::rest()
 {
     if (std::exchange(watched_, {}) != WatchdogMessage{})
-        tell({WatchdogMessage::Order::rest});
+        notify({WatchdogMessage::Order::rest});
 }
 
 void TapWatchdog::dismiss()
 {
     if (!socket_)
         return;
-    tell({WatchdogMessage::Order::dismiss});
+    notify({WatchdogMessage::Order::dismiss});
     ended();
 }
 
@@ -85,21 +85,21 @@ void TapWatchdog::start()
     socket_ = std::move(own);
     notifier_ = std::make_unique<QSocketNotifier>(socket_.descriptor(), QSocketNotifier::Read);
     QObject::connect(
-        notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { answer(); });
+        notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] { respond(); });
 }
 
-void TapWatchdog::tell(WatchdogMessage message) const
+void TapWatchdog::notify(WatchdogMessage message) const
 {
     if (socket_)
         send(socket_.descriptor(), &message, sizeof(message), MSG_NOSIGNAL | MSG_DONTWAIT);
 }
 
-void TapWatchdog::answer()
+void TapWatchdog::respond()
 {
-    WatchdogMessage question;
-    const auto size = recv(socket_.descriptor(), &question, sizeof(question), MSG_DONTWAIT);
+    WatchdogMessage request;
+    const auto size = recv(socket_.descriptor(), &request, sizeof(request), MSG_DONTWAIT);
     if (size > 0) {
-        tell({WatchdogMessage::Order::alive});
+        notify({WatchdogMessage::Order::alive});
         return;
     }
     if (size < 0 && (errno == EAGAIN || errno == EINTR))

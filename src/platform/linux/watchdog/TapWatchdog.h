@@ -16,7 +16,7 @@ namespace brindlex {
 /// with devices taken, or hangs while a window of its own keeps the pointer and the keys.
 ///
 /// It is started with the first need. While something is taken and the user does something, it asks
-/// now and then whether the loop still turns, and cuts the connection of the taps when no answer
+/// now and then whether the loop still turns, and cuts the connection of the taps when no response
 /// comes; see docs/decisions/0021. It ends with the program, however that ends. Main thread only.
 class TapWatchdog {
 public:
@@ -45,8 +45,8 @@ public:
 private:
     void watch(WatchdogMessage order);
     void start();
-    void tell(WatchdogMessage message) const;
-    void answer();
+    void notify(WatchdogMessage message) const;
+    void respond();
     void ended();
 
     std::filesystem::path program_;

@@ -8,20 +8,20 @@
 
 namespace brindlex {
 
-/// Watches whether a program that has taken the user's input still answers.
+/// Watches whether a program that has taken the user's input still responds.
 ///
 ///     resting ──watch──▶ listening ──input──▶ asking ──alive──▶ pausing ──interval──▶ listening
-///                                               └──no answer──▶ resting, the input given back
+///                                               └──timeout───▶ resting, the input given back
 ///
 /// It sleeps while nothing is taken, and while something is taken and the user does nothing.
 class Watchdog {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// The program has this long to answer; together with the time that the rescue takes the user
+    /// The program has this long to respond; together with the time that the rescue takes the user
     /// has the input back within a second.
     static constexpr std::chrono::milliseconds patience{450};
-    /// How long after an answer the program is not asked again.
+    /// How long after a response the program is not asked again.
     static constexpr std::chrono::milliseconds interval{100};
 
     explicit Watchdog(const std::string& display) : rescue_(display) { }

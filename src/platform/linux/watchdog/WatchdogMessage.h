@@ -4,8 +4,8 @@
 
 namespace brindlex {
 
-/// What the program tells its watchdog, one message per packet. The watchdog asks back with an
-/// empty order, and wants `alive` for an answer.
+/// What the program sends to its watchdog, one message per packet. The watchdog sends requests with
+/// an empty order, to which `alive` is the response.
 struct WatchdogMessage {
     enum class Order : std::uint32_t {
         ask,

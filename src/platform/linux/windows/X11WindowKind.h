@@ -43,12 +43,12 @@ private:
     Meanings states_;
 };
 
-/// The question to one window of what kind it is; see `X11PropertyRequest`.
+/// The request for the kind of one window; see `X11PropertyRequest`.
 class X11WindowKindRequest {
 public:
     X11WindowKindRequest(X11Connection& connection, xcb_window_t window);
 
-    /// No kind at all for a window that says nothing or has gone. May be asked once.
+    /// No kind at all for a window that says nothing or has gone. May be called once.
     X11WindowKind kind(const X11WindowKinds& kinds);
 
 private:

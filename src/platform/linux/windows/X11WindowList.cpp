@@ -8,9 +8,9 @@ namespace {
 
 constexpr std::uint32_t allDesktops = 0xFFFFFFFF;
 
-/// What is asked about one window, all at once.
-struct WindowQuestions {
-    WindowQuestions(X11Connection& connection, xcb_window_t window)
+/// The requests about one window, sent all at once.
+struct WindowRequests {
+    WindowRequests(X11Connection& connection, xcb_window_t window)
         : frame(connection, window, "_NET_FRAME_EXTENTS", 4 * sizeof(std::uint32_t)),
           shadow(connection, window, "_GTK_FRAME_EXTENTS", 4 * sizeof(std::uint32_t)),
           opacity(connection, window, "_NET_WM_WINDOW_OPACITY", sizeof(std::uint32_t)),
@@ -37,14 +37,14 @@ std::optional<std::uint32_t> first(std::optional<std::vector<std::uint32_t>> val
 }
 
 /// The window without its invisible shadow and with the frame that the window manager drew.
-std::optional<Rect> boundsOf(X11Connection& connection, WindowQuestions& questions)
+std::optional<Rect> boundsOf(X11Connection& connection, WindowRequests& requests)
 {
     const X11Message<xcb_get_geometry_reply_t> geometry(
-        xcb_get_geometry_reply(connection.get(), questions.geometry, nullptr));
+        xcb_get_geometry_reply(connection.get(), requests.geometry, nullptr));
     const X11Message<xcb_translate_coordinates_reply_t> origin(
-        xcb_translate_coordinates_reply(connection.get(), questions.origin, nullptr));
-    const auto frame = questions.frame.values();
-    const auto shadow = questions.shadow.values();
+        xcb_translate_coordinates_reply(connection.get(), requests.origin, nullptr));
+    const auto frame = requests.frame.values();
+    const auto shadow = requests.shadow.values();
     if (!geometry || !origin)
         return {};
     Rect bounds{{static_cast<double>(origin->dst_x), static_cast<double>(origin->dst_y)},
@@ -63,15 +63,15 @@ std::optional<Rect> boundsOf(X11Connection& connection, WindowQuestions& questio
 }
 
 /// Nothing for a window that is not to be seen now, and for the desktop.
-std::optional<WindowInfo> infoOf(X11Connection& connection, WindowQuestions& questions,
+std::optional<WindowInfo> infoOf(X11Connection& connection, WindowRequests& requests,
     const X11WindowKinds& kinds, std::optional<std::uint32_t> currentDesktop)
 {
     const X11Message<xcb_get_window_attributes_reply_t> attributes(
-        xcb_get_window_attributes_reply(connection.get(), questions.attributes, nullptr));
-    const auto kind = questions.kind.kind(kinds);
-    const auto desktop = first(questions.desktop.values());
-    const auto opacity = first(questions.opacity.values());
-    const auto bounds = boundsOf(connection, questions);
+        xcb_get_window_attributes_reply(connection.get(), requests.attributes, nullptr));
+    const auto kind = requests.kind.kind(kinds);
+    const auto desktop = first(requests.desktop.values());
+    const auto opacity = first(requests.opacity.values());
+    const auto bounds = boundsOf(connection, requests);
     const bool isElsewhere
         = desktop && currentDesktop && *desktop != allDesktops && *desktop != *currentDesktop;
     const bool isViewable = attributes && attributes->map_state == XCB_MAP_STATE_VIEWABLE;
@@ -93,14 +93,14 @@ std::vector<WindowInfo> X11WindowList::onScreen()
     const auto current = first(desktopRequest.values());
     const X11WindowKinds kinds([&](std::string_view name) { return connection.atom(name); });
 
-    std::vector<WindowQuestions> questions;
-    questions.reserve(frontToBack.size());
+    std::vector<WindowRequests> requests;
+    requests.reserve(frontToBack.size());
     for (const auto window : frontToBack)
-        questions.emplace_back(connection, window);
+        requests.emplace_back(connection, window);
 
     std::vector<WindowInfo> windows;
-    for (auto& question : questions)
-        if (const auto info = infoOf(connection, question, kinds, current))
+    for (auto& request : requests)
+        if (const auto info = infoOf(connection, request, kinds, current))
             windows.push_back(*info);
     return windows;
 }

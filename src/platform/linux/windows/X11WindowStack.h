@@ -7,14 +7,14 @@
 
 namespace brindlex {
 
-/// The question to the window manager of how its windows lie upon each other; see
+/// The request for the order in which the window manager's windows lie upon each other; see
 /// `X11PropertyRequest`.
 class X11WindowStackRequest {
 public:
     explicit X11WindowStackRequest(X11Connection& connection);
 
     /// The windows of all virtual desktops, the topmost first; nothing when the window manager does
-    /// not say it. May be asked once.
+    /// not say it. May be called once.
     std::optional<std::vector<xcb_window_t>> fromTheTop();
 
 private:
