@@ -36,7 +36,7 @@ private:
     void readOrders();
     void obey(const WatchdogMessage& message);
     void enter(State state);
-    void ask() const;
+    static void ask();
     void giveBack();
 
     InputRescue rescue_;
