@@ -96,8 +96,8 @@ class JudgeTests(unittest.TestCase):
         self.assertEqual([times_played(each) for each in (logic, both, other)], [1, 1, 1])
 
     def test_lets_three_unsteady_tests_pass(self):
-        for name in "ABC":
-            self.tests.add(name, fails=[1])
+        for label in ("desktop", "promises", "thorough"):
+            self.tests.add(f"Tap.{label}", labels=label, fails=[1])
         self.assert_judged(0, "0% tests passed, 0 tests failed, 3 unsteady out of 3")
 
     def test_fails_the_fourth_unsteady_test(self):
@@ -125,7 +125,7 @@ class JudgeTests(unittest.TestCase):
             1, "failed 1 of 10", "0% tests passed, 1 tests failed out of 1")
 
     def test_plays_again_what_timed_out(self):
-        self.tests.add("A", fails=[1], how="sleep 30", properties="TIMEOUT 1")
+        self.tests.add("A", fails=[1], how="sleep 30", properties="TIMEOUT 3")
         self.assert_judged(0, "0% tests passed, 0 tests failed, 1 unsteady out of 1")
 
     def test_plays_again_what_crashed(self):

@@ -18,7 +18,6 @@ namespace brindlex {
 namespace {
 
 /// The writing end of the pipe through which the signal handler reaches the main loop.
-// A handler has nothing but globals: NOLINTNEXTLINE(*-avoid-non-const-global-variables)
 volatile std::sig_atomic_t signalPipe = -1;
 
 extern "C" void writeSignal(int signal)

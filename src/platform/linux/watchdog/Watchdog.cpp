@@ -100,7 +100,7 @@ void Watchdog::giveBack()
         rescue_.cut(window_);
 }
 
-void Watchdog::ask()
+void Watchdog::ask() const
 {
     const WatchdogMessage question;
     send(watchdogDescriptor, &question, sizeof(question), MSG_NOSIGNAL | MSG_DONTWAIT);

@@ -36,7 +36,7 @@ private:
     void readOrders();
     void obey(const WatchdogMessage& message);
     void enter(State state);
-    static void ask();
+    void ask() const;
     void giveBack();
 
     InputRescue rescue_;
