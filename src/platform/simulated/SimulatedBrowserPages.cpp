@@ -13,7 +13,7 @@ std::optional<std::string> SimulatedBrowserPages::currentURL(
     const std::string& bundleID, const std::string& script)
 {
     scripts_.push_back(script);
-    const auto answer = known(bundleID);
+    auto answer = known(bundleID);
     answered_[bundleID] = answer;
     if (!readings_[bundleID].isActive() && !held_.contains(bundleID))
         read(bundleID);

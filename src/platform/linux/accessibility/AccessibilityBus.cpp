@@ -43,7 +43,7 @@ QDBusMessage question(const QString& service, const QString& path, const QString
 /// process, and start a bus where there is none.
 QString sessionAddress()
 {
-    const auto address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    auto address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
     if (!address.isEmpty())
         return address;
     return QStringLiteral("unix:path=%1/bus").arg(qEnvironmentVariable("XDG_RUNTIME_DIR"));

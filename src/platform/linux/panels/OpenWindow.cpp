@@ -30,7 +30,7 @@ std::string oneLine(const std::string& text)
         else if (!line.empty() && line.back() != U' ')
             line += U' ';
     }
-    const auto whole = trimmed(utf8(line));
+    auto whole = trimmed(utf8(line));
     const auto parts = characters(whole);
     if (parts.size() <= mostCharacters)
         return whole;

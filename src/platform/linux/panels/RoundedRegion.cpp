@@ -14,7 +14,7 @@ QRegion roundedRegion(const QSize& size, int radius)
     painter.setBrush(Qt::color1);
     painter.drawRoundedRect(QRect({0, 0}, size), radius, radius);
     painter.end();
-    return QRegion(shape);
+    return {shape};
 }
 
 } // namespace brindlex

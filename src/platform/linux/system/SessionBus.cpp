@@ -11,7 +11,7 @@ constexpr int longestWaitInMilliseconds = 500;
 /// Where the bus is. The library's own search is avoided, as it starts a bus where there is none.
 QString address()
 {
-    const auto named = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
+    auto named = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
     if (!named.isEmpty())
         return named;
     const auto socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
