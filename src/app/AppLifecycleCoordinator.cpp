@@ -8,7 +8,7 @@
 namespace brindlex {
 namespace {
 
-/// How long the label of an automatic switch, or the answer to a second launch, stays.
+/// How long the label of an automatic switch, or the response to a second launch, stays.
 constexpr Seconds overlayDuration = 0.8;
 
 } // namespace

@@ -7,10 +7,10 @@
 
 namespace brindlex {
 
-/// Frames by a timer at the rate that RandR tells of the main screen, and at most 60 in a second;
+/// Frames by a timer at the rate that RandR reports of the main screen, and at most 60 in a second;
 /// where no screen is the main one, of the first that is lit.
 ///
-/// X tells no client when a frame is shown without drawing one, so the frames keep the rate and
+/// X notifies no client when a frame is shown without drawing one, so the frames keep the rate and
 /// have a phase of their own. What was missed is not made up for.
 class RandRDisplayLink : public DisplayLink {
 public:

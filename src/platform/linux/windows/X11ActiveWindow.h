@@ -27,7 +27,7 @@ public:
     /// The active window as it is now, unless it is one of this process; costs two round trips.
     std::optional<ActiveWindow> current() const;
 
-    /// Told from the loop each time `window` has changed.
+    /// Notifies the observer from the loop each time `window` has changed.
     Subscription observe(std::function<void()> handler);
 
 private:
