@@ -7,7 +7,7 @@ namespace programIdentity {
 
 inline constexpr const char* bundleIdentifier = "com.brindlex.Brindlex";
 
-/// Told by a second launch to the first; its object is the bundle identifier.
+/// Posted by a second launch to the first; its object is the bundle identifier.
 inline constexpr const char* showMainWindow = "com.brindlex.Brindlex.showMainWindow";
 
 } // namespace programIdentity

@@ -31,7 +31,7 @@ public:
     GlobalEventTap& operator=(const GlobalEventTap&) = delete;
 
     /// Adds a subscriber behind all others. `triggers` are the events on which it acts, where these
-    /// are not all of its mask; see there for what it promises.
+    /// are not all of its mask; see there for what it guarantees.
     Uuid subscribe(
         EventMask mask, Handler handler, std::optional<EventTriggers> triggers = std::nullopt);
 

@@ -23,7 +23,7 @@ struct MatchArms : Arms... {
     using Arms::operator()...;
 };
 
-/// Answers with the arm that accepts the alternative held by `choice`.
+/// Calls the arm that accepts the alternative held by `choice` and returns what it returns.
 ///
 /// Write one arm per alternative: a missing arm does not compile, which is the reason to prefer
 /// this over a chain of `std::get_if`.

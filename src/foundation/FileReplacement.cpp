@@ -14,7 +14,7 @@ namespace brindlex {
 namespace {
 
 /// The file that the name leads to in the end; where the links lead in a circle, the system's own
-/// refusal follows from the use of the answer.
+/// refusal follows from the use of the result.
 std::filesystem::path linkTarget(std::filesystem::path file)
 {
     constexpr int mostLinks = 40;

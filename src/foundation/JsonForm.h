@@ -53,7 +53,7 @@ constexpr auto orDefault(const char* key, Member Record::*member)
     return JsonField<Record, Member, MissingKey::givesTheDefault>{key, member};
 }
 
-/// A missing key gives what `compute` answers at the time of reading.
+/// A missing key gives what `compute` returns at the time of reading.
 template <typename Record, typename Member>
 constexpr auto orComputed(const char* key, Member Record::*member, Member (*compute)())
 {

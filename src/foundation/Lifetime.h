@@ -4,7 +4,7 @@
 
 namespace brindlex {
 
-/// Tells what outlives an object that the object has gone. Held by the object as a field:
+/// Lets what outlives an object see that the object has gone. Held by the object as a field:
 ///
 ///     [this, alive = lifetime_.watch()] { if (!alive.expired()) work(); }
 class Lifetime {

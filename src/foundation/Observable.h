@@ -74,7 +74,7 @@ private:
 ///
 /// A subscription replays the current value before it returns. Every `set` delivers, also of an
 /// equal value. A `set` from inside a handler delivers its value to everybody and ends the outer
-/// delivery, so that what a subscriber hears last is always the newest value. Subscriptions may
+/// delivery, so that what a subscriber receives last is always the newest value. Subscriptions may
 /// outlive the observable. One thread only.
 template <typename Value>
 class Observable {

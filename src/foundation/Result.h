@@ -46,7 +46,7 @@ private:
     std::variant<Value, Problem> content_;
 };
 
-/// The value of an operation that succeeds without an answer.
+/// The value of an operation that returns nothing but its success.
 using Done = std::monostate;
 
 } // namespace brindlex

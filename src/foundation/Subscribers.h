@@ -9,10 +9,10 @@
 
 namespace brindlex {
 
-/// Who is to be told, in the order of subscribing.
+/// Who is to be notified, in the order of subscribing.
 ///
-/// Subscribing and unsubscribing are allowed while the subscribers are being told: who has gone is
-/// told no more, who has come is told from the next time on. One thread only.
+/// Subscribing and unsubscribing are allowed while the subscribers are being notified: who has gone
+/// is notified no more, who has come is notified from the next time on. One thread only.
 template <typename Handler>
 class Subscribers {
 public:
@@ -29,13 +29,13 @@ public:
 
     bool isEmpty() const { return entries_->empty(); }
 
-    /// Calls `tell` with each handler until it answers false.
-    template <typename Tell>
-    void forEachWhile(Tell tell) const
+    /// Calls `visit` with each handler until it returns false.
+    template <typename Visit>
+    void forEachWhile(Visit visit) const
     {
         const auto present = *entries_;
         for (const auto& entry : present)
-            if (entry->isActive && !tell(entry->handler))
+            if (entry->isActive && !visit(entry->handler))
                 return;
     }
 

@@ -34,7 +34,7 @@ struct SwitchAbilities {
 
 /// The shell around the switching state machine.
 ///
-/// Turns what the computer and the stores tell into events, feeds them one at a time to `reduce`,
+/// Turns what the computer and the stores report into events, feeds them one at a time to `reduce`,
 /// writes what was learned back to its store and carries out the effects in their order. Decides
 /// nothing itself. With switching enabled it observes from its construction on. It expects `Stop`
 /// to have been dispatched before its end. Main thread only.

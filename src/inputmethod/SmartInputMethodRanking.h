@@ -21,7 +21,7 @@ public:
     std::set<std::string> top(std::size_t limit) const;
 
     /// Whether a limit of the ranking lets the application pass: it is among the first `limit`, or
-    /// no application has a rank. The answer of `top`, for the cost of looking at those that could
+    /// no application has a rank. The result of `top`, for the cost of looking at those that could
     /// stand before this one; called for every decision that asks for a learned rule.
     bool admits(const std::string& bundleID, std::size_t limit) const;
 

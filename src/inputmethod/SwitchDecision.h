@@ -38,7 +38,7 @@ struct InputMethodAutoSwitchContext {
     using Any = Cases<App, Domain>;
 };
 
-/// Answers which input source the user's place asks for. Nothing when no rule speaks, and when the
+/// Returns which input source the user's place asks for. Nothing when no rule speaks, and when the
 /// winning rule asks for the source that is selected already.
 ///
 ///     priority               first               second              third

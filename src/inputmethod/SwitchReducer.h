@@ -21,7 +21,7 @@ namespace brindlex {
 ///        └──────────────────────── stop, switched off ────────────────────────┘
 ///
 /// An activation and a look at the browser's page attempt a switch: they ask the rules and select
-/// what these answer, once per place, so that a user who changes the source afterwards is left
+/// what these return, once per place, so that a user who changes the source afterwards is left
 /// alone until another place had an automatic switch. A change of the source that is not the echo
 /// of an own selection, one second long, is the user's, and is learned from.
 ///

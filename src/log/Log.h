@@ -56,7 +56,7 @@ public:
     /// The subsystem's current file; nothing without a container.
     static std::optional<std::filesystem::path> fileURL(Subsystem subsystem);
 
-    /// Sets where calls go; nothing ends it. Answers the sink that was installed before.
+    /// Sets where calls go; nothing ends it. Returns the sink that was installed before.
     static std::shared_ptr<LogSink> install(std::shared_ptr<LogSink> sink);
 };
 

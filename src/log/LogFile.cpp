@@ -40,7 +40,7 @@ FileHandle openToAppend(const fs::path& file)
     return FileHandle(::open(file.c_str(), flags | O_CREAT | O_TRUNC, 0600));
 }
 
-/// Appends as many of the lines as go into the file before its next rotation; answers how many.
+/// Appends as many of the lines as go into the file before its next rotation; returns how many.
 /// Lines that stand behind each other in memory are written in one step.
 std::size_t appendUntilFull(const fs::path& file, std::span<const std::string_view> lines)
 {

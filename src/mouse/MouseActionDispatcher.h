@@ -10,8 +10,8 @@ namespace brindlex {
 class SpaceSwitcher;
 
 /// Performs what bindings ask for: the one place where a gesture or a click reaches the world
-/// outside. Never waits, so that it may be called while an event does. Failures are not told to the
-/// caller. Main thread only.
+/// outside. Never waits, so that it may be called while an event does. Failures are not reported to
+/// the caller. Main thread only.
 class MouseActionDispatcher {
 public:
     MouseActionDispatcher(EventPosting& posting, ApplicationOpening& applications,

@@ -17,7 +17,7 @@ public:
     MouseClickManager(const Observable<MouseConfig>& config, const TapEnvironment& environment,
         MouseActionDispatcher& dispatcher);
 
-    /// Without permission it tries again every 2 seconds.
+    /// Without permission it retries every 2 seconds.
     void start() { client_.subscribe(mouseClickEventMask); }
 
     void tearDown() { client_.unsubscribe(); }

@@ -71,8 +71,8 @@ inline constexpr double rightClickReplayLimit = 6.0;
 ///      ├──────up, swallowed────────────────────────────────────────────┘
 ///      └──────time-out, the rest of the press passes (from either)
 ///
-/// `decide` tells whether a press of the left button is about to resize something; it is asked only
-/// once a binding of that button has matched.
+/// `decide` reports whether a press of the left button is about to resize something; it is called
+/// only once a binding of that button has matched.
 MouseGestureOutcome reduceMouseGesture(const Event& event, MouseGestureState& state,
     const MouseGestureConfig& config, Date now,
     const std::function<MouseResizeDragDecision(Point)>& decide);

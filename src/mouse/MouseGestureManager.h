@@ -31,7 +31,7 @@ public:
     /// Starts with the mask of the present configuration.
     void start() { install(currentMask()); }
 
-    /// Brings the subscription to the mask; one of 0 ends it. Without permission it tries again
+    /// Brings the subscription to the mask; one of 0 ends it. Without permission it retries
     /// every 2 seconds.
     void install(EventMask mask);
 

@@ -20,9 +20,9 @@ struct ResizeCursorCandidate {
     bool operator==(const ResizeCursorCandidate&) const = default;
 };
 
-/// Tells, at the instant of a press, whether the user is about to resize a window, a split view or
-/// a column: from the shape of the cursor first, which asks nobody, and from the accessibility tree
-/// and the list of windows second. Main thread only.
+/// Detects, at the instant of a press, whether the user is about to resize a window, a split view
+/// or a column: from the shape of the cursor first, which asks nobody, and from the accessibility
+/// tree and the list of windows second. Main thread only.
 class MouseResizeCursorDetector {
 public:
     MouseResizeCursorDetector(

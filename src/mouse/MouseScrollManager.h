@@ -28,7 +28,7 @@ public:
     MouseScrollManager(const Observable<MouseConfig>& config, const TapEnvironment& environment,
         const Abilities& abilities);
 
-    /// Without permission it tries again every 2 seconds.
+    /// Without permission it retries every 2 seconds.
     void start() { client_.subscribe(mouseScrollEventMask); }
 
     void tearDown() { client_.unsubscribe(); }

@@ -7,7 +7,7 @@
 
 namespace brindlex {
 
-/// How long one program may take to answer about one element.
+/// How long one program may take to reply about one element.
 inline constexpr Seconds accessibilityMessagingTimeout = 0.03;
 
 /// Whether a point lies on something to resize with, such as the divider of a split view.

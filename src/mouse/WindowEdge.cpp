@@ -27,7 +27,7 @@ std::optional<Rect> frameOf(AccessibilityElement& element)
     return Rect{*position, *size};
 }
 
-/// The frame of the window at the point, as its program tells it.
+/// The frame of the window at the point, as its program reports it.
 std::optional<Rect> accessibilityFrameAt(AccessibilityTree& tree, Point point)
 {
     const auto element = tree.elementAt(point, accessibilityMessagingTimeout);

@@ -9,7 +9,7 @@
 
 namespace brindlex {
 
-/// A thing on the screen as another program describes it. Each answer is asked for anew; one that
+/// A thing on the screen as another program describes it. Each value is requested anew; one that
 /// fails, or takes longer than the messaging time-out, is absent. Main thread only.
 ///
 /// Roles are those of the accessibility interface of macOS, such as "AXWindow" and "AXSplitter".
@@ -34,7 +34,7 @@ class AccessibilityTree {
 public:
     virtual ~AccessibilityTree() = default;
 
-    /// The deepest element at the point; null when there is none or none is told within `timeout`.
+    /// The deepest element at the point; null when there is none or none comes within `timeout`.
     virtual std::shared_ptr<AccessibilityElement> elementAt(Point point, Seconds timeout) = 0;
 };
 

@@ -10,7 +10,7 @@ public:
     virtual ~ApplicationOpening() = default;
 
     /// Opens the application at the path, or brings it to the front if it runs. Returns at once;
-    /// what becomes of it is not told.
+    /// what becomes of it is not reported.
     virtual void open(const std::filesystem::path& application) = 0;
 };
 

@@ -16,14 +16,14 @@ public:
     /// The address of the current tab of the browser's front window; nothing when it is not known,
     /// and empty when the browser has no window. `script` is the question in the words of a system
     /// that asks browsers by script; others ignore it. A provider that reads beside the main thread
-    /// answers at once with the page that it last read of the window now in front, and starts
+    /// returns at once the page that it last read of the window now in front, and starts
     /// reading anew.
     virtual std::optional<std::string> currentURL(
         const std::string& bundleID, const std::string& script)
         = 0;
 
-    /// Tells that `currentURL` would answer otherwise than it last did. A provider that reads
-    /// inside `currentURL` never tells.
+    /// Notifies the observer that `currentURL` would return something else than it last did. A
+    /// provider that reads inside `currentURL` never notifies.
     virtual Subscription observeChanges(std::function<void()> handler) = 0;
 };
 

@@ -20,7 +20,7 @@ public:
     virtual std::optional<double> maximumFramesPerSecond() const = 0;
 
     /// Calls the handler before each frame, on the main thread, with the frame's time by the
-    /// continuous clock. `framesPerSecond` is the wish for a rate; absent: the screen's own. May be
+    /// continuous clock. `framesPerSecond` is the requested rate; absent: the screen's own. May be
     /// ended from inside the handler. The frames stop when the screen goes.
     virtual Subscription onEachFrame(std::optional<double> framesPerSecond, FrameHandler handler)
         = 0;

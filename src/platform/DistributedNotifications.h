@@ -7,12 +7,12 @@
 
 namespace brindlex {
 
-/// Names that are told to every process of the user's session.
+/// Names that are posted to every process of the user's session.
 class DistributedNotifications {
 public:
     virtual ~DistributedNotifications() = default;
 
-    /// Tells the name about the object; on its way to all receivers when this returns, even if the
+    /// Posts the name about the object; on its way to all receivers when this returns, even if the
     /// process ends at once. Lost without an error when nobody listens or the session has no bus.
     virtual void post(const std::string& name, const std::string& object) = 0;
 

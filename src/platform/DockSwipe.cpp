@@ -53,11 +53,11 @@ std::optional<DockSwipeReader::Direction> DockSwipeReader::read(const SyntheticE
         return {};
     const auto phase = DockSwipePhase{event.fields.value(gesturePhase)};
     if (phase == DockSwipePhase::began)
-        hasAnswered_ = false;
+        hasReturned_ = false;
     const auto progress = event.fields.value(progressField);
-    if (hasAnswered_ || progress == signBit)
+    if (hasReturned_ || progress == signBit)
         return {};
-    hasAnswered_ = true;
+    hasReturned_ = true;
     return progress > signBit ? Direction::right : Direction::left;
 }
 

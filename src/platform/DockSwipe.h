@@ -19,7 +19,7 @@ SyntheticEvent dockSwipeEvent(DockSwipePhase phase, double progress);
 /// The form in which the event carries its progress.
 std::int64_t encodedDockProgress(double progress);
 
-/// Tells from the events of a swipe where it goes, for systems that switch spaces by a call of
+/// Reads from the events of a swipe where it goes, for systems that switch spaces by a call of
 /// their own.
 class DockSwipeReader {
 public:
@@ -29,7 +29,7 @@ public:
     std::optional<Direction> read(const SyntheticEvent& event);
 
 private:
-    bool hasAnswered_ = false;
+    bool hasReturned_ = false;
 };
 
 } // namespace brindlex

@@ -10,10 +10,10 @@ namespace brindlex {
 
 /// The events on which a subscriber acts, where these are fewer than those of its mask.
 ///
-/// It promises to draw nothing from any other event of its mask and to leave it what it is, so that
-/// a system which has to take whole devices away from the applications can leave alone what nobody
-/// acts on. A subscriber must be ready for the others all the same: only its mask is sure to keep
-/// them away.
+/// It guarantees to draw nothing from any other event of its mask and to leave it what it is, so
+/// that a system which has to take whole devices away from the applications can leave alone what
+/// nobody acts on. A subscriber must be ready for the others all the same: only its mask is sure to
+/// keep them away.
 struct EventTriggers {
     /// A press, and what the same device sends until the release.
     struct Button {

@@ -19,11 +19,12 @@ public:
     /// Whether the program may listen to the input (Input Monitoring).
     virtual bool canListenToEvents() = 0;
 
-    /// Tells that the first answer may have changed, for this or another program.
+    /// Notifies the observer that `isAccessibilityTrusted` may have changed, for this or another
+    /// program.
     virtual Subscription observeAccessibilityChanges(std::function<void()> handler) = 0;
 };
 
-/// Both answers of one moment.
+/// Both permissions at one moment.
 struct EventPermissionState {
     bool isAccessibilityTrusted = false;
     bool canListenToEvents = false;

@@ -13,7 +13,7 @@ namespace brindlex {
 /// The category of the sources that type text, as opposed to palettes.
 inline constexpr std::string_view keyboardInputSourceCategory = "TISCategoryKeyboardInputSource";
 
-/// What the system tells of one input source; a property that it does not have is absent.
+/// What the system reports of one input source; a property that it does not have is absent.
 struct InputSourceProperties {
     std::optional<std::string> id{};
     std::optional<std::string> category{};
@@ -51,11 +51,13 @@ public:
     /// Selects a source that `list` gave. 0 on success, the system's status otherwise.
     virtual int select(const InputSourceProperties& source) = 0;
 
-    /// Tells, never from inside `select`, that the selected source has changed, whoever changed it.
+    /// Notifies the observer, never from inside `select`, that the selected source has changed,
+    /// whoever changed it.
     virtual Subscription observeSelectionChanges(std::function<void()> handler) = 0;
 
-    /// Tells, before it tells of a selection that came of it, that other sources can be selected
-    /// now: one was added or removed, or an input method has started or ended.
+    /// Notifies the observer that other sources can be selected now: one was added or removed, or
+    /// an input method has started or ended. Comes before the notification of a selection that
+    /// came of it.
     virtual Subscription observeEnabledSourcesChanges(std::function<void()> handler) = 0;
 };
 

@@ -39,7 +39,7 @@ public:
         auto operator<=>(const Press&) const = default;
     };
 
-    /// Closes what a device that has gone has left open; answers the releases that have to go on
+    /// Closes what a device that has gone has left open; returns the releases that have to go on
     /// in its place.
     std::vector<Press> forget(DeviceIdentifier device);
 

@@ -13,7 +13,7 @@ public:
 
     virtual bool isActive() const = 0;
 
-    /// Tells each time the program has become the active one.
+    /// Notifies the observer each time the program has become the active one.
     virtual Subscription observeDidBecomeActive(std::function<void()> handler) = 0;
 };
 

@@ -17,7 +17,7 @@ public:
     virtual ProcessIdentifier current() const = 0;
 
     /// The processes with the identifier that were started before this one, oldest first, and this
-    /// one. Of two processes that ask at the same moment exactly one is told of the other.
+    /// one. Of two processes that ask at the same moment exactly one is given the other.
     virtual std::vector<ProcessIdentifier> running(const std::string& bundleID) = 0;
 
     /// Brings the windows of the other process to the front, if it has any.

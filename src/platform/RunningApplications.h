@@ -11,7 +11,7 @@
 
 namespace brindlex {
 
-/// What the system tells of an application that runs.
+/// What the system reports of an application that runs.
 struct RunningApplication {
     ProcessIdentity processIdentifier{};
     std::optional<std::string> bundleIdentifier{};
@@ -36,8 +36,9 @@ public:
     /// All with a window, each process once, in the order in which their windows appeared.
     virtual std::vector<RunningApplication> running() const = 0;
 
-    /// Tells each time another application comes to the front, once `frontmost` answers it. Nothing
-    /// is told when the front merely becomes empty, or moves between windows of one application.
+    /// Notifies the observer each time another application comes to the front, once `frontmost`
+    /// returns it; not when the front merely becomes empty, or moves between windows of one
+    /// application.
     virtual Subscription observeActivation(ActivationHandler handler) = 0;
 };
 

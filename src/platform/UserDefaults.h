@@ -36,8 +36,8 @@ public:
     /// Brings what was set to disk and takes over what other processes have written there.
     virtual void synchronize() = 0;
 
-    /// Tells, on the main thread, that values have changed: by `set` in this process, or by another
-    /// process. Not told when a `set` changed nothing.
+    /// Notifies the observer, on the main thread, that values have changed: by `set` in this
+    /// process, or by another process. Not notified when a `set` changed nothing.
     virtual Subscription observeChanges(std::function<void()> handler) = 0;
 };
 

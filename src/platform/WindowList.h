@@ -7,7 +7,7 @@
 
 namespace brindlex {
 
-/// What the system tells of a window; what cannot be read is absent.
+/// What the system reports of a window; what cannot be read is absent.
 struct WindowInfo {
     /// 0 for ordinary windows, above it for panels, docks and menus.
     std::optional<int> layer{};

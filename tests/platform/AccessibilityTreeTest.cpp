@@ -94,7 +94,7 @@ private:
 };
 
 template <typename Screen>
-class AccessibilityTreeTest : public testing::Test {
+class AccessibilityTreeContract : public testing::Test {
 protected:
     std::shared_ptr<AccessibilityElement> elementAt(Point point)
     {
@@ -108,9 +108,9 @@ protected:
 };
 
 using Screens = testing::Types<SimulatedScreen, RealScreen>;
-TYPED_TEST_SUITE(AccessibilityTreeTest, Screens);
+TYPED_TEST_SUITE(AccessibilityTreeContract, Screens);
 
-TYPED_TEST(AccessibilityTreeTest, findsTheDeepestElement)
+TYPED_TEST(AccessibilityTreeContract, findsTheDeepestElement)
 {
     this->screen.show({frame, splitGroup, button});
 
@@ -124,7 +124,7 @@ TYPED_TEST(AccessibilityTreeTest, findsTheDeepestElement)
     EXPECT_EQ(element->size(), (Size{20, 20}));
 }
 
-TYPED_TEST(AccessibilityTreeTest, leadsFromAnElementToTheOnesAroundIt)
+TYPED_TEST(AccessibilityTreeContract, leadsFromAnElementToTheOnesAroundIt)
 {
     this->screen.show({frame, splitGroup, button});
     auto element = this->elementAt(centre);
@@ -142,7 +142,7 @@ TYPED_TEST(AccessibilityTreeTest, leadsFromAnElementToTheOnesAroundIt)
     EXPECT_EQ(roles, (std::vector<std::optional<std::string>>{"AXSplitGroup", "AXWindow"}));
 }
 
-TYPED_TEST(AccessibilityTreeTest, knowsTheWindowAroundAnElement)
+TYPED_TEST(AccessibilityTreeContract, knowsTheWindowAroundAnElement)
 {
     this->screen.show({frame, splitGroup, button});
     const auto element = this->elementAt(centre);
@@ -157,12 +157,12 @@ TYPED_TEST(AccessibilityTreeTest, knowsTheWindowAroundAnElement)
     EXPECT_EQ(window->size(), (Size{300, 200}));
 }
 
-TYPED_TEST(AccessibilityTreeTest, hasNothingWhereNothingIsOffered)
+TYPED_TEST(AccessibilityTreeContract, hasNothingWhereNothingIsOffered)
 {
     EXPECT_EQ(this->elementAt(centre), nullptr);
 }
 
-TYPED_TEST(AccessibilityTreeTest, asksForEachAnswerAnewAndWaitsNoLongerThanTheTimeout)
+TYPED_TEST(AccessibilityTreeContract, requestsEachValueAnewAndWaitsNoLongerThanTheTimeout)
 {
     this->screen.show({frame, button});
     const auto element = this->elementAt(centre);

@@ -13,21 +13,21 @@ namespace {
 namespace fs = std::filesystem;
 
 template <typename Container>
-class AppGroupContainerTest : public testing::Test {
+class AppGroupContainerContract : public testing::Test {
 protected:
     TemporaryFolder folder;
 };
 
 using Containers = testing::Types<SimulatedAppGroupContainer, PosixAppGroupContainer>;
-TYPED_TEST_SUITE(AppGroupContainerTest, Containers);
+TYPED_TEST_SUITE(AppGroupContainerContract, Containers);
 
-TYPED_TEST(AppGroupContainerTest, isAFolderThatWasThere)
+TYPED_TEST(AppGroupContainerContract, isAFolderThatWasThere)
 {
     TypeParam container(this->folder.path());
     EXPECT_EQ(container.appGroupContainerURL(), this->folder.path());
 }
 
-TYPED_TEST(AppGroupContainerTest, isMadeWithWhatIsMissingAboveIt)
+TYPED_TEST(AppGroupContainerContract, isMadeWithWhatIsMissingAboveIt)
 {
     const auto path = this->folder.path() / "share" / "group.com.brindlex.Brindlex";
     TypeParam container(path);
@@ -36,7 +36,7 @@ TYPED_TEST(AppGroupContainerTest, isMadeWithWhatIsMissingAboveIt)
     EXPECT_TRUE(fs::is_directory(path));
 }
 
-TYPED_TEST(AppGroupContainerTest, isMadeAgainWhenItWasRemoved)
+TYPED_TEST(AppGroupContainerContract, isMadeAgainWhenItWasRemoved)
 {
     const auto path = this->folder.path() / "container";
     TypeParam container(path);
@@ -47,7 +47,7 @@ TYPED_TEST(AppGroupContainerTest, isMadeAgainWhenItWasRemoved)
     EXPECT_TRUE(fs::is_directory(path));
 }
 
-TYPED_TEST(AppGroupContainerTest, isAbsentWhereAFileStandsInItsPlaceOrAboveIt)
+TYPED_TEST(AppGroupContainerContract, isAbsentWhereAFileStandsInItsPlaceOrAboveIt)
 {
     const auto file = this->folder.path() / "file";
     write(file, "content");
@@ -58,7 +58,7 @@ TYPED_TEST(AppGroupContainerTest, isAbsentWhereAFileStandsInItsPlaceOrAboveIt)
     EXPECT_EQ(contentOf(file), "content");
 }
 
-TYPED_TEST(AppGroupContainerTest, appearsWhenTheObstacleGoes)
+TYPED_TEST(AppGroupContainerContract, appearsWhenTheObstacleGoes)
 {
     const auto path = this->folder.path() / "container";
     write(path, "in the way");
@@ -69,7 +69,7 @@ TYPED_TEST(AppGroupContainerTest, appearsWhenTheObstacleGoes)
     EXPECT_EQ(container.appGroupContainerURL(), path);
 }
 
-TYPED_TEST(AppGroupContainerTest, answersManyThreads)
+TYPED_TEST(AppGroupContainerContract, servesManyThreads)
 {
     const auto path = this->folder.path() / "a" / "b" / "c";
     TypeParam container(path);

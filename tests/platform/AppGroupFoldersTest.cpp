@@ -32,7 +32,7 @@ TEST(AppGroupFolders, stopsAtTheFirstThatCannotBeHad)
     EXPECT_FALSE(exists(temporary.path() / "Pending"));
 }
 
-TEST(AppGroupFolders, answersNothingWithoutAContainer)
+TEST(AppGroupFolders, returnsNothingWithoutAContainer)
 {
     SimulatedAppGroupContainer none;
 

@@ -58,15 +58,15 @@ private:
 };
 
 template <typename Installation>
-class ApplicationBundlesPromise : public testing::Test {
+class ApplicationBundlesContract : public testing::Test {
 protected:
     Installation installation;
 };
 
 using Installations = testing::Types<SimulatedInstallation, DesktopInstallation>;
-TYPED_TEST_SUITE(ApplicationBundlesPromise, Installations);
+TYPED_TEST_SUITE(ApplicationBundlesContract, Installations);
 
-TYPED_TEST(ApplicationBundlesPromise, readsWhatAnApplicationSaysOfItself)
+TYPED_TEST(ApplicationBundlesContract, readsWhatAnApplicationSaysOfItself)
 {
     const ApplicationBundle bundle{
         "org.example.Pad", "Block", "Pad", this->installation.makeIcon()};
@@ -74,14 +74,14 @@ TYPED_TEST(ApplicationBundlesPromise, readsWhatAnApplicationSaysOfItself)
     EXPECT_EQ(this->installation.bundles().bundle(path), bundle);
 }
 
-TYPED_TEST(ApplicationBundlesPromise, hasNothingWhereThereIsNoApplication)
+TYPED_TEST(ApplicationBundlesContract, hasNothingWhereThereIsNoApplication)
 {
     EXPECT_EQ(this->installation.bundles().bundle("/no/such/place"), std::nullopt);
     EXPECT_EQ(this->installation.bundles().bundle(""), std::nullopt);
     EXPECT_EQ(this->installation.bundles().bundle("/"), std::nullopt);
 }
 
-TYPED_TEST(ApplicationBundlesPromise, noticesThatAnApplicationWasRemoved)
+TYPED_TEST(ApplicationBundlesContract, noticesThatAnApplicationWasRemoved)
 {
     const auto path = this->installation.install(
         "org.example.Pad", {.identifier = "org.example.Pad", .displayName = "Pad", .name = "Pad"});

@@ -46,7 +46,7 @@ private:
 };
 
 template <typename Desk>
-class ApplicationOpeningPromise : public testing::Test {
+class ApplicationOpeningContract : public testing::Test {
 protected:
     Desk desk;
 };
@@ -60,9 +60,9 @@ public:
         return std::is_same_v<Desk, X11Desk> ? "X11" : "Simulated";
     }
 };
-TYPED_TEST_SUITE(ApplicationOpeningPromise, Desks, DeskNames);
+TYPED_TEST_SUITE(ApplicationOpeningContract, Desks, DeskNames);
 
-TYPED_TEST(ApplicationOpeningPromise, opensMissionControl)
+TYPED_TEST(ApplicationOpeningContract, opensMissionControl)
 {
     EXPECT_FALSE(this->desk.showsMissionControl());
 
@@ -71,7 +71,7 @@ TYPED_TEST(ApplicationOpeningPromise, opensMissionControl)
     EXPECT_TRUE(loopUntil([&] { return this->desk.showsMissionControl(); }));
 }
 
-TYPED_TEST(ApplicationOpeningPromise, takesAnyPathWithoutAWord)
+TYPED_TEST(ApplicationOpeningContract, takesAnyPathWithoutAWord)
 {
     for (const std::filesystem::path path :
         {"", "/", "/nowhere/Nothing.app", "Mission Control", "/Mission Control.app/Contents"})

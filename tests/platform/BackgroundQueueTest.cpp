@@ -24,13 +24,13 @@ public:
 };
 
 template <typename Queue>
-class BackgroundQueueTest : public testing::Test {
+class BackgroundQueueContract : public testing::Test {
 };
 
 using Queues = testing::Types<SimulatedQueue, PlainQueue, PausingQueue>;
-TYPED_TEST_SUITE(BackgroundQueueTest, Queues);
+TYPED_TEST_SUITE(BackgroundQueueContract, Queues);
 
-TYPED_TEST(BackgroundQueueTest, runsWorkInTheOrderOfPosting)
+TYPED_TEST(BackgroundQueueContract, runsWorkInTheOrderOfPosting)
 {
     TypeParam queue;
     std::vector<int> ran;
@@ -43,7 +43,7 @@ TYPED_TEST(BackgroundQueueTest, runsWorkInTheOrderOfPosting)
     EXPECT_EQ(ran, expected);
 }
 
-TYPED_TEST(BackgroundQueueTest, hasRunWhatWasPostedBeforeADrain)
+TYPED_TEST(BackgroundQueueContract, hasRunWhatWasPostedBeforeADrain)
 {
     TypeParam queue;
     int ran = 0;
@@ -56,7 +56,7 @@ TYPED_TEST(BackgroundQueueTest, hasRunWhatWasPostedBeforeADrain)
     EXPECT_EQ(ran, 200);
 }
 
-TYPED_TEST(BackgroundQueueTest, takesWorkFromItsOwnWorkAndRunsItAfterwards)
+TYPED_TEST(BackgroundQueueContract, takesWorkFromItsOwnWorkAndRunsItAfterwards)
 {
     TypeParam queue;
     std::vector<int> ran;
@@ -71,7 +71,7 @@ TYPED_TEST(BackgroundQueueTest, takesWorkFromItsOwnWorkAndRunsItAfterwards)
     EXPECT_EQ(ran, (std::vector{1, 2}));
 }
 
-TYPED_TEST(BackgroundQueueTest, runsWhatWaitsWhenItEnds)
+TYPED_TEST(BackgroundQueueContract, runsWhatWaitsWhenItEnds)
 {
     std::atomic<int> ran = 0;
     {
@@ -82,7 +82,7 @@ TYPED_TEST(BackgroundQueueTest, runsWhatWaitsWhenItEnds)
     EXPECT_EQ(ran, 100);
 }
 
-TYPED_TEST(BackgroundQueueTest, runsOnePieceOfWorkAtATimeForManyThreads)
+TYPED_TEST(BackgroundQueueContract, runsOnePieceOfWorkAtATimeForManyThreads)
 {
     TypeParam queue;
     int ran = 0;
@@ -100,7 +100,7 @@ TYPED_TEST(BackgroundQueueTest, runsOnePieceOfWorkAtATimeForManyThreads)
     EXPECT_EQ(ran, 4'000);
 }
 
-TYPED_TEST(BackgroundQueueTest, letsGoOfWorkThatHasRun)
+TYPED_TEST(BackgroundQueueContract, letsGoOfWorkThatHasRun)
 {
     TypeParam queue;
     auto held = std::make_shared<int>();

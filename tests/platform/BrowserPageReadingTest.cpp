@@ -44,7 +44,7 @@ private:
 };
 
 template <typename Browser>
-class BrowserPageReadingTest : public testing::Test {
+class BrowserPageReadingContract : public testing::Test {
 protected:
     std::optional<std::string> ask() { return computer.pages().currentURL(browser, "script"); }
 
@@ -56,32 +56,32 @@ protected:
     }
 
     Browser computer;
-    int told = 0;
-    Subscription observation = computer.pages().observeChanges([this] { ++told; });
+    int notified = 0;
+    Subscription observation = computer.pages().observeChanges([this] { ++notified; });
 };
 
 using Browsers = testing::Types<SimulatedBrowser, AccessibleBrowser>;
-TYPED_TEST_SUITE(BrowserPageReadingTest, Browsers);
+TYPED_TEST_SUITE(BrowserPageReadingContract, Browsers);
 
-TYPED_TEST(BrowserPageReadingTest, knowsNothingBeforeAPageWasRead)
+TYPED_TEST(BrowserPageReadingContract, knowsNothingBeforeAPageWasRead)
 {
     this->computer.show("https://example.com/");
 
     EXPECT_EQ(this->ask(), std::nullopt);
-    EXPECT_EQ(this->told, 0);
+    EXPECT_EQ(this->notified, 0);
 }
 
-TYPED_TEST(BrowserPageReadingTest, tellsWhenThePageIsKnown)
+TYPED_TEST(BrowserPageReadingContract, notifiesWhenThePageIsKnown)
 {
     this->computer.show("https://example.com/a?b#c");
     this->ask();
     this->computer.settle();
 
-    EXPECT_EQ(this->told, 1);
+    EXPECT_EQ(this->notified, 1);
     EXPECT_EQ(this->ask(), "https://example.com/a?b#c");
 }
 
-TYPED_TEST(BrowserPageReadingTest, doesNotTellOfTheSamePageAgain)
+TYPED_TEST(BrowserPageReadingContract, doesNotTellOfTheSamePageAgain)
 {
     this->computer.show("https://example.com/");
     this->ask();
@@ -90,10 +90,10 @@ TYPED_TEST(BrowserPageReadingTest, doesNotTellOfTheSamePageAgain)
         EXPECT_EQ(this->askLater(), "https://example.com/");
     this->computer.settle();
 
-    EXPECT_EQ(this->told, 1);
+    EXPECT_EQ(this->notified, 1);
 }
 
-TYPED_TEST(BrowserPageReadingTest, tellsOfAnotherPage)
+TYPED_TEST(BrowserPageReadingContract, notifiesOfAnotherPage)
 {
     this->computer.show("https://example.com/");
     this->ask();
@@ -104,11 +104,11 @@ TYPED_TEST(BrowserPageReadingTest, tellsOfAnotherPage)
 
     EXPECT_EQ(this->askLater(), "https://example.com/");
     this->computer.settle();
-    EXPECT_EQ(this->told, 2);
+    EXPECT_EQ(this->notified, 2);
     EXPECT_EQ(this->ask(), "https://example.org/");
 }
 
-TYPED_TEST(BrowserPageReadingTest, readsNothingThatNobodyAsksFor)
+TYPED_TEST(BrowserPageReadingContract, readsNothingThatNobodyAsksFor)
 {
     this->computer.show("https://example.com/");
     this->ask();
@@ -119,10 +119,10 @@ TYPED_TEST(BrowserPageReadingTest, readsNothingThatNobodyAsksFor)
     this->computer.pass(0.8);
     this->computer.settle();
 
-    EXPECT_EQ(this->told, 1);
+    EXPECT_EQ(this->notified, 1);
 }
 
-TYPED_TEST(BrowserPageReadingTest, forgetsThePageOfABrowserThatHasNone)
+TYPED_TEST(BrowserPageReadingContract, forgetsThePageOfABrowserThatHasNone)
 {
     this->computer.show("https://example.com/");
     this->ask();
@@ -133,21 +133,21 @@ TYPED_TEST(BrowserPageReadingTest, forgetsThePageOfABrowserThatHasNone)
     this->askLater();
     this->computer.settle();
 
-    EXPECT_EQ(this->told, 2);
+    EXPECT_EQ(this->notified, 2);
     EXPECT_EQ(this->ask(), std::nullopt);
 }
 
-TYPED_TEST(BrowserPageReadingTest, staysSilentAboutABrowserThatNeverHasAPage)
+TYPED_TEST(BrowserPageReadingContract, staysSilentAboutABrowserThatNeverHasAPage)
 {
     this->computer.show(std::nullopt);
     for (int poll = 0; poll < 3; ++poll)
         EXPECT_EQ(this->askLater(), std::nullopt);
     this->computer.settle();
 
-    EXPECT_EQ(this->told, 0);
+    EXPECT_EQ(this->notified, 0);
 }
 
-TYPED_TEST(BrowserPageReadingTest, mayBeAskedByWhoIsTold)
+TYPED_TEST(BrowserPageReadingContract, mayBeAskedByWhoIsNotified)
 {
     std::vector<std::optional<std::string>> heard;
     const auto asking
@@ -160,14 +160,14 @@ TYPED_TEST(BrowserPageReadingTest, mayBeAskedByWhoIsTold)
     EXPECT_EQ(heard, (std::vector<std::optional<std::string>>{"https://example.com/"}));
 }
 
-TYPED_TEST(BrowserPageReadingTest, tellsNobodyWhoHasEndedTheSubscription)
+TYPED_TEST(BrowserPageReadingContract, notifiesNobodyWhoHasEndedTheSubscription)
 {
     this->computer.show("https://example.com/");
     this->ask();
     this->observation.reset();
     this->computer.settle();
 
-    EXPECT_EQ(this->told, 0);
+    EXPECT_EQ(this->notified, 0);
     EXPECT_EQ(this->ask(), "https://example.com/");
 }
 

@@ -10,20 +10,20 @@ namespace brindlex {
 namespace {
 
 template <typename TestedClock>
-class ClockTest : public testing::Test {
+class ClockContract : public testing::Test {
 };
 
 using Clocks = testing::Types<SimulatedClock, PosixClock>;
-TYPED_TEST_SUITE(ClockTest, Clocks);
+TYPED_TEST_SUITE(ClockContract, Clocks);
 
-TYPED_TEST(ClockTest, tellsAPlausibleDate)
+TYPED_TEST(ClockContract, returnsAPlausibleDate)
 {
     const TypeParam clock;
     EXPECT_GT(clock.now(), dateFromISO8601("2025-01-01T00:00:00Z"));
     EXPECT_LT(clock.now(), dateFromISO8601("2200-01-01T00:00:00Z"));
 }
 
-TYPED_TEST(ClockTest, hasAContinuousTimeThatNeverGoesBack)
+TYPED_TEST(ClockContract, hasAContinuousTimeThatNeverGoesBack)
 {
     const TypeParam clock;
     auto last = clock.continuousTime();
@@ -34,7 +34,7 @@ TYPED_TEST(ClockTest, hasAContinuousTimeThatNeverGoesBack)
     }
 }
 
-TEST(PosixClock, tellsTheTimeOfTheSystem)
+TEST(PosixClock, returnsTheTimeOfTheSystem)
 {
     const auto before = std::time(nullptr);
     const auto now = PosixClock().now().unixTime();
@@ -54,7 +54,7 @@ TEST(PosixClock, movesOnBothClocks)
     EXPECT_NE(clock.now(), date);
 }
 
-TEST(SimulatedClock, movesWhenToldAndMayBeSetBack)
+TEST(SimulatedClock, movesWhenAdvancedAndMayBeSetBack)
 {
     SimulatedClock clock(Date{1'000});
     const auto begin = clock.continuousTime();

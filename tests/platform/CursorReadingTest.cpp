@@ -55,7 +55,7 @@ private:
 };
 
 template <typename Mouse>
-class CursorReadingPromise : public testing::Test {
+class CursorReadingContract : public testing::Test {
 protected:
     /// Whether what the user sees is the system's cursor of the name.
     bool shows(const std::string& name)
@@ -79,9 +79,9 @@ public:
         return std::is_same_v<Mouse, X11MouseCursor> ? "X11" : "Simulated";
     }
 };
-TYPED_TEST_SUITE(CursorReadingPromise, Mice, MouseNames);
+TYPED_TEST_SUITE(CursorReadingContract, Mice, MouseNames);
 
-TYPED_TEST(CursorReadingPromise, readsOneCursorTwiceAsTheSame)
+TYPED_TEST(CursorReadingContract, readsOneCursorTwiceAsTheSame)
 {
     const auto first = this->mouse.cursor().currentSystem();
     ASSERT_TRUE(first);
@@ -96,7 +96,7 @@ TYPED_TEST(CursorReadingPromise, readsOneCursorTwiceAsTheSame)
     EXPECT_EQ(this->mouse.cursor().currentSystem(), first);
 }
 
-TYPED_TEST(CursorReadingPromise, tellsTheResizingCursorsApartByTheirLooks)
+TYPED_TEST(CursorReadingContract, tellsTheResizingCursorsApartByTheirLooks)
 {
     EXPECT_FALSE(this->shows("resizeLeftRight"));
     EXPECT_FALSE(this->shows("resizeUpDown"));
@@ -110,13 +110,13 @@ TYPED_TEST(CursorReadingPromise, tellsTheResizingCursorsApartByTheirLooks)
     EXPECT_TRUE(this->shows("resizeUpDown"));
 }
 
-TYPED_TEST(CursorReadingPromise, hasNoLookOfANameThatNoCursorHas)
+TYPED_TEST(CursorReadingContract, hasNoLookOfANameThatNoCursorHas)
 {
     EXPECT_EQ(this->mouse.cursor().looks("arrowOfTime"), std::vector<CursorImage>());
     EXPECT_EQ(this->mouse.cursor().looks(""), std::vector<CursorImage>());
 }
 
-TYPED_TEST(CursorReadingPromise, tellsOfNoOwnCursorWhereTheProgramHasSetNone)
+TYPED_TEST(CursorReadingContract, reportsNoOwnCursorWhereTheProgramHasSetNone)
 {
     EXPECT_EQ(this->mouse.cursor().current(), std::nullopt);
 }

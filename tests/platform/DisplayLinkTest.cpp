@@ -39,7 +39,7 @@ private:
 };
 
 template <typename Display>
-class DisplayLinkPromise : public testing::Test {
+class DisplayLinkContract : public testing::Test {
 protected:
     Subscription note(std::vector<Seconds>& frames)
     {
@@ -58,9 +58,9 @@ public:
         return std::is_same_v<Display, X11Display> ? "X11" : "Simulated";
     }
 };
-TYPED_TEST_SUITE(DisplayLinkPromise, Displays, DisplayNames);
+TYPED_TEST_SUITE(DisplayLinkContract, Displays, DisplayNames);
 
-TYPED_TEST(DisplayLinkPromise, tellsHowManyFramesTheScreenCanShow)
+TYPED_TEST(DisplayLinkContract, reportsHowManyFramesTheScreenCanShow)
 {
     const auto rate = this->display.link().maximumFramesPerSecond();
 
@@ -69,7 +69,7 @@ TYPED_TEST(DisplayLinkPromise, tellsHowManyFramesTheScreenCanShow)
     EXPECT_LE(*rate, 1000);
 }
 
-TYPED_TEST(DisplayLinkPromise, callsForEachFrameWithATimeThatGrows)
+TYPED_TEST(DisplayLinkContract, callsForEachFrameWithATimeThatGrows)
 {
     std::vector<Seconds> frames;
     const auto subscription = this->note(frames);
@@ -83,7 +83,7 @@ TYPED_TEST(DisplayLinkPromise, callsForEachFrameWithATimeThatGrows)
     EXPECT_LT(frames[1], frames[2]);
 }
 
-TYPED_TEST(DisplayLinkPromise, callsAllWhoWantFrames)
+TYPED_TEST(DisplayLinkContract, callsAllWhoWantFrames)
 {
     std::vector<Seconds> first;
     std::vector<Seconds> second;
@@ -97,7 +97,7 @@ TYPED_TEST(DisplayLinkPromise, callsAllWhoWantFrames)
     EXPECT_EQ(second.size(), 1U);
 }
 
-TYPED_TEST(DisplayLinkPromise, mayBeEndedFromInsideTheHandler)
+TYPED_TEST(DisplayLinkContract, mayBeEndedFromInsideTheHandler)
 {
     int frames = 0;
     Subscription subscription;
@@ -112,7 +112,7 @@ TYPED_TEST(DisplayLinkPromise, mayBeEndedFromInsideTheHandler)
     EXPECT_EQ(frames, 1);
 }
 
-TYPED_TEST(DisplayLinkPromise, mayBeBegunFromInsideTheHandler)
+TYPED_TEST(DisplayLinkContract, mayBeBegunFromInsideTheHandler)
 {
     std::vector<Seconds> frames;
     Subscription second;
@@ -127,7 +127,7 @@ TYPED_TEST(DisplayLinkPromise, mayBeBegunFromInsideTheHandler)
     EXPECT_GE(frames.size(), 1U);
 }
 
-TYPED_TEST(DisplayLinkPromise, tellsNoRateWithoutAScreen)
+TYPED_TEST(DisplayLinkContract, reportsNoRateWithoutAScreen)
 {
     this->display.unplug();
 

@@ -28,7 +28,7 @@ struct BusProcesses {
 };
 
 template <typename Processes>
-class DistributedNotificationsPromises : public testing::Test {
+class DistributedNotificationsContract : public testing::Test {
 protected:
     DistributedNotifications& one() { return processes.one; }
     DistributedNotifications& other() { return processes.other; }
@@ -50,23 +50,23 @@ protected:
 };
 
 using AllProcesses = testing::Types<SimulatedProcesses, BusProcesses>;
-TYPED_TEST_SUITE(DistributedNotificationsPromises, AllProcesses);
+TYPED_TEST_SUITE(DistributedNotificationsContract, AllProcesses);
 
 const std::string showMainWindow = "com.brindlex.Brindlex.showMainWindow";
 const std::string program = "com.brindlex.Brindlex";
 
-TYPED_TEST(DistributedNotificationsPromises, reachOtherProcesses)
+TYPED_TEST(DistributedNotificationsContract, reachOtherProcesses)
 {
     int heard = 0;
     const auto subscription = this->one().observe(showMainWindow, program, [&] { ++heard; });
     this->other().post(showMainWindow, program);
-    EXPECT_EQ(heard, 0) << "Told inside the call.";
+    EXPECT_EQ(heard, 0) << "Notified inside the call.";
     EXPECT_TRUE(this->runUntil([&] { return heard == 1; }));
     this->settle();
     EXPECT_EQ(heard, 1);
 }
 
-TYPED_TEST(DistributedNotificationsPromises, reachTheProcessThatPosts)
+TYPED_TEST(DistributedNotificationsContract, reachTheProcessThatPosts)
 {
     int heard = 0;
     const auto subscription = this->one().observe(showMainWindow, program, [&] { ++heard; });
@@ -75,7 +75,7 @@ TYPED_TEST(DistributedNotificationsPromises, reachTheProcessThatPosts)
     EXPECT_TRUE(this->runUntil([&] { return heard == 1; }));
 }
 
-TYPED_TEST(DistributedNotificationsPromises, reachOnlyWhoAskedForTheNameAndTheObject)
+TYPED_TEST(DistributedNotificationsContract, reachOnlyWhoAskedForTheNameAndTheObject)
 {
     int heard = 0;
     const auto subscription = this->one().observe(showMainWindow, program, [&] { ++heard; });
@@ -87,7 +87,7 @@ TYPED_TEST(DistributedNotificationsPromises, reachOnlyWhoAskedForTheNameAndTheOb
     EXPECT_EQ(heard, 0);
 }
 
-TYPED_TEST(DistributedNotificationsPromises, reachEveryObserverInTheOrderOfPosting)
+TYPED_TEST(DistributedNotificationsContract, reachEveryObserverInTheOrderOfPosting)
 {
     std::vector<std::string> heard;
     const auto first = this->one().observe("a", program, [&] { heard.push_back("a"); });
@@ -100,7 +100,7 @@ TYPED_TEST(DistributedNotificationsPromises, reachEveryObserverInTheOrderOfPosti
     EXPECT_EQ(heard, (std::vector<std::string>{"a", "b", "b", "a"}));
 }
 
-TYPED_TEST(DistributedNotificationsPromises, doNotReachWhoHasLeft)
+TYPED_TEST(DistributedNotificationsContract, doNotReachWhoHasLeft)
 {
     int heard = 0;
     auto subscription = this->one().observe(showMainWindow, program, [&] { ++heard; });
@@ -112,7 +112,7 @@ TYPED_TEST(DistributedNotificationsPromises, doNotReachWhoHasLeft)
     EXPECT_EQ(heard, 0);
 }
 
-TYPED_TEST(DistributedNotificationsPromises, letAnObserverLeaveFromInsideItsHandler)
+TYPED_TEST(DistributedNotificationsContract, letAnObserverLeaveFromInsideItsHandler)
 {
     int heard = 0;
     Subscription subscription;
@@ -126,7 +126,7 @@ TYPED_TEST(DistributedNotificationsPromises, letAnObserverLeaveFromInsideItsHand
     EXPECT_EQ(heard, 1);
 }
 
-TYPED_TEST(DistributedNotificationsPromises, takeAnyText)
+TYPED_TEST(DistributedNotificationsContract, takeAnyText)
 {
     const std::vector<std::string> texts{
         "", " ", "a b=,;", "it's", "a\\", "tab\tnew\n", "é", "键盘 🎹", "%1"};
@@ -147,7 +147,7 @@ TYPED_TEST(DistributedNotificationsPromises, takeAnyText)
     }
 }
 
-TYPED_TEST(DistributedNotificationsPromises, surviveBytesThatAreNotText)
+TYPED_TEST(DistributedNotificationsContract, surviveBytesThatAreNotText)
 {
     int heard = 0;
     const auto strange = this->one().observe("\xFF\xFE", std::string("a\0b", 3), [&] { ++heard; });

@@ -55,7 +55,7 @@ TEST(DockSwipe, hasTheSameDirectionFieldToBothSides)
 
 using Direction = DockSwipeReader::Direction;
 
-TEST(DockSwipeReader, tellsTheDirectionOncePerSwipe)
+TEST(DockSwipeReader, returnsTheDirectionOncePerSwipe)
 {
     DockSwipeReader reader;
     for (const auto& [sign, direction] :
@@ -69,7 +69,7 @@ TEST(DockSwipeReader, tellsTheDirectionOncePerSwipe)
     }
 }
 
-TEST(DockSwipeReader, tellsAtTheEndWhenNoFrameCameBetween)
+TEST(DockSwipeReader, returnsItAtTheEndWhenNoFrameCameBetween)
 {
     DockSwipeReader reader;
     reader.read(dockSwipeEvent(DockSwipePhase::began, 0));

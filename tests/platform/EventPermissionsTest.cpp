@@ -48,25 +48,26 @@ private:
 };
 
 template <typename User>
-class EventPermissionsTest : public testing::Test {
+class EventPermissionsContract : public testing::Test {
 protected:
     EventPermissionState ask() { return EventPermissionState::ask(user.permissions()); }
 
     User user;
-    int told = 0;
-    Subscription observation = user.permissions().observeAccessibilityChanges([this] { ++told; });
+    int notified = 0;
+    Subscription observation
+        = user.permissions().observeAccessibilityChanges([this] { ++notified; });
 };
 
 using Users = testing::Types<SimulatedUser, UserOfX11>;
-TYPED_TEST_SUITE(EventPermissionsTest, Users);
+TYPED_TEST_SUITE(EventPermissionsContract, Users);
 
-TYPED_TEST(EventPermissionsTest, areGrantedUnlessTheUserForbids)
+TYPED_TEST(EventPermissionsContract, areGrantedUnlessTheUserForbids)
 {
     EXPECT_EQ(this->ask(), (EventPermissionState{true, true}));
-    EXPECT_EQ(this->told, 0);
+    EXPECT_EQ(this->notified, 0);
 }
 
-TYPED_TEST(EventPermissionsTest, areAskedForAnewEachTime)
+TYPED_TEST(EventPermissionsContract, areAskedForAnewEachTime)
 {
     this->user.allowAccessibility(false);
     EXPECT_EQ(this->ask(), (EventPermissionState{false, true}));
@@ -77,20 +78,20 @@ TYPED_TEST(EventPermissionsTest, areAskedForAnewEachTime)
     EXPECT_EQ(this->ask(), (EventPermissionState{true, true}));
 }
 
-TYPED_TEST(EventPermissionsTest, tellOfAChange)
+TYPED_TEST(EventPermissionsContract, tellOfAChange)
 {
     this->user.allowAccessibility(false);
-    EXPECT_EQ(this->told, 1);
+    EXPECT_EQ(this->notified, 1);
     this->user.allowAccessibility(true);
-    EXPECT_EQ(this->told, 2);
+    EXPECT_EQ(this->notified, 2);
 }
 
-TYPED_TEST(EventPermissionsTest, tellNobodyWhoHasEndedTheSubscription)
+TYPED_TEST(EventPermissionsContract, tellNobodyWhoHasEndedTheSubscription)
 {
     this->observation.reset();
     this->user.allowAccessibility(false);
 
-    EXPECT_EQ(this->told, 0);
+    EXPECT_EQ(this->notified, 0);
 }
 
 } // namespace

@@ -12,7 +12,7 @@ constexpr EventMask otherButtons = mouseButtonMaskOf(2);
 constexpr std::int64_t tag = 0x4D4F534547535452;
 
 template <typename Session>
-class EventPostingPromise : public testing::Test {
+class EventPostingContract : public testing::Test {
 protected:
     void click(std::int64_t number)
     {
@@ -41,9 +41,9 @@ protected:
     std::unique_ptr<EventTap> tap_;
 };
 
-TYPED_TEST_SUITE(EventPostingPromise, TappedSessions);
+TYPED_TEST_SUITE(EventPostingContract, TappedSessions);
 
-TYPED_TEST(EventPostingPromise, bringsEventsToTheApplicationsInTheOrderOfPosting)
+TYPED_TEST(EventPostingContract, bringsEventsToTheApplicationsInTheOrderOfPosting)
 {
     this->click(2);
     this->stroke();
@@ -53,7 +53,7 @@ TYPED_TEST(EventPostingPromise, bringsEventsToTheApplicationsInTheOrderOfPosting
         {"press 2", "release 2", "key 38 down", "key 38 up", "press 8", "release 8"}));
 }
 
-TYPED_TEST(EventPostingPromise, showsEventsToTheOwnTapWhichMaySwallowThem)
+TYPED_TEST(EventPostingContract, showsEventsToTheOwnTapWhichMaySwallowThem)
 {
     std::vector<std::pair<std::int64_t, std::int64_t>> seen;
     this->tap({}, [&](const Event& event) {
@@ -72,7 +72,7 @@ TYPED_TEST(EventPostingPromise, showsEventsToTheOwnTapWhichMaySwallowThem)
             {2, tag}, {2, tag}, {3, tag}, {3, tag}}));
 }
 
-TYPED_TEST(EventPostingPromise, letsTheEventGoFirstFromWhoseHandlerItIsCalled)
+TYPED_TEST(EventPostingContract, letsTheEventGoFirstFromWhoseHandlerItIsCalled)
 {
     this->tap({.buttons = {{2, {}}}}, [&](const Event& event) {
         if (event.type == EventType::otherMouseDown)
@@ -86,7 +86,7 @@ TYPED_TEST(EventPostingPromise, letsTheEventGoFirstFromWhoseHandlerItIsCalled)
     EXPECT_TRUE(this->session_.receives({"press 2", "key 38 down", "key 38 up", "release 2"}));
 }
 
-TYPED_TEST(EventPostingPromise, isOfUseToATapThatSwallowsTheCause)
+TYPED_TEST(EventPostingContract, isOfUseToATapThatSwallowsTheCause)
 {
     this->tap({.buttons = {{2, {}}}}, [&](const Event& event) {
         if (event.type == EventType::otherMouseDown)

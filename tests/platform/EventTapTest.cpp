@@ -5,7 +5,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-TYPED_TEST(EventTappingPromise, losesNothingWhenATapTakesThePlaceOfAnother)
+TYPED_TEST(EventTappingContract, losesNothingWhenATapTakesThePlaceOfAnother)
 {
     this->tap({this->button(2)}, EventVerdict::swallow);
     this->session_.press(2);
@@ -21,7 +21,7 @@ TYPED_TEST(EventTappingPromise, losesNothingWhenATapTakesThePlaceOfAnother)
     EXPECT_EQ(this->seen_, (Lines{"25 2", "26 2", "25 3", "26 3"}));
 }
 
-TYPED_TEST(EventTappingPromise, takesOtherInterestsInItsStride)
+TYPED_TEST(EventTappingContract, takesOtherInterestsInItsStride)
 {
     this->tap({this->button(2)}, EventVerdict::swallow);
 
@@ -36,7 +36,7 @@ TYPED_TEST(EventTappingPromise, takesOtherInterestsInItsStride)
     EXPECT_EQ(this->seen_, (Lines{"25 3", "26 3"}));
 }
 
-TYPED_TEST(EventTappingPromise, letsAllPassWhileSwitchedOffAndWhenGone)
+TYPED_TEST(EventTappingContract, letsAllPassWhileSwitchedOffAndWhenGone)
 {
     this->tap({this->button(2)}, EventVerdict::swallow);
 
@@ -57,7 +57,7 @@ TYPED_TEST(EventTappingPromise, letsAllPassWhileSwitchedOffAndWhenGone)
     EXPECT_EQ(this->seen_, (Lines{"25 2", "26 2"}));
 }
 
-TYPED_TEST(EventTappingPromise, mayBeDestroyedInItsHandlerWhoseVerdictCounts)
+TYPED_TEST(EventTappingContract, mayBeDestroyedInItsHandlerWhoseVerdictCounts)
 {
     this->verdictOf_ = [this](const Event&) {
         this->tap_.reset();
@@ -74,7 +74,7 @@ TYPED_TEST(EventTappingPromise, mayBeDestroyedInItsHandlerWhoseVerdictCounts)
     EXPECT_EQ(this->seen_, Lines{"25 2"});
 }
 
-TYPED_TEST(EventTappingPromise, saysThatTheSystemHasSwitchedItOffAndGoesOnWhenSwitchedOn)
+TYPED_TEST(EventTappingContract, saysThatTheSystemHasSwitchedItOffAndGoesOnWhenSwitchedOn)
 {
     this->verdictOf_ = [this](const Event& event) {
         if (event.type == EventType::tapDisabledByTimeout)

@@ -16,7 +16,7 @@ namespace brindlex {
 
 /// A session whose input one tap sees.
 template <typename Session>
-class EventTappingPromise : public testing::Test {
+class EventTappingContract : public testing::Test {
 protected:
     /// A tap that is switched on, and that notes what it sees as `type number`.
     void tap(std::vector<EventInterest> interests, EventVerdict verdict = EventVerdict::pass)
@@ -65,6 +65,6 @@ protected:
     std::unique_ptr<EventTap> tap_;
 };
 
-TYPED_TEST_SUITE(EventTappingPromise, TappedSessions);
+TYPED_TEST_SUITE(EventTappingContract, TappedSessions);
 
 } // namespace brindlex

@@ -8,7 +8,7 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-TYPED_TEST(EventTappingPromise, handsOnOnceAndInOrderWhatPasses)
+TYPED_TEST(EventTappingContract, handsOnOnceAndInOrderWhatPasses)
 {
     this->tap({{this->otherButtons | eventMask(EventType::scrollWheel), {}}});
 
@@ -23,14 +23,14 @@ TYPED_TEST(EventTappingPromise, handsOnOnceAndInOrderWhatPasses)
     EXPECT_EQ(this->seen_, (Lines{"25 2", "22 0", "26 2", "25 3", "26 3"}));
 }
 
-TYPED_TEST(EventTappingPromise, keepsWhatIsSwallowedFromTheApplications)
+TYPED_TEST(EventTappingContract, keepsWhatIsSwallowedFromTheApplications)
 {
     this->tap({this->button(3)}, EventVerdict::swallow);
 
     this->expectThatTheThirdButtonIsKept();
 }
 
-TYPED_TEST(EventTappingPromise, keepsAlsoWhatIsSwallowedLate)
+TYPED_TEST(EventTappingContract, keepsAlsoWhatIsSwallowedLate)
 {
     this->verdictOf_ = [](const Event&) {
         std::this_thread::sleep_for(std::chrono::milliseconds{200});
@@ -41,7 +41,7 @@ TYPED_TEST(EventTappingPromise, keepsAlsoWhatIsSwallowedLate)
     this->expectThatTheThirdButtonIsKept();
 }
 
-TYPED_TEST(EventTappingPromise, leavesAloneWhatIsNoTrigger)
+TYPED_TEST(EventTappingContract, leavesAloneWhatIsNoTrigger)
 {
     this->tap(
         {this->button(2), this->key(virtualKey::a, eventFlag::control)}, EventVerdict::swallow);
@@ -57,7 +57,7 @@ TYPED_TEST(EventTappingPromise, leavesAloneWhatIsNoTrigger)
     EXPECT_EQ(this->seen_, Lines{});
 }
 
-TYPED_TEST(EventTappingPromise, swallowsAKeyWithExactlyItsModifiers)
+TYPED_TEST(EventTappingContract, swallowsAKeyWithExactlyItsModifiers)
 {
     this->tap({this->key(virtualKey::a, eventFlag::control)}, EventVerdict::swallow);
 
@@ -75,7 +75,7 @@ TYPED_TEST(EventTappingPromise, swallowsAKeyWithExactlyItsModifiers)
     EXPECT_EQ(this->seen_, (Lines{"10 0", "11 0"}));
 }
 
-TYPED_TEST(EventTappingPromise, swallowsAButtonOnlyWithItsModifiers)
+TYPED_TEST(EventTappingContract, swallowsAButtonOnlyWithItsModifiers)
 {
     this->tap({this->button(0, eventFlag::control)}, EventVerdict::swallow);
 
@@ -91,7 +91,7 @@ TYPED_TEST(EventTappingPromise, swallowsAButtonOnlyWithItsModifiers)
     EXPECT_EQ(this->seen_, (Lines{"1 0", "2 0"}));
 }
 
-TYPED_TEST(EventTappingPromise, sendsAReleaseWhereItsPressWent)
+TYPED_TEST(EventTappingContract, sendsAReleaseWhereItsPressWent)
 {
     this->verdictOf_ = [](const Event& event) {
         const bool isBack = event.value(EventField::mouseEventButtonNumber) == 3;
@@ -107,7 +107,7 @@ TYPED_TEST(EventTappingPromise, sendsAReleaseWhereItsPressWent)
     EXPECT_TRUE(this->session_.receives({"press 9", "release 9"}));
 }
 
-TYPED_TEST(EventTappingPromise, seesTheWholeOfADeviceFromATriggerToItsLastRelease)
+TYPED_TEST(EventTappingContract, seesTheWholeOfADeviceFromATriggerToItsLastRelease)
 {
     this->verdictOf_ = [](const Event& event) {
         return event.value(EventField::mouseEventButtonNumber) == 3 ? EventVerdict::swallow
@@ -126,7 +126,7 @@ TYPED_TEST(EventTappingPromise, seesTheWholeOfADeviceFromATriggerToItsLastReleas
     EXPECT_EQ(this->seen_, (Lines{"25 3", "1 0", "26 3", "2 0"}));
 }
 
-TYPED_TEST(EventTappingPromise, tellsTwoMiceApart)
+TYPED_TEST(EventTappingContract, tellsTwoMiceApart)
 {
     this->tap({this->button(3)}, EventVerdict::swallow);
 

@@ -129,11 +129,11 @@ private:
 };
 
 template <typename Desk>
-class KeyboardInputSourcesPromise : public testing::Test {
+class KeyboardInputSourcesContract : public testing::Test {
 protected:
-    KeyboardInputSourcesPromise()
+    KeyboardInputSourcesContract()
     {
-        // Everybody begins with the first source, after all that led there was told.
+        // Everybody begins with the first source, after the notifications of all that led there.
         std::optional<std::string> seen;
         const auto subscription = sources().observeSelectionChanges([&] { seen = currentID(); });
         for (const auto& id : {ids()[1], ids()[0]}) {
@@ -180,9 +180,9 @@ struct DeskNames {
         return Desk::name;
     }
 };
-TYPED_TEST_SUITE(KeyboardInputSourcesPromise, Desks, DeskNames);
+TYPED_TEST_SUITE(KeyboardInputSourcesContract, Desks, DeskNames);
 
-TYPED_TEST(KeyboardInputSourcesPromise, listsTheSourcesInTheOrderOfTheSystem)
+TYPED_TEST(KeyboardInputSourcesContract, listsTheSourcesInTheOrderOfTheSystem)
 {
     const auto all = this->sources().list({});
     ASSERT_TRUE(all);
@@ -198,7 +198,7 @@ TYPED_TEST(KeyboardInputSourcesPromise, listsTheSourcesInTheOrderOfTheSystem)
     EXPECT_EQ(listed, this->ids());
 }
 
-TYPED_TEST(KeyboardInputSourcesPromise, listsOnlyWhatHasTheGivenProperties)
+TYPED_TEST(KeyboardInputSourcesContract, listsOnlyWhatHasTheGivenProperties)
 {
     const auto one = this->sources().list({.id = this->ids()[1],
         .category = std::string(keyboardInputSourceCategory),
@@ -213,7 +213,7 @@ TYPED_TEST(KeyboardInputSourcesPromise, listsOnlyWhatHasTheGivenProperties)
     EXPECT_EQ(this->sources().list({.isEnabled = false}), std::vector<InputSourceProperties>());
 }
 
-TYPED_TEST(KeyboardInputSourcesPromise, answersTheSelectedSourceAtOnce)
+TYPED_TEST(KeyboardInputSourcesContract, returnsTheSelectedSourceAtOnce)
 {
     for (const auto& id : {this->ids()[2], this->ids()[1], this->ids()[0]}) {
         ASSERT_EQ(this->sources().select(this->source(id)), 0) << id;
@@ -221,47 +221,47 @@ TYPED_TEST(KeyboardInputSourcesPromise, answersTheSelectedSourceAtOnce)
     }
 }
 
-TYPED_TEST(KeyboardInputSourcesPromise, tellsOfASelectionOnceAndNotFromInsideIt)
+TYPED_TEST(KeyboardInputSourcesContract, notifiesOfASelectionOnceAndNotFromInsideIt)
 {
-    int told = 0;
+    int notified = 0;
     std::optional<std::string> seen;
     const auto subscription = this->sources().observeSelectionChanges([&] {
-        ++told;
+        ++notified;
         seen = this->currentID();
     });
     for (int round = 1; round <= 4; ++round) {
         const auto id = this->ids()[round % 2 == 0 ? 0 : 2];
         ASSERT_EQ(this->sources().select(this->source(id)), 0);
-        EXPECT_EQ(told, round - 1);
-        EXPECT_TRUE(this->until([&] { return told == round; }));
+        EXPECT_EQ(notified, round - 1);
+        EXPECT_TRUE(this->until([&] { return notified == round; }));
         EXPECT_EQ(seen, id);
     }
-    EXPECT_TRUE(this->throughout(400ms, [&] { return told == 4; })) << told;
+    EXPECT_TRUE(this->throughout(400ms, [&] { return notified == 4; })) << notified;
 }
 
-TYPED_TEST(KeyboardInputSourcesPromise, tellsOnceOfWhatTheUserSelects)
+TYPED_TEST(KeyboardInputSourcesContract, notifiesOnceOfWhatTheUserSelects)
 {
-    int told = 0;
-    const auto subscription = this->sources().observeSelectionChanges([&] { ++told; });
+    int notified = 0;
+    const auto subscription = this->sources().observeSelectionChanges([&] { ++notified; });
     this->desk.userSelects(this->ids()[2]);
-    EXPECT_TRUE(this->until([&] { return told == 1; }));
+    EXPECT_TRUE(this->until([&] { return notified == 1; }));
     EXPECT_EQ(this->currentID(), this->ids()[2]);
     this->desk.userSelects(this->ids()[1]);
-    EXPECT_TRUE(this->until([&] { return told == 2; }));
+    EXPECT_TRUE(this->until([&] { return notified == 2; }));
     EXPECT_EQ(this->currentID(), this->ids()[1]);
-    EXPECT_TRUE(this->throughout(400ms, [&] { return told == 2; })) << told;
+    EXPECT_TRUE(this->throughout(400ms, [&] { return notified == 2; })) << notified;
 }
 
-TYPED_TEST(KeyboardInputSourcesPromise, tellsNothingWhenTheSelectedSourceIsSelected)
+TYPED_TEST(KeyboardInputSourcesContract, doesNotNotifyWhenTheSelectedSourceIsSelected)
 {
-    int told = 0;
-    const auto subscription = this->sources().observeSelectionChanges([&] { ++told; });
+    int notified = 0;
+    const auto subscription = this->sources().observeSelectionChanges([&] { ++notified; });
     EXPECT_EQ(this->sources().select(this->source(this->ids()[0])), 0);
-    EXPECT_TRUE(this->throughout(300ms, [&] { return told == 0; }));
+    EXPECT_TRUE(this->throughout(300ms, [&] { return notified == 0; }));
     EXPECT_EQ(this->currentID(), this->ids()[0]);
 }
 
-TYPED_TEST(KeyboardInputSourcesPromise, refusesASourceThatItDoesNotHave)
+TYPED_TEST(KeyboardInputSourcesContract, refusesASourceThatItDoesNotHave)
 {
     auto unknown = this->source(this->ids()[0]);
     unknown.id = "no such source";
@@ -269,14 +269,14 @@ TYPED_TEST(KeyboardInputSourcesPromise, refusesASourceThatItDoesNotHave)
     EXPECT_EQ(this->currentID(), this->ids()[0]);
 }
 
-TYPED_TEST(KeyboardInputSourcesPromise, tellsNobodyWhoHasGone)
+TYPED_TEST(KeyboardInputSourcesContract, notifiesNobodyWhoHasGone)
 {
-    int told = 0;
-    auto subscription = this->sources().observeSelectionChanges([&] { ++told; });
+    int notified = 0;
+    auto subscription = this->sources().observeSelectionChanges([&] { ++notified; });
     subscription.reset();
     this->desk.userSelects(this->ids()[1]);
     EXPECT_TRUE(this->until([&] { return this->currentID() == this->ids()[1]; }));
-    EXPECT_TRUE(this->throughout(100ms, [&] { return told == 0; }));
+    EXPECT_TRUE(this->throughout(100ms, [&] { return notified == 0; }));
 }
 
 } // namespace

@@ -13,7 +13,7 @@ namespace brindlex {
 namespace {
 
 template <typename Loop>
-class MainThreadPromises : public testing::Test {
+class MainThreadContract : public testing::Test {
 protected:
     MainThread& mainThread() { return loop.mainThread(); }
     MainThread::Work note(const std::string& word)
@@ -31,11 +31,11 @@ protected:
 };
 
 using Loops = testing::Types<SimulatedLoop, QtLoop>;
-TYPED_TEST_SUITE(MainThreadPromises, Loops);
+TYPED_TEST_SUITE(MainThreadContract, Loops);
 
 using Words = std::vector<std::string>;
 
-TYPED_TEST(MainThreadPromises, runsPostedWorkInOrderAndNeverInsideTheCall)
+TYPED_TEST(MainThreadContract, runsPostedWorkInOrderAndNeverInsideTheCall)
 {
     this->mainThread().post([&] {
         this->mainThread().post(this->note("third"));
@@ -48,7 +48,7 @@ TYPED_TEST(MainThreadPromises, runsPostedWorkInOrderAndNeverInsideTheCall)
     EXPECT_EQ(this->noted, (Words{"first", "second", "third"}));
 }
 
-TYPED_TEST(MainThreadPromises, takesPostsFromOtherThreadsInTheirOrder)
+TYPED_TEST(MainThreadContract, takesPostsFromOtherThreadsInTheirOrder)
 {
     constexpr int posts = 500;
     std::vector<int> numbers;
@@ -62,7 +62,7 @@ TYPED_TEST(MainThreadPromises, takesPostsFromOtherThreadsInTheirOrder)
         EXPECT_EQ(numbers[static_cast<std::size_t>(number)], number);
 }
 
-TYPED_TEST(MainThreadPromises, runsDelayedWorkOnceAndNotBeforeItsTime)
+TYPED_TEST(MainThreadContract, runsDelayedWorkOnceAndNotBeforeItsTime)
 {
     const auto start = this->now();
     Seconds ran = 0;
@@ -77,7 +77,7 @@ TYPED_TEST(MainThreadPromises, runsDelayedWorkOnceAndNotBeforeItsTime)
     EXPECT_EQ(times, 1);
 }
 
-TYPED_TEST(MainThreadPromises, runsWorkInTheOrderOfItsTimeThenOfItsCreation)
+TYPED_TEST(MainThreadContract, runsWorkInTheOrderOfItsTimeThenOfItsCreation)
 {
     const auto last = this->mainThread().after(0.03, this->note("last"));
     const auto first = this->mainThread().after(0.01, this->note("first"));
@@ -86,7 +86,7 @@ TYPED_TEST(MainThreadPromises, runsWorkInTheOrderOfItsTimeThenOfItsCreation)
     EXPECT_EQ(this->noted, (Words{"first", "second", "last"}));
 }
 
-TYPED_TEST(MainThreadPromises, takesANegativeDelayForNone)
+TYPED_TEST(MainThreadContract, takesANegativeDelayForNone)
 {
     const auto negative = this->mainThread().after(-5, this->note("negative"));
     const auto none = this->mainThread().after(0, this->note("none"));
@@ -95,7 +95,7 @@ TYPED_TEST(MainThreadPromises, takesANegativeDelayForNone)
     EXPECT_EQ(this->noted, (Words{"negative", "none"}));
 }
 
-TYPED_TEST(MainThreadPromises, doesNotRunCancelledWork)
+TYPED_TEST(MainThreadContract, doesNotRunCancelledWork)
 {
     auto cancelled = this->mainThread().after(0.005, this->note("cancelled"));
     const auto kept = this->mainThread().after(0.01, this->note("kept"));
@@ -105,7 +105,7 @@ TYPED_TEST(MainThreadPromises, doesNotRunCancelledWork)
     EXPECT_EQ(this->noted, Words{"kept"});
 }
 
-TYPED_TEST(MainThreadPromises, cancelsFromInsideOtherWorkThatIsDueAtTheSameTime)
+TYPED_TEST(MainThreadContract, cancelsFromInsideOtherWorkThatIsDueAtTheSameTime)
 {
     Subscription second;
     const auto first = this->mainThread().after(0.005, [&] {
@@ -119,7 +119,7 @@ TYPED_TEST(MainThreadPromises, cancelsFromInsideOtherWorkThatIsDueAtTheSameTime)
     EXPECT_EQ(this->noted, Words{"first"});
 }
 
-TYPED_TEST(MainThreadPromises, repeatsUntilItIsCancelledFromInside)
+TYPED_TEST(MainThreadContract, repeatsUntilItIsCancelledFromInside)
 {
     Subscription repeated;
     const auto start = this->now();
@@ -136,7 +136,7 @@ TYPED_TEST(MainThreadPromises, repeatsUntilItIsCancelledFromInside)
     EXPECT_GE(times[2], 0.015);
 }
 
-TYPED_TEST(MainThreadPromises, runsRepeatedWorkOnceForAllTheIntervalsItMissed)
+TYPED_TEST(MainThreadContract, runsRepeatedWorkOnceForAllTheIntervalsItMissed)
 {
     const auto repeated = this->mainThread().every(0.05, this->note("tick"));
     this->loop.hold(0.22);
@@ -146,7 +146,7 @@ TYPED_TEST(MainThreadPromises, runsRepeatedWorkOnceForAllTheIntervalsItMissed)
     EXPECT_EQ(this->noted.size(), 2U);
 }
 
-TYPED_TEST(MainThreadPromises, letsASubscriptionThatHasRunOutGoWithoutHarm)
+TYPED_TEST(MainThreadContract, letsASubscriptionThatHasRunOutGoWithoutHarm)
 {
     auto ranOut = this->mainThread().after(0, this->note("one"));
     ASSERT_TRUE(this->runUntilNoted(1));
@@ -156,7 +156,7 @@ TYPED_TEST(MainThreadPromises, letsASubscriptionThatHasRunOutGoWithoutHarm)
     EXPECT_EQ(this->noted, (Words{"one", "two"}));
 }
 
-TYPED_TEST(MainThreadPromises, runsWorkThatIsAddedFromInsideWork)
+TYPED_TEST(MainThreadContract, runsWorkThatIsAddedFromInsideWork)
 {
     Subscription inner;
     const auto outer = this->mainThread().after(

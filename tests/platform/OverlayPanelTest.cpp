@@ -48,7 +48,7 @@ private:
 };
 
 template <typename Screen>
-class OverlayPanelTest : public testing::Test {
+class OverlayPanelContract : public testing::Test {
 protected:
     bool comes()
     {
@@ -63,23 +63,23 @@ protected:
 };
 
 using Screens = testing::Types<SimulatedScreen, RealScreen>;
-TYPED_TEST_SUITE(OverlayPanelTest, Screens);
+TYPED_TEST_SUITE(OverlayPanelContract, Screens);
 
-TYPED_TEST(OverlayPanelTest, isNotOnTheScreenBeforeItIsShown)
+TYPED_TEST(OverlayPanelContract, isNotOnTheScreenBeforeItIsShown)
 {
     this->screen.settle();
 
     EXPECT_FALSE(this->screen.isShown());
 }
 
-TYPED_TEST(OverlayPanelTest, isOnTheScreenOnceItIsShown)
+TYPED_TEST(OverlayPanelContract, isOnTheScreenOnceItIsShown)
 {
     this->screen.panel().show("U.S.");
 
     EXPECT_TRUE(this->comes());
 }
 
-TYPED_TEST(OverlayPanelTest, staysUntilItIsToldToGo)
+TYPED_TEST(OverlayPanelContract, staysUntilItIsAskedToGo)
 {
     this->screen.panel().show("U.S.");
     ASSERT_TRUE(this->comes());
@@ -88,7 +88,7 @@ TYPED_TEST(OverlayPanelTest, staysUntilItIsToldToGo)
     EXPECT_TRUE(this->screen.isShown());
 }
 
-TYPED_TEST(OverlayPanelTest, isOffTheScreenOnceItHasFadedOut)
+TYPED_TEST(OverlayPanelContract, isOffTheScreenOnceItHasFadedOut)
 {
     this->screen.panel().show("U.S.");
     ASSERT_TRUE(this->comes());
@@ -97,7 +97,7 @@ TYPED_TEST(OverlayPanelTest, isOffTheScreenOnceItHasFadedOut)
     EXPECT_TRUE(this->goes());
 }
 
-TYPED_TEST(OverlayPanelTest, staysWhenItIsShownAgainWhileItFades)
+TYPED_TEST(OverlayPanelContract, staysWhenItIsShownAgainWhileItFades)
 {
     this->screen.panel().show("U.S.");
     ASSERT_TRUE(this->comes());
@@ -108,7 +108,7 @@ TYPED_TEST(OverlayPanelTest, staysWhenItIsShownAgainWhileItFades)
     EXPECT_TRUE(this->screen.isShown());
 }
 
-TYPED_TEST(OverlayPanelTest, comesBackAfterItHasGone)
+TYPED_TEST(OverlayPanelContract, comesBackAfterItHasGone)
 {
     this->screen.panel().show("U.S.");
     ASSERT_TRUE(this->comes());
@@ -119,7 +119,7 @@ TYPED_TEST(OverlayPanelTest, comesBackAfterItHasGone)
     EXPECT_TRUE(this->comes());
 }
 
-TYPED_TEST(OverlayPanelTest, hasNothingToFadeBeforeItWasShown)
+TYPED_TEST(OverlayPanelContract, hasNothingToFadeBeforeItWasShown)
 {
     this->screen.panel().fadeOut();
     this->screen.settle();
@@ -127,7 +127,7 @@ TYPED_TEST(OverlayPanelTest, hasNothingToFadeBeforeItWasShown)
     EXPECT_FALSE(this->screen.isShown());
 }
 
-TYPED_TEST(OverlayPanelTest, mayBeToldToGoTwice)
+TYPED_TEST(OverlayPanelContract, mayBeAskedToGoTwice)
 {
     this->screen.panel().show("U.S.");
     ASSERT_TRUE(this->comes());
@@ -137,7 +137,7 @@ TYPED_TEST(OverlayPanelTest, mayBeToldToGoTwice)
     EXPECT_TRUE(this->goes());
 }
 
-TYPED_TEST(OverlayPanelTest, takesAnyText)
+TYPED_TEST(OverlayPanelContract, takesAnyText)
 {
     for (const auto& text : {std::string(), std::string("\xff\xfe"), std::string("a\nb\r\nc"),
              std::string(100'000, 'x'), std::string("العربية 😀 中文"), std::string(3, '\0')}) {

@@ -63,7 +63,7 @@ private:
 };
 
 template <typename Computer>
-class ProcessLaunchingPromise : public testing::Test {
+class ProcessLaunchingContract : public testing::Test {
 protected:
     ProcessLaunching::Failed note()
     {
@@ -83,9 +83,9 @@ public:
         return std::is_same_v<Computer, PosixComputer> ? "Posix" : "Simulated";
     }
 };
-TYPED_TEST_SUITE(ProcessLaunchingPromise, Computers, ComputerNames);
+TYPED_TEST_SUITE(ProcessLaunchingContract, Computers, ComputerNames);
 
-TYPED_TEST(ProcessLaunchingPromise, startsAProgramWithItsArgumentsAsTheyAre)
+TYPED_TEST(ProcessLaunchingContract, startsAProgramWithItsArgumentsAsTheyAre)
 {
     this->computer.launching().launch(
         this->computer.program(), {"a b", "", "$HOME \"'`", "季度 ü"}, this->note());
@@ -96,7 +96,7 @@ TYPED_TEST(ProcessLaunchingPromise, startsAProgramWithItsArgumentsAsTheyAre)
     EXPECT_EQ(this->reasons, std::vector<std::string>());
 }
 
-TYPED_TEST(ProcessLaunchingPromise, startsEachOfSeveral)
+TYPED_TEST(ProcessLaunchingContract, startsEachOfSeveral)
 {
     for (const std::string argument : {"one", "two", "three"})
         this->computer.launching().launch(this->computer.program(), {argument}, this->note());
@@ -109,7 +109,7 @@ TYPED_TEST(ProcessLaunchingPromise, startsEachOfSeveral)
     })) << this->computer.arguments();
 }
 
-TYPED_TEST(ProcessLaunchingPromise, tellsWhyAProgramCannotBeStarted)
+TYPED_TEST(ProcessLaunchingContract, reportsWhyAProgramCannotBeStarted)
 {
     this->computer.launching().launch(this->computer.missingProgram(), {"one"}, this->note());
 

@@ -49,37 +49,37 @@ private:
 };
 
 template <typename Focus>
-class ProgramActivationTest : public testing::Test {
+class ProgramActivationContract : public testing::Test {
 protected:
     Focus focus;
-    int told = 0;
-    Subscription observation = focus.activation().observeDidBecomeActive([this] { ++told; });
+    int notified = 0;
+    Subscription observation = focus.activation().observeDidBecomeActive([this] { ++notified; });
 };
 
 using Focuses = testing::Types<SimulatedFocus, RealFocus>;
-TYPED_TEST_SUITE(ProgramActivationTest, Focuses);
+TYPED_TEST_SUITE(ProgramActivationContract, Focuses);
 
-TYPED_TEST(ProgramActivationTest, tellsEachTimeTheProgramBecomesActive)
+TYPED_TEST(ProgramActivationContract, notifiesEachTimeTheProgramBecomesActive)
 {
     EXPECT_FALSE(this->focus.activation().isActive());
 
     for (int time = 1; time <= 2; ++time) {
         this->focus.takeFocus();
-        EXPECT_TRUE(this->focus.until([&] { return this->told == time; }));
+        EXPECT_TRUE(this->focus.until([&] { return this->notified == time; }));
         EXPECT_TRUE(this->focus.activation().isActive());
         this->focus.loseFocus();
         EXPECT_TRUE(this->focus.until([&] { return !this->focus.activation().isActive(); }));
-        EXPECT_EQ(this->told, time);
+        EXPECT_EQ(this->notified, time);
     }
 }
 
-TYPED_TEST(ProgramActivationTest, tellsNobodyWhoHasEndedTheSubscription)
+TYPED_TEST(ProgramActivationContract, notifiesNobodyWhoHasEndedTheSubscription)
 {
     this->observation.reset();
     this->focus.takeFocus();
     EXPECT_TRUE(this->focus.until([&] { return this->focus.activation().isActive(); }));
 
-    EXPECT_EQ(this->told, 0);
+    EXPECT_EQ(this->notified, 0);
 }
 
 } // namespace

@@ -63,7 +63,7 @@ class BusPlace {
 public:
     Started start(const std::string& bundleID = program, const std::string& asked = program)
     {
-        return answerOf(begin(bundleID, asked));
+        return reportOf(begin(bundleID, asked));
     }
 
     std::vector<Started> startAtOnce(std::size_t count)
@@ -73,7 +73,7 @@ public:
             children.push_back(&begin(program, program));
         std::vector<Started> started;
         for (const auto child : children)
-            started.push_back(answerOf(*child));
+            started.push_back(reportOf(*child));
         return started;
     }
 
@@ -96,7 +96,7 @@ private:
         return *(children_[Process{child->id()}] = std::move(child));
     }
 
-    static Started answerOf(const ChildProcess& child)
+    static Started reportOf(const ChildProcess& child)
     {
         constexpr std::chrono::seconds deadline(60);
         EXPECT_TRUE(eventually([&] { return child.output().ends_with('\n'); }, deadline));
@@ -114,15 +114,15 @@ private:
 };
 
 template <typename Place>
-class ProgramInstancesPromises : public testing::Test {
+class ProgramInstancesContract : public testing::Test {
 protected:
     Place place;
 };
 
 using Places = testing::Types<SimulatedPlace, BusPlace>;
-TYPED_TEST_SUITE(ProgramInstancesPromises, Places);
+TYPED_TEST_SUITE(ProgramInstancesContract, Places);
 
-TYPED_TEST(ProgramInstancesPromises, tellAProcessOfThoseThatWereStartedBefore)
+TYPED_TEST(ProgramInstancesContract, listForAProcessThoseThatWereStartedBefore)
 {
     const auto first = this->place.start();
     EXPECT_EQ(first.running, Processes{first.process});
@@ -132,7 +132,7 @@ TYPED_TEST(ProgramInstancesPromises, tellAProcessOfThoseThatWereStartedBefore)
     EXPECT_EQ(third.running, (Processes{first.process, second.process, third.process}));
 }
 
-TYPED_TEST(ProgramInstancesPromises, forgetAProcessThatWasKilled)
+TYPED_TEST(ProgramInstancesContract, forgetAProcessThatWasKilled)
 {
     const auto first = this->place.start();
     const auto second = this->place.start();
@@ -145,7 +145,7 @@ TYPED_TEST(ProgramInstancesPromises, forgetAProcessThatWasKilled)
     EXPECT_EQ(fourth.running, Processes{fourth.process});
 }
 
-TYPED_TEST(ProgramInstancesPromises, putProcessesThatStartAtTheSameMomentIntoOneOrder)
+TYPED_TEST(ProgramInstancesContract, putProcessesThatStartAtTheSameMomentIntoOneOrder)
 {
     auto started = this->place.startAtOnce(5);
     std::sort(started.begin(), started.end(), [](const Started& one, const Started& other) {
@@ -158,7 +158,7 @@ TYPED_TEST(ProgramInstancesPromises, putProcessesThatStartAtTheSameMomentIntoOne
     }
 }
 
-TYPED_TEST(ProgramInstancesPromises, keepProgramsApart)
+TYPED_TEST(ProgramInstancesContract, keepProgramsApart)
 {
     const auto another = this->place.start("org.example.Another", "org.example.Another");
     EXPECT_EQ(another.running, Processes{another.process});

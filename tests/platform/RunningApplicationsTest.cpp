@@ -86,7 +86,7 @@ private:
 };
 
 template <typename Session>
-class RunningApplicationsPromise : public testing::Test {
+class RunningApplicationsContract : public testing::Test {
 protected:
     RunningApplications& applications() { return session.applications(); }
 
@@ -114,15 +114,15 @@ public:
         return std::is_same_v<Session, X11Session> ? "X11" : "Simulated";
     }
 };
-TYPED_TEST_SUITE(RunningApplicationsPromise, Sessions, SessionNames);
+TYPED_TEST_SUITE(RunningApplicationsContract, Sessions, SessionNames);
 
-TYPED_TEST(RunningApplicationsPromise, hasNothingInFrontOnAnEmptyDesktop)
+TYPED_TEST(RunningApplicationsContract, hasNothingInFrontOnAnEmptyDesktop)
 {
     EXPECT_EQ(this->applications().frontmost(), std::nullopt);
     EXPECT_EQ(this->applications().running(), std::vector<RunningApplication>());
 }
 
-TYPED_TEST(RunningApplicationsPromise, listsApplicationsInTheOrderOfTheirFirstWindow)
+TYPED_TEST(RunningApplicationsContract, listsApplicationsInTheOrderOfTheirFirstWindow)
 {
     this->session.open("alpha");
     this->session.open("beta");
@@ -139,13 +139,13 @@ TYPED_TEST(RunningApplicationsPromise, listsApplicationsInTheOrderOfTheirFirstWi
     }));
 }
 
-TYPED_TEST(RunningApplicationsPromise, tellsOnceOfEachApplicationThatComesToTheFront)
+TYPED_TEST(RunningApplicationsContract, notifiesOnceOfEachApplicationThatComesToTheFront)
 {
-    std::vector<std::optional<RunningApplication>> told;
-    std::vector<std::optional<RunningApplication>> answered;
+    std::vector<std::optional<RunningApplication>> notified;
+    std::vector<std::optional<RunningApplication>> returned;
     const auto subscription = this->applications().observeActivation([&](const auto& application) {
-        told.push_back(application);
-        answered.push_back(this->applications().frontmost());
+        notified.push_back(application);
+        returned.push_back(this->applications().frontmost());
     });
     this->session.open("alpha");
     EXPECT_TRUE(this->reaches(this->application("alpha")));
@@ -157,24 +157,25 @@ TYPED_TEST(RunningApplicationsPromise, tellsOnceOfEachApplicationThatComesToTheF
     const std::vector<std::optional<RunningApplication>> expected{
         this->application("alpha"), this->application("beta"), this->application("alpha")};
     EXPECT_TRUE(loopThroughout(std::chrono::milliseconds(100), [&] {
-        return told == expected && answered == expected;
-    })) << told.size();
+        return notified == expected && returned == expected;
+    })) << notified.size();
 }
 
-TYPED_TEST(RunningApplicationsPromise, tellsNothingWhenTheFrontMerelyBecomesEmpty)
+TYPED_TEST(RunningApplicationsContract, doesNotNotifyWhenTheFrontMerelyBecomesEmpty)
 {
     this->session.open("alpha");
     EXPECT_TRUE(this->reaches(this->application("alpha")));
-    int told = 0;
-    const auto subscription = this->applications().observeActivation([&](const auto&) { ++told; });
+    int notified = 0;
+    const auto subscription
+        = this->applications().observeActivation([&](const auto&) { ++notified; });
     this->session.minimizeAll();
     EXPECT_TRUE(this->reaches(std::nullopt));
     this->session.activate("alpha");
     EXPECT_TRUE(this->reaches(this->application("alpha")));
-    EXPECT_EQ(told, 0);
+    EXPECT_EQ(notified, 0);
 }
 
-TYPED_TEST(RunningApplicationsPromise, emptiesTheFrontWhenItsOnlyApplicationGoes)
+TYPED_TEST(RunningApplicationsContract, emptiesTheFrontWhenItsOnlyApplicationGoes)
 {
     this->session.open("alpha");
     EXPECT_TRUE(this->reaches(this->application("alpha")));
@@ -183,16 +184,16 @@ TYPED_TEST(RunningApplicationsPromise, emptiesTheFrontWhenItsOnlyApplicationGoes
     EXPECT_TRUE(loopUntil([&] { return this->applications().running().empty(); }));
 }
 
-TYPED_TEST(RunningApplicationsPromise, tellsNobodyWhoHasGone)
+TYPED_TEST(RunningApplicationsContract, notifiesNobodyWhoHasGone)
 {
-    int told = 0;
-    auto subscription = this->applications().observeActivation([&](const auto&) { ++told; });
+    int notified = 0;
+    auto subscription = this->applications().observeActivation([&](const auto&) { ++notified; });
     this->session.open("alpha");
     EXPECT_TRUE(this->reaches(this->application("alpha")));
     subscription.reset();
     this->session.open("beta");
     EXPECT_TRUE(this->reaches(this->application("beta")));
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(notified, 1);
 }
 
 } // namespace

@@ -48,7 +48,7 @@ private:
 };
 
 template <typename Provider>
-class SystemLogTest : public testing::Test {
+class SystemLogContract : public testing::Test {
 protected:
     void write(const std::string& message)
     {
@@ -59,9 +59,9 @@ protected:
 };
 
 using Providers = testing::Types<SimulatedProvider, JournalProvider>;
-TYPED_TEST_SUITE(SystemLogTest, Providers);
+TYPED_TEST_SUITE(SystemLogContract, Providers);
 
-TYPED_TEST(SystemLogTest, keepsMessagesInTheirOrder)
+TYPED_TEST(SystemLogContract, keepsMessagesInTheirOrder)
 {
     this->write("one");
     this->write("two");
@@ -70,7 +70,7 @@ TYPED_TEST(SystemLogTest, keepsMessagesInTheirOrder)
     EXPECT_EQ(this->provider.messages(), (Messages{"one", "two", "three"}));
 }
 
-TYPED_TEST(SystemLogTest, takesAnyMessage)
+TYPED_TEST(SystemLogContract, takesAnyMessage)
 {
     const Messages hostile{"", "\n", "two\nlines", "MESSAGE=x\nPRIORITY=0", "%s%n",
         std::string("a\0b", 3), "\xFF\xFE", "漢字 🎛", std::string(10'000, 'x')};

@@ -64,9 +64,9 @@ struct LinuxUser {
 };
 
 template <typename User>
-class UserDefaultsPromises : public testing::Test {
+class UserDefaultsContract : public testing::Test {
 protected:
-    UserDefaultsPromises() : process(user.startProcess()), other(user.startProcess()) { }
+    UserDefaultsContract() : process(user.startProcess()), other(user.startProcess()) { }
 
     bool runUntil(const std::function<bool()>& condition) { return user.loop.runUntil(condition); }
 
@@ -76,7 +76,7 @@ protected:
 };
 
 using Users = testing::Types<SimulatedUser, LinuxUser>;
-TYPED_TEST_SUITE(UserDefaultsPromises, Users);
+TYPED_TEST_SUITE(UserDefaultsContract, Users);
 
 using Value = std::optional<PreferenceValue>;
 
@@ -85,7 +85,7 @@ const std::vector<PreferenceValue> valuesOfEachKind{true, false, std::int64_t{0}
     -0.0, 1e300, std::string(), std::string("text"), std::string("a\0b\n\"\\/", 7),
     std::string("键盘 🎹"), std::vector<std::string>{}, std::vector<std::string>{"de", "", "日本"}};
 
-TYPED_TEST(UserDefaultsPromises, answersWhatWasSetAtOnce)
+TYPED_TEST(UserDefaultsContract, returnsWhatWasSetAtOnce)
 {
     EXPECT_EQ(this->process->value("key"), Value());
     for (const auto& value : valuesOfEachKind) {
@@ -96,7 +96,7 @@ TYPED_TEST(UserDefaultsPromises, answersWhatWasSetAtOnce)
     EXPECT_EQ(this->process->value("key"), Value());
 }
 
-TYPED_TEST(UserDefaultsPromises, keepsEveryKindOfValueForTheNextProcess)
+TYPED_TEST(UserDefaultsContract, keepsEveryKindOfValueForTheNextProcess)
 {
     for (std::size_t index = 0; index < valuesOfEachKind.size(); ++index)
         this->process->set("key" + std::to_string(index), valuesOfEachKind[index]);
@@ -109,14 +109,14 @@ TYPED_TEST(UserDefaultsPromises, keepsEveryKindOfValueForTheNextProcess)
     EXPECT_EQ(next->value(""), PreferenceValue("under the empty key"));
 }
 
-TYPED_TEST(UserDefaultsPromises, keepsWhatWasSetRightBeforeTheEnd)
+TYPED_TEST(UserDefaultsContract, keepsWhatWasSetRightBeforeTheEnd)
 {
     this->process->set("key", std::int64_t{1});
     this->process.reset();
     EXPECT_EQ(this->user.startProcess()->value("key"), PreferenceValue(std::int64_t{1}));
 }
 
-TYPED_TEST(UserDefaultsPromises, bringsChangesToTheDiskByItself)
+TYPED_TEST(UserDefaultsContract, bringsChangesToTheDiskByItself)
 {
     const auto start = this->user.loop.clock().continuousTime();
     this->process->set("key", true);
@@ -125,22 +125,22 @@ TYPED_TEST(UserDefaultsPromises, bringsChangesToTheDiskByItself)
     EXPECT_LT(this->user.loop.clock().continuousTime() - start, 2);
 }
 
-TYPED_TEST(UserDefaultsPromises, tellsOfEachChangeAndOfNothingElse)
+TYPED_TEST(UserDefaultsContract, notifiesOfEachChangeAndOfNothingElse)
 {
-    int told = 0;
-    const auto subscription = this->process->observeChanges([&] { ++told; });
+    int notified = 0;
+    const auto subscription = this->process->observeChanges([&] { ++notified; });
     this->process->set("key", true);
-    EXPECT_TRUE(this->runUntil([&] { return told == 1; }));
+    EXPECT_TRUE(this->runUntil([&] { return notified == 1; }));
     this->process->set("key", true);
     this->process->set("missing", {});
     this->process->synchronize();
     this->user.loop.runFor(0.2);
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(notified, 1);
     this->process->set("key", {});
-    EXPECT_TRUE(this->runUntil([&] { return told == 2; }));
+    EXPECT_TRUE(this->runUntil([&] { return notified == 2; }));
 }
 
-TYPED_TEST(UserDefaultsPromises, answersTheNewValueToWhoIsTold)
+TYPED_TEST(UserDefaultsContract, returnsTheNewValueToWhoIsNotified)
 {
     std::vector<Value> seen;
     const auto subscription
@@ -150,25 +150,25 @@ TYPED_TEST(UserDefaultsPromises, answersTheNewValueToWhoIsTold)
     EXPECT_EQ(seen, std::vector<Value>{PreferenceValue("new")});
 }
 
-TYPED_TEST(UserDefaultsPromises, tellsOfAChangeByAnotherProcess)
+TYPED_TEST(UserDefaultsContract, notifiesOfAChangeByAnotherProcess)
 {
-    int told = 0;
-    const auto subscription = this->process->observeChanges([&] { ++told; });
+    int notified = 0;
+    const auto subscription = this->process->observeChanges([&] { ++notified; });
     this->other->set("key", std::string("theirs"));
-    ASSERT_TRUE(this->runUntil([&] { return told == 1; }));
+    ASSERT_TRUE(this->runUntil([&] { return notified == 1; }));
     EXPECT_EQ(this->process->value("key"), PreferenceValue("theirs"));
 
     this->other->set("key", {});
-    ASSERT_TRUE(this->runUntil([&] { return told == 2; }));
+    ASSERT_TRUE(this->runUntil([&] { return notified == 2; }));
     EXPECT_EQ(this->process->value("key"), Value());
 }
 
-TYPED_TEST(UserDefaultsPromises, isQuietOnceBothProcessesKnow)
+TYPED_TEST(UserDefaultsContract, isQuietOnceBothProcessesKnow)
 {
-    int told = 0;
-    int toldOther = 0;
-    const auto subscription = this->process->observeChanges([&] { ++told; });
-    const auto otherSubscription = this->other->observeChanges([&] { ++toldOther; });
+    int notified = 0;
+    int notifiedOther = 0;
+    const auto subscription = this->process->observeChanges([&] { ++notified; });
+    const auto otherSubscription = this->other->observeChanges([&] { ++notifiedOther; });
     this->process->set("mine", true);
     this->other->set("theirs", true);
     ASSERT_TRUE(this->runUntil([&] {
@@ -176,11 +176,11 @@ TYPED_TEST(UserDefaultsPromises, isQuietOnceBothProcessesKnow)
             && this->other->value("mine") == PreferenceValue(true);
     }));
     this->user.loop.runFor(0.4);
-    EXPECT_EQ(told, 2);
-    EXPECT_EQ(toldOther, 2);
+    EXPECT_EQ(notified, 2);
+    EXPECT_EQ(notifiedOther, 2);
 }
 
-TYPED_TEST(UserDefaultsPromises, keepsTheChangesOfBothProcessesUnderDifferentKeys)
+TYPED_TEST(UserDefaultsContract, keepsTheChangesOfBothProcessesUnderDifferentKeys)
 {
     this->process->set("shared", std::int64_t{1});
     this->process->set("removed", true);
@@ -204,7 +204,7 @@ TYPED_TEST(UserDefaultsPromises, keepsTheChangesOfBothProcessesUnderDifferentKey
     }
 }
 
-TYPED_TEST(UserDefaultsPromises, keepsWhatThisProcessHasSetAndNotWrittenYet)
+TYPED_TEST(UserDefaultsContract, keepsWhatThisProcessHasSetAndNotWrittenYet)
 {
     this->other->set("key", std::string("theirs"));
     this->other->synchronize();
@@ -215,7 +215,7 @@ TYPED_TEST(UserDefaultsPromises, keepsWhatThisProcessHasSetAndNotWrittenYet)
         this->runUntil([&] { return this->other->value("key") == PreferenceValue("mine"); }));
 }
 
-TYPED_TEST(UserDefaultsPromises, takesOverTheChangesOfOthersWhenAsked)
+TYPED_TEST(UserDefaultsContract, takesOverTheChangesOfOthersWhenAsked)
 {
     this->other->set("key", std::string("theirs"));
     this->other->synchronize();
@@ -223,7 +223,7 @@ TYPED_TEST(UserDefaultsPromises, takesOverTheChangesOfOthersWhenAsked)
     EXPECT_EQ(this->process->value("key"), PreferenceValue("theirs"));
 }
 
-TYPED_TEST(UserDefaultsPromises, takesASetFromInsideAHandler)
+TYPED_TEST(UserDefaultsContract, takesASetFromInsideAHandler)
 {
     const auto subscription = this->process->observeChanges([&] {
         if (this->process->value("first") && !this->process->value("second"))
@@ -236,7 +236,7 @@ TYPED_TEST(UserDefaultsPromises, takesASetFromInsideAHandler)
     EXPECT_EQ(this->user.startProcess()->value("second"), PreferenceValue(true));
 }
 
-TYPED_TEST(UserDefaultsPromises, isReadFromOtherThreadsWhileItChanges)
+TYPED_TEST(UserDefaultsContract, isReadFromOtherThreadsWhileItChanges)
 {
     std::atomic<bool> isOver = false;
     std::atomic<int> strange = 0;

@@ -44,20 +44,20 @@ private:
 };
 
 template <typename Home>
-class UserFoldersPromises : public testing::Test {
+class UserFoldersContract : public testing::Test {
 protected:
     Home user;
 };
 
 using Homes = testing::Types<SimulatedHome, LinuxHome>;
-TYPED_TEST_SUITE(UserFoldersPromises, Homes);
+TYPED_TEST_SUITE(UserFoldersContract, Homes);
 
-TYPED_TEST(UserFoldersPromises, knowsTheHomeFolder)
+TYPED_TEST(UserFoldersContract, knowsTheHomeFolder)
 {
     EXPECT_EQ(this->user.folders().home(), this->user.home);
 }
 
-TYPED_TEST(UserFoldersPromises, knowsWhereDownloadsGoAtTheMomentOfAsking)
+TYPED_TEST(UserFoldersContract, knowsWhereDownloadsGoAtTheMomentOfAsking)
 {
     this->user.setDownloads("/data/one");
     EXPECT_EQ(this->user.folders().downloads(), "/data/one");

@@ -131,7 +131,7 @@ private:
 };
 
 template <typename Screen>
-class WindowListPromise : public testing::Test {
+class WindowListContract : public testing::Test {
 protected:
     /// Waits until the list has these ordinary windows, told apart by their places.
     testing::AssertionResult lists(const std::vector<std::string>& names)
@@ -167,14 +167,14 @@ public:
         return std::is_same_v<Screen, X11Screen> ? "X11" : "Simulated";
     }
 };
-TYPED_TEST_SUITE(WindowListPromise, Screens, ScreenNames);
+TYPED_TEST_SUITE(WindowListContract, Screens, ScreenNames);
 
-TYPED_TEST(WindowListPromise, isEmptyOnAnEmptyScreen)
+TYPED_TEST(WindowListContract, isEmptyOnAnEmptyScreen)
 {
     EXPECT_EQ(this->screen.list().onScreen(), std::vector<WindowInfo>());
 }
 
-TYPED_TEST(WindowListPromise, listsWindowsFromFrontToBackWithTheirFrames)
+TYPED_TEST(WindowListContract, listsWindowsFromFrontToBackWithTheirFrames)
 {
     this->screen.open("left", this->left);
     this->screen.open("right", this->right);
@@ -187,7 +187,7 @@ TYPED_TEST(WindowListPromise, listsWindowsFromFrontToBackWithTheirFrames)
     EXPECT_GE(this->screen.frameOf("left").size.height, this->left.height);
 }
 
-TYPED_TEST(WindowListPromise, leavesOutWhatIsMinimizedAndWhatIsGone)
+TYPED_TEST(WindowListContract, leavesOutWhatIsMinimizedAndWhatIsGone)
 {
     this->screen.open("left", this->left);
     this->screen.open("right", this->right);
@@ -201,7 +201,7 @@ TYPED_TEST(WindowListPromise, leavesOutWhatIsMinimizedAndWhatIsGone)
     EXPECT_TRUE(this->lists({"over", "left"}));
 }
 
-TYPED_TEST(WindowListPromise, leavesOutTheDesktopAndPutsPanelsAboveWindows)
+TYPED_TEST(WindowListContract, leavesOutTheDesktopAndPutsPanelsAboveWindows)
 {
     this->screen.open("wallpaper", {}, Kind::wallpaper);
     this->screen.open("left", this->left);
@@ -215,7 +215,7 @@ TYPED_TEST(WindowListPromise, leavesOutTheDesktopAndPutsPanelsAboveWindows)
     EXPECT_EQ(windows[1].layer, 0);
 }
 
-TYPED_TEST(WindowListPromise, tellsHowMuchOfAWindowIsSeen)
+TYPED_TEST(WindowListContract, reportsHowMuchOfAWindowIsSeen)
 {
     this->screen.open("left", this->left);
 

@@ -74,7 +74,7 @@ class JudgeTests(unittest.TestCase):
 
     def test_calls_unsteady_what_fails_once_and_passes_ten_times(self):
         marks = self.tests.add("Tap.takes/0", fails=[1])
-        self.tests.add("Panel.shows", labels="promises")
+        self.tests.add("Panel.shows", labels="contracts")
         self.assert_judged(
             0, "words of round 1", "it failed, and passed 10 of 10 when played again",
             f"Unsteady: Tap.takes/0 ({self.tests.build})",
@@ -82,7 +82,7 @@ class JudgeTests(unittest.TestCase):
         self.assertEqual(times_played(marks), 11)
 
     def test_fails_what_fails_again_within_ten(self):
-        marks = self.tests.add("Tap.takes", labels="promises", fails=[1, 5, 11])
+        marks = self.tests.add("Tap.takes", labels="contracts", fails=[1, 5, 11])
         self.assert_judged(
             1, "failed 2 of 10 when played again", "words of round 1", "Failed: Tap.takes",
             "0% tests passed, 1 tests failed out of 1")
@@ -96,7 +96,7 @@ class JudgeTests(unittest.TestCase):
         self.assertEqual([times_played(each) for each in (logic, both, other)], [1, 1, 1])
 
     def test_lets_three_unsteady_tests_pass(self):
-        for label in ("desktop", "promises", "thorough"):
+        for label in ("desktop", "contracts", "thorough"):
             self.tests.add(f"Tap.{label}", labels=label, fails=[1])
         self.assert_judged(0, "0% tests passed, 0 tests failed, 3 unsteady out of 3")
 

@@ -12,7 +12,7 @@
 namespace brindlex {
 namespace {
 
-/// Makes the folder and what is missing above it. Answers the first error that may be why there is
+/// Makes the folder and what is missing above it. Returns the first error that may be why there is
 /// still no folder afterwards, or 0.
 int makeFolder(const std::filesystem::path& folder)
 {

@@ -39,7 +39,7 @@ QDBusMessage question(const QString& service, const QString& path, const QString
     return message;
 }
 
-/// Where the session bus is. Left to itself the library would keep the answer for the life of the
+/// Where the session bus is. Left to itself the library would keep the address for the life of the
 /// process, and start a bus where there is none.
 QString sessionAddress()
 {
@@ -105,11 +105,11 @@ std::optional<QString> AccessibilityBus::address()
         QDBusConnection::disconnectFromBus(sessionConnectionName_);
         session = QDBusConnection::connectToBus(sessionAddress(), sessionConnectionName_);
     }
-    const auto answer = session.call(
+    const auto reply = session.call(
         launcherQuestion(QStringLiteral("org.a11y.Bus"), QStringLiteral("GetAddress")),
         QDBus::Block, static_cast<int>(timeForAddress.count()));
-    const auto found = text(answer.arguments().value(0));
-    if (answer.type() != QDBusMessage::ReplyMessage || !found || found->isEmpty())
+    const auto found = text(reply.arguments().value(0));
+    if (reply.type() != QDBusMessage::ReplyMessage || !found || found->isEmpty())
         return {};
 
     const auto isEnabled
@@ -132,22 +132,22 @@ AccessibilityAnswer<std::int64_t> AccessibilityBus::processIdentifier(const QStr
 {
     const AccessibleObject bus{
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus")};
-    const auto answer = ask(bus, QStringLiteral("org.freedesktop.DBus"),
+    const auto reply = ask(bus, QStringLiteral("org.freedesktop.DBus"),
         QStringLiteral("GetConnectionUnixProcessID"), {service});
-    if (!answer)
-        return fail(answer.error());
-    if (answer->metaType() != QMetaType::fromType<unsigned>())
+    if (!reply)
+        return fail(reply.error());
+    if (reply->metaType() != QMetaType::fromType<unsigned>())
         return fail(AccessibilityProblem::refused);
-    return std::int64_t{answer->toUInt()};
+    return std::int64_t{reply->toUInt()};
 }
 
 AccessibilityAnswer<std::vector<AccessibleObject>> AccessibilityBus::children(
     const AccessibleObject& object)
 {
-    const auto answer = ask(object, accessible, QStringLiteral("GetChildren"));
-    if (!answer)
-        return fail(answer.error());
-    const auto list = container(*answer, "a(so)");
+    const auto reply = ask(object, accessible, QStringLiteral("GetChildren"));
+    if (!reply)
+        return fail(reply.error());
+    const auto list = container(*reply, "a(so)");
     if (!list)
         return fail(AccessibilityProblem::refused);
     return objects(*list);
@@ -155,19 +155,19 @@ AccessibilityAnswer<std::vector<AccessibleObject>> AccessibilityBus::children(
 
 AccessibilityAnswer<QString> AccessibilityBus::name(const AccessibleObject& object)
 {
-    const auto answer
+    const auto reply
         = ask(object, properties, QStringLiteral("Get"), {accessible, QStringLiteral("Name")});
-    if (!answer)
-        return fail(answer.error());
-    return text(unpacked(*answer));
+    if (!reply)
+        return fail(reply.error());
+    return text(unpacked(*reply));
 }
 
 AccessibilityAnswer<bool> AccessibilityBus::isActive(const AccessibleObject& object)
 {
-    const auto answer = ask(object, accessible, QStringLiteral("GetState"));
-    if (!answer)
-        return fail(answer.error());
-    const auto words = container(*answer, "au");
+    const auto reply = ask(object, accessible, QStringLiteral("GetState"));
+    if (!reply)
+        return fail(reply.error());
+    const auto words = container(*reply, "au");
     if (!words)
         return fail(AccessibilityProblem::refused);
     words->beginArray();
@@ -181,10 +181,10 @@ AccessibilityAnswer<bool> AccessibilityBus::isActive(const AccessibleObject& obj
 AccessibilityAnswer<std::vector<AccessibleObject>> AccessibilityBus::embedded(
     const AccessibleObject& object)
 {
-    const auto answer = ask(object, accessible, QStringLiteral("GetRelationSet"));
-    if (!answer)
-        return fail(answer.error());
-    const auto relations = container(*answer, "a(ua(so))");
+    const auto reply = ask(object, accessible, QStringLiteral("GetRelationSet"));
+    if (!reply)
+        return fail(reply.error());
+    const auto relations = container(*reply, "a(ua(so))");
     if (!relations)
         return fail(AccessibilityProblem::refused);
     std::vector<AccessibleObject> found;
@@ -206,11 +206,11 @@ AccessibilityAnswer<std::vector<AccessibleObject>> AccessibilityBus::embedded(
 AccessibilityAnswer<QString> AccessibilityBus::documentAttribute(
     const AccessibleObject& document, const QString& attribute)
 {
-    const auto answer = ask(document, QStringLiteral("org.a11y.atspi.Document"),
+    const auto reply = ask(document, QStringLiteral("org.a11y.atspi.Document"),
         QStringLiteral("GetAttributeValue"), {attribute});
-    if (!answer)
-        return fail(answer.error());
-    return text(*answer);
+    if (!reply)
+        return fail(reply.error());
+    return text(*reply);
 }
 
 AccessibilityAnswer<QVariant> AccessibilityBus::ask(const AccessibleObject& object,
@@ -220,12 +220,12 @@ AccessibilityAnswer<QVariant> AccessibilityBus::ask(const AccessibleObject& obje
         = std::chrono::duration_cast<std::chrono::milliseconds>(deadline_ - Clock::now());
     if (left <= 0ms)
         return fail(AccessibilityProblem::noAnswer);
-    const auto answer
+    const auto reply
         = connection_.call(question(object.service, object.path, interface, member, arguments),
             QDBus::Block, static_cast<int>(std::min(left, limits_.perQuestion).count()));
-    if (answer.type() == QDBusMessage::ReplyMessage)
-        return answer.arguments().value(0);
-    const auto error = QDBusError(answer).type();
+    if (reply.type() == QDBusMessage::ReplyMessage)
+        return reply.arguments().value(0);
+    const auto error = QDBusError(reply).type();
     const bool isLate = error == QDBusError::NoReply || error == QDBusError::Timeout
         || error == QDBusError::TimedOut;
     return fail(isLate ? AccessibilityProblem::noAnswer : AccessibilityProblem::refused);

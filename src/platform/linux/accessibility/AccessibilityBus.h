@@ -27,11 +27,11 @@ struct AccessibleObject {
     bool isNull() const;
 };
 
-/// Why a question on the accessibility bus has no answer.
+/// Why a question on the accessibility bus has no result.
 enum class AccessibilityProblem {
-    /// The time was up first: the program is busy, and may answer later.
+    /// The time was up first: the program is busy, and may reply later.
     noAnswer,
-    /// The program or the object is gone, or what came was not an answer.
+    /// The program or the object is gone, or what came was not a valid reply.
     refused,
 };
 
@@ -88,7 +88,7 @@ public:
     AccessibilityAnswer<QString> documentAttribute(
         const AccessibleObject& document, const QString& attribute);
 
-    /// The first value of the answer to any question; see `AccessibilityReply` for taking it apart.
+    /// The first value of the reply to any question; see `AccessibilityReply` for taking it apart.
     AccessibilityAnswer<QVariant> ask(const AccessibleObject& object, const QString& interface,
         const QString& member, const QVariantList& arguments = {});
 

@@ -6,8 +6,8 @@ namespace brindlex {
 
 /// How long a worker thread waits for the accessible trees of other programs.
 ///
-/// An answer takes about 0.2 ms. A browser that loads a page, or a computer that compiles, takes
-/// tens of milliseconds, and one that is stuck never answers.
+/// A reply takes about 0.2 ms. A browser that loads a page, or a computer that compiles, takes
+/// tens of milliseconds, and one that is stuck never replies.
 struct AccessibilityLimits {
     std::chrono::milliseconds perQuestion{100};
     /// For all questions since the reading began.

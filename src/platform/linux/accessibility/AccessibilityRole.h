@@ -28,7 +28,7 @@ struct AccessibilityRole {
 
     bool operator==(const AccessibilityRole&) const = default;
 
-    /// Whether only the names can tell what the element is.
+    /// Whether only the names can show what the element is.
     bool needsNames() const;
 
     /// The role in the words of macOS. Toolkits have no common role for what is there to be

@@ -22,16 +22,16 @@ public:
     {
         const auto window = activeWindow_();
         askedFor_ = bundleID;
-        answered_ = answer(window);
+        lastReturned_ = urlOf(window);
         if (window && !isFresh(*window))
             want({bundleID, *window});
-        return answered_;
+        return lastReturned_;
     }
 
     Subscribers<std::function<void()>> observers;
 
 private:
-    struct Wish {
+    struct Request {
         std::string bundleID{};
         ActiveWindow window{};
     };
@@ -42,7 +42,7 @@ private:
         Seconds readAt = 0;
     };
 
-    std::optional<std::string> answer(const std::optional<ActiveWindow>& window) const
+    std::optional<std::string> urlOf(const std::optional<ActiveWindow>& window) const
     {
         if (!window || !isOf(*window) || clock_.continuousTime() - page_->readAt > pageLife)
             return {};
@@ -60,18 +60,18 @@ private:
         return page_ && page_->window == window.window && page_->bundleID == askedFor_;
     }
 
-    void want(Wish wish)
+    void want(Request request)
     {
         if (!beingRead_)
-            read(std::move(wish));
-        else if (beingRead_->window.window != wish.window.window
-            || beingRead_->bundleID != wish.bundleID)
-            next_ = std::move(wish);
+            read(std::move(request));
+        else if (beingRead_->window.window != request.window.window
+            || beingRead_->bundleID != request.bundleID)
+            next_ = std::move(request);
     }
 
-    void read(Wish wish)
+    void read(Request request)
     {
-        beingRead_ = std::move(wish);
+        beingRead_ = std::move(request);
         const auto began = clock_.continuousTime();
         queue_.post([self = weak_from_this(), &mainThread = mainThread_, reader = reader_,
                         window = beingRead_->window, began] {
@@ -89,9 +89,9 @@ private:
             page_ = Page{done.bundleID, done.window.window, *page, began};
         else if (page.error() == PageProblem::unknown)
             page_.reset();
-        if (auto wish = std::exchange(next_, std::nullopt))
-            read(std::move(*wish));
-        if (answer(activeWindow_()) != answered_)
+        if (auto request = std::exchange(next_, std::nullopt))
+            read(std::move(*request));
+        if (urlOf(activeWindow_()) != lastReturned_)
             observers.notify();
     }
 
@@ -102,10 +102,10 @@ private:
     std::shared_ptr<AccessiblePageReader> reader_;
 
     std::string askedFor_;
-    std::optional<std::string> answered_;
+    std::optional<std::string> lastReturned_;
     std::optional<Page> page_;
-    std::optional<Wish> beingRead_;
-    std::optional<Wish> next_;
+    std::optional<Request> beingRead_;
+    std::optional<Request> next_;
 };
 
 AccessibleBrowserPages::AccessibleBrowserPages(MainThread& mainThread, const Clock& clock,

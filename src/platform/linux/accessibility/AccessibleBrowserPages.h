@@ -16,9 +16,9 @@ namespace brindlex {
 /// The pages of browsers as their windows offer them to assistive technology.
 ///
 /// A page is read on the queue, one at a time, and only because somebody asked: nothing runs while
-/// nobody asks. `currentURL` answers at once with the page last read of the window that is active,
+/// nobody asks. `currentURL` returns at once the page last read of the window that is active,
 /// for 2.0 s after its reading began, and starts a reading unless one is under way or ended well
-/// within the last 0.2 s. A browser too busy to answer keeps its page for those 2.0 s. Main thread
+/// within the last 0.2 s. A browser too busy to reply keeps its page for those 2.0 s. Main thread
 /// only; the queue should be for this alone, as a reading may hold it for as long as the limits.
 class AccessibleBrowserPages : public BrowserPageReading {
 public:

@@ -64,7 +64,7 @@ bool AccessibleElementReader::begin(Clock::time_point deadline)
 std::optional<AccessibleElementReader::Element> AccessibleElementReader::elementAt(
     const X11WindowAtPoint& window, Point point, Clock::time_point deadline)
 {
-    // A question to this very process would wait for the thread that waits for the answer.
+    // A question to this very process would wait for the thread that waits for the reply.
     if (window.processIdentifier == getpid() || !begin(deadline))
         return {};
     const auto program = application(window.processIdentifier);
@@ -131,10 +131,10 @@ std::optional<AccessibleObject> AccessibleElementReader::deepestAt(
 std::optional<AccessibleObject> AccessibleElementReader::childAt(
     const AccessibleObject& object, Point point, Coordinates coordinates)
 {
-    const auto answer = bus_.ask(object, component, QStringLiteral("GetAccessibleAtPoint"),
+    const auto reply = bus_.ask(object, component, QStringLiteral("GetAccessibleAtPoint"),
         {static_cast<int>(std::floor(point.x)), static_cast<int>(std::floor(point.y)),
             static_cast<unsigned>(coordinates)});
-    return answer ? reference(*answer) : std::nullopt;
+    return reply ? reference(*reply) : std::nullopt;
 }
 
 std::optional<std::string> AccessibleElementReader::role(
@@ -147,8 +147,8 @@ std::optional<std::string> AccessibleElementReader::role(
         return {};
     AccessibilityRole role{.number = number->toUInt(), .isDeepest = element.isDeepest};
     if (role.needsNames()) {
-        if (const auto answer = bus_.ask(element.object, accessible, QStringLiteral("GetRoleName")))
-            if (const auto name = text(*answer))
+        if (const auto reply = bus_.ask(element.object, accessible, QStringLiteral("GetRoleName")))
+            if (const auto name = text(*reply))
                 role.roleName = name->left(longestName).toStdString();
         if (const auto name = bus_.name(element.object))
             role.name = name->left(longestName).toStdString();
@@ -164,8 +164,8 @@ std::optional<std::string> AccessibleElementReader::roleName(
 {
     if (!begin(deadline))
         return {};
-    const auto answer = bus_.ask(element.object, accessible, QStringLiteral("GetRoleName"));
-    const auto name = answer ? text(*answer) : fail(AccessibilityProblem::refused);
+    const auto reply = bus_.ask(element.object, accessible, QStringLiteral("GetRoleName"));
+    const auto name = reply ? text(*reply) : fail(AccessibilityProblem::refused);
     if (!name)
         return {};
     return name->left(longestName).toStdString();
@@ -176,9 +176,9 @@ std::optional<AccessibleElementReader::Element> AccessibleElementReader::parent(
 {
     if (!begin(deadline))
         return {};
-    const auto answer = bus_.ask(
+    const auto reply = bus_.ask(
         element.object, properties, QStringLiteral("Get"), {accessible, QStringLiteral("Parent")});
-    const auto parent = answer ? reference(unpacked(*answer)) : std::nullopt;
+    const auto parent = reply ? reference(unpacked(*reply)) : std::nullopt;
     if (!parent)
         return {};
     return Element{*parent, element.frame, element.windowOrigin, false};
@@ -204,9 +204,9 @@ std::optional<Rect> AccessibleElementReader::frameNow(const Element& element)
 std::optional<Rect> AccessibleElementReader::extents(
     const AccessibleObject& object, Coordinates coordinates)
 {
-    const auto answer = bus_.ask(
+    const auto reply = bus_.ask(
         object, component, QStringLiteral("GetExtents"), {static_cast<unsigned>(coordinates)});
-    const auto structure = answer ? container(*answer, "(iiii)") : std::nullopt;
+    const auto structure = reply ? container(*reply, "(iiii)") : std::nullopt;
     if (!structure)
         return {};
     int x = 0;

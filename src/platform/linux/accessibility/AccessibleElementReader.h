@@ -10,9 +10,9 @@
 
 namespace brindlex {
 
-/// Reads what programs tell assistive technology about the things in their windows.
+/// Reads what programs report to assistive technology about the things in their windows.
 ///
-/// Each question has its own time, after which it is not answered. One worker thread only.
+/// Each question has its own time, after which it has no result. One worker thread only.
 class AccessibleElementReader {
 public:
     using Clock = std::chrono::steady_clock;

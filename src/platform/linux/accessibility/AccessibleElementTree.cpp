@@ -21,24 +21,24 @@ Deadline after(Seconds time)
 
 } // namespace
 
-/// Asks on the queue and waits for the answers.
+/// Asks on the queue and waits for the replies.
 class AccessibleElementTree::Questions {
 public:
     explicit Questions(BackgroundQueue& queue) : queue_(queue), reader_(std::make_shared<Reader>())
     {
     }
 
-    /// What `question` answers, or nothing when that takes too long.
+    /// What `question` returns, or nothing when that takes too long.
     template <typename Question>
     auto ask(Deadline deadline, Question question)
     {
-        using Answer = decltype(question(*reader_, deadline));
-        auto promise = std::make_shared<std::promise<Answer>>();
-        auto answer = promise->get_future();
+        using Reply = decltype(question(*reader_, deadline));
+        auto promise = std::make_shared<std::promise<Reply>>();
+        auto reply = promise->get_future();
         queue_.post([promise, reader = reader_, question = std::move(question), deadline] {
             promise->set_value(question(*reader, deadline));
         });
-        return answer.wait_until(deadline) == std::future_status::ready ? answer.get() : Answer();
+        return reply.wait_until(deadline) == std::future_status::ready ? reply.get() : Reply();
     }
 
 private:
@@ -85,8 +85,8 @@ public:
     }
 
 private:
-    template <typename Answer>
-    Answer ask(Answer (Reader::*question)(const Reader::Element&, Deadline))
+    template <typename Reply>
+    Reply ask(Reply (Reader::*question)(const Reader::Element&, Deadline))
     {
         return questions_->ask(std::min(after(timeout_), last_),
             [question, element = element_](Reader& reader, Deadline deadline) {

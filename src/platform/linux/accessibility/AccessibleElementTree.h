@@ -11,9 +11,9 @@ namespace brindlex {
 /// The elements on the screen as programs offer them to assistive technology (AT-SPI).
 ///
 /// Questions are asked on the queue, which should be for them alone; the main thread waits for each
-/// answer no longer than its time-out, and for all that follow from one `elementAt` no longer than
+/// reply no longer than its time-out, and for all that follow from one `elementAt` no longer than
 /// `timePerPoint` together, since an event of the user's waits with it. The first question connects
-/// to the accessibility bus, which may take longer: it is then without an answer. Main thread only.
+/// to the accessibility bus, which may take longer: it is then without a result. Main thread only.
 class AccessibleElementTree : public AccessibilityTree {
 public:
     static constexpr Seconds usualTimePerPoint = 0.06;

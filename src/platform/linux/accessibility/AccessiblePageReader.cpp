@@ -99,10 +99,10 @@ AccessibilityAnswer<AccessiblePageReader::FoundFrame> AccessiblePageReader::find
     auto bestMatch = leastMatch;
     std::vector<AccessibleObject> best;
     auto problem = AccessibilityProblem::refused;
-    const auto note = [&](const auto& answer) {
-        if (!answer && answer.error() == AccessibilityProblem::noAnswer)
+    const auto note = [&](const auto& result) {
+        if (!result && result.error() == AccessibilityProblem::noAnswer)
             problem = AccessibilityProblem::noAnswer;
-        return static_cast<bool>(answer);
+        return static_cast<bool>(result);
     };
     for (const auto& application : applications) {
         const auto frames = bus_.children(application);

@@ -13,7 +13,7 @@ namespace brindlex {
 
 /// Why the page of a window was not read.
 enum class PageProblem {
-    /// The browser did not answer in time: what was known before may still hold.
+    /// The browser did not reply in time: what was known before may still hold.
     busy,
     /// The browser says nothing about its page, or cannot be found on the bus.
     unknown,

@@ -5,7 +5,7 @@
 
 namespace brindlex {
 
-/// The applications that are installed, as their desktop entries tell: a bundle's path is that of
+/// The applications that are installed, as their desktop entries say: a bundle's path is that of
 /// the entry.
 class DesktopApplicationBundles final : public ApplicationBundles {
 public:

@@ -125,13 +125,13 @@ void X11RunningApplications::readFrontmost()
         return;
     if (description->processIdentifier == ::getpid()) {
         frontmost_.reset();
-        lastTold_.reset();
+        lastNotified_.reset();
         return;
     }
     frontmost_ = applicationOf(*description);
-    const bool isTold = lastTold_ && isSameApplication(*lastTold_, *frontmost_);
-    lastTold_ = frontmost_;
-    if (!isTold)
+    const bool isNotified = lastNotified_ && isSameApplication(*lastNotified_, *frontmost_);
+    lastNotified_ = frontmost_;
+    if (!isNotified)
         observers_.notify(frontmost_);
 }
 

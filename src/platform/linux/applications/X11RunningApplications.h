@@ -11,11 +11,11 @@
 
 namespace brindlex {
 
-/// The applications with windows on the X server, as the window manager and the windows tell.
+/// The applications with windows on the X server, as the window manager and the windows report.
 ///
 /// Windows of this process count as none: while one of them is active there is no frontmost
-/// application, and the one that follows is told of, even if it is the one from before. A process
-/// identifier of 0 means that the window names none of this machine.
+/// application, and of the one that follows observers are notified, even if it is the one from
+/// before. A process identifier of 0 means that the window names none of this machine.
 class X11RunningApplications final : public RunningApplications {
 public:
     X11RunningApplications(
@@ -37,7 +37,7 @@ private:
     X11ActiveWindow& activeWindow_;
     DesktopEntries& entries_;
     std::optional<RunningApplication> frontmost_;
-    std::optional<RunningApplication> lastTold_;
+    std::optional<RunningApplication> lastNotified_;
     mutable std::map<X11WindowDescription, RunningApplication> identified_;
     Subscribers<ActivationHandler> observers_;
     Subscription windowChanges_;

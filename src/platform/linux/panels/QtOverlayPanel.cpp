@@ -98,7 +98,7 @@ protected:
     }
 
 private:
-    /// Makes the native window and tells compositors what kind it is, so that none adds a shadow.
+    /// Makes the native window and shows compositors what kind it is, so that none adds a shadow.
     void prepare()
     {
         if (handle())

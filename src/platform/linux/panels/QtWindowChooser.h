@@ -21,7 +21,8 @@ class QtWindowChooser {
 public:
     using Choice = std::function<void(std::uint32_t window)>;
 
-    /// Told from the loop which window was chosen, once the list is gone and the keys are free.
+    /// Calls `choice` from the loop with the window that was chosen, once the list is gone and the
+    /// keys are free.
     QtWindowChooser(X11Connection& connection, Choice choice);
     ~QtWindowChooser();
     QtWindowChooser(const QtWindowChooser&) = delete;

@@ -36,7 +36,7 @@ QFont systemFont(int pixels)
     return font;
 }
 
-/// Draws the text into its area, on one line, and answers the width that it took.
+/// Draws the text into its area, on one line, and returns the width that it took.
 double drawElided(QPainter& painter, const QRectF& area, Qt::AlignmentFlag side, const QFont& font,
     const std::string& text)
 {

@@ -21,12 +21,12 @@ bool isOnBus(const QDBusConnection& bus, const QString& service)
     auto* const daemon = bus.interface();
     if (!daemon)
         return false;
-    // An event waits for the answer.
+    // An event waits for the reply.
     daemon->setTimeout(patience);
     return daemon->isServiceRegistered(service).value();
 }
 
-/// Whether a desktop with an overview was told to show it.
+/// Whether a desktop with an overview was asked to show it.
 bool showOverview()
 {
     const auto bus = QDBusConnection::sessionBus();

@@ -14,7 +14,7 @@ namespace brindlex {
 
 /// Opens what the program asks for by the path that it has on a Mac.
 ///
-/// Mission Control is the overview of the desktop: that of GNOME or KDE where one of them answers
+/// Mission Control is the overview of the desktop: that of GNOME or KDE where one of them responds
 /// on the session bus. Elsewhere it is a list of the open windows of all virtual desktops, and the
 /// next time closes it; it comes from the loop, so that an event that asked for it goes on at once.
 /// Where no window is open only the log says so. Other applications have no such path here, and

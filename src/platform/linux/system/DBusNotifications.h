@@ -13,7 +13,7 @@ namespace brindlex {
 /// "com.brindlex.Brindlex.Notifications" on the path "/com/brindlex/Brindlex/Notifications".
 ///
 /// The bus delivers to who has asked for that name and object, and to nobody else. A session
-/// without a bus is told to the log once; nothing is then posted or heard.
+/// without a bus is logged once; nothing is then posted or heard.
 class DBusNotifications : public DistributedNotifications {
 public:
     explicit DBusNotifications(SessionBus& bus);

@@ -17,16 +17,16 @@ using ProcessIdentifier = ProgramInstances::ProcessIdentifier;
 /// The connections that own the name or queue for it, the owner first.
 QStringList connectionsOf(SessionBus& bus, const std::string& name)
 {
-    const auto answer = bus.ask(QStringLiteral("ListQueuedOwners"), {QString::fromStdString(name)});
-    return answer ? answer->arguments().value(0).toStringList() : QStringList();
+    const auto reply = bus.ask(QStringLiteral("ListQueuedOwners"), {QString::fromStdString(name)});
+    return reply ? reply->arguments().value(0).toStringList() : QStringList();
 }
 
 std::optional<ProcessIdentifier> processOf(SessionBus& bus, const QString& connection)
 {
-    const auto answer = bus.ask(QStringLiteral("GetConnectionUnixProcessID"), {connection});
-    if (!answer)
+    const auto reply = bus.ask(QStringLiteral("GetConnectionUnixProcessID"), {connection});
+    if (!reply)
         return {};
-    return ProcessIdentifier{answer->arguments().value(0).toUInt()};
+    return ProcessIdentifier{reply->arguments().value(0).toUInt()};
 }
 
 } // namespace
@@ -36,9 +36,9 @@ DBusProgramInstances::DBusProgramInstances(
     : bus_(bus), bundleID_(bundleID), activateWindows_(std::move(activateWindows))
 {
     constexpr unsigned queueForIt = 0;
-    const auto answer
+    const auto reply
         = bus_.ask(QStringLiteral("RequestName"), {QString::fromStdString(bundleID_), queueForIt});
-    if (!answer)
+    if (!reply)
         Log::warn("No session bus: other instances are not known", logCategory::lifecycle);
 }
 

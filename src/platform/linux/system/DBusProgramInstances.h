@@ -12,8 +12,8 @@ namespace brindlex {
 /// for it, in the order in which they came.
 ///
 /// A process is in the queue from the construction of this object until its connection ends, a
-/// crash included. Without a bus, or with one that does not answer, a process knows of itself
-/// alone; that is told to the log once.
+/// crash included. Without a bus, or with one that does not reply, a process knows of itself
+/// alone; that is logged once.
 class DBusProgramInstances : public ProgramInstances {
 public:
     using ActivateWindows = std::function<void(ProcessIdentifier instance)>;

@@ -50,10 +50,10 @@ std::optional<QDBusMessage> SessionBus::ask(const QString& member, const QVarian
         QStringLiteral("/org/freedesktop/DBus"), QStringLiteral("org.freedesktop.DBus"), member);
     question.setArguments(arguments);
     question.setAutoStartService(false);
-    auto answer = connection_.call(question, QDBus::Block, longestWaitInMilliseconds);
-    if (answer.type() != QDBusMessage::ReplyMessage)
+    auto reply = connection_.call(question, QDBus::Block, longestWaitInMilliseconds);
+    if (reply.type() != QDBusMessage::ReplyMessage)
         return {};
-    return answer;
+    return reply;
 }
 
 } // namespace brindlex

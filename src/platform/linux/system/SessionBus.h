@@ -26,7 +26,7 @@ public:
     QDBusConnection& connection() { return connection_; }
     bool isConnected() const { return connection_.isConnected(); }
 
-    /// Asks the bus itself; nothing when it does not answer within half a second.
+    /// Asks the bus itself; nothing when it does not reply within half a second.
     std::optional<QDBusMessage> ask(const QString& member, const QVariantList& arguments = {});
 
     /// Waits until the bus has taken all that was sent before, no longer than half a second.

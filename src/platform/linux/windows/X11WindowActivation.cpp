@@ -10,7 +10,7 @@ namespace {
 constexpr std::uint32_t sourceIsPager = 2;
 constexpr std::uint32_t onAllDesktops = 0xFFFFFFFF;
 
-void tellWindowManager(
+void askWindowManager(
     X11Connection& connection, xcb_window_t window, std::string_view message, std::uint32_t first)
 {
     xcb_client_message_event_t event{};
@@ -29,8 +29,8 @@ void bringToFront(X11Connection& connection, xcb_window_t window)
 {
     const auto desktop = X11PropertyRequest(connection, window, "_NET_WM_DESKTOP", 4).values();
     if (desktop && !desktop->empty() && desktop->front() != onAllDesktops)
-        tellWindowManager(connection, connection.root(), "_NET_CURRENT_DESKTOP", desktop->front());
-    tellWindowManager(connection, window, "_NET_ACTIVE_WINDOW", sourceIsPager);
+        askWindowManager(connection, connection.root(), "_NET_CURRENT_DESKTOP", desktop->front());
+    askWindowManager(connection, window, "_NET_ACTIVE_WINDOW", sourceIsPager);
 }
 
 /// A round trip, so that the process may end at once.

@@ -40,7 +40,7 @@ public:
     /// False when the server could not be reached, and for good once it has gone.
     bool isAlive() const;
 
-    /// For requests; never null. Requests to a server that has gone do nothing and answer nothing.
+    /// For requests; never null. Requests to a server that has gone do nothing and get no reply.
     xcb_connection_t* get() const { return connection_; }
     /// The root window of the default screen; 0 without a server.
     xcb_window_t root() const { return root_; }
@@ -54,7 +54,7 @@ public:
     /// Every event, in the order of arrival; whoever observes takes what concerns it.
     Subscription observeEvents(EventHandler handler);
 
-    /// Told once, from the loop, when the server goes while the connection is open.
+    /// Notifies once, from the loop, when the server goes while the connection is open.
     Subscription observeEnd(std::function<void()> handler);
 
 private:

@@ -28,22 +28,22 @@ X11PropertyRequest::X11PropertyRequest(X11PropertyRequest&& other) noexcept
 
 std::optional<std::string> X11PropertyRequest::bytes()
 {
-    const auto answer = reply();
-    if (!answer || answer->format != 8)
+    const auto property = reply();
+    if (!property || property->format != 8)
         return {};
-    return std::string(static_cast<const char*>(xcb_get_property_value(answer.get())),
-        static_cast<std::size_t>(xcb_get_property_value_length(answer.get())));
+    return std::string(static_cast<const char*>(xcb_get_property_value(property.get())),
+        static_cast<std::size_t>(xcb_get_property_value_length(property.get())));
 }
 
 std::optional<std::vector<std::uint32_t>> X11PropertyRequest::values()
 {
-    const auto answer = reply();
-    if (!answer || answer->format != 32)
+    const auto property = reply();
+    if (!property || property->format != 32)
         return {};
-    const auto length = static_cast<std::size_t>(xcb_get_property_value_length(answer.get()));
+    const auto length = static_cast<std::size_t>(xcb_get_property_value_length(property.get()));
     std::vector<std::uint32_t> numbers(length / sizeof(std::uint32_t));
     if (!numbers.empty())
-        std::memcpy(numbers.data(), xcb_get_property_value(answer.get()),
+        std::memcpy(numbers.data(), xcb_get_property_value(property.get()),
             numbers.size() * sizeof(std::uint32_t));
     return numbers;
 }
@@ -53,11 +53,11 @@ X11Message<xcb_get_property_reply_t> X11PropertyRequest::reply()
     if (!std::exchange(pending_, false))
         return {};
     xcb_generic_error_t* error = nullptr;
-    X11Message<xcb_get_property_reply_t> answer(
+    X11Message<xcb_get_property_reply_t> property(
         xcb_get_property_reply(connection_, cookie_, &error));
     windowHasGone_ = error && error->error_code == XCB_WINDOW;
     std::free(error);
-    return answer;
+    return property;
 }
 
 } // namespace brindlex

@@ -9,9 +9,9 @@
 
 namespace brindlex {
 
-/// A question about a property of a window that has been sent and not yet been answered.
+/// A request for a property of a window that has been sent and has no reply yet.
 ///
-/// Send several before the first is answered: they then cost one round trip together. What a window
+/// Send several before the first has a reply: they then cost one round trip together. What a window
 /// says of itself is not to be trusted: a missing window, a missing property, another type and more
 /// content than was asked for all give less or nothing, never a failure.
 class X11PropertyRequest {
@@ -30,7 +30,7 @@ public:
     /// The content as 32-bit numbers, unless it has another form.
     std::optional<std::vector<std::uint32_t>> values();
 
-    /// Whether the answer was that there is no such window.
+    /// Whether the reply was that there is no such window.
     bool windowHasGone() const { return windowHasGone_; }
 
 private:

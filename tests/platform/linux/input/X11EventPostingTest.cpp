@@ -34,7 +34,7 @@ SyntheticEvent scroll(std::int64_t up, std::int64_t left)
             {EventField::scrollWheelEventPointDeltaAxis2, left}}};
 }
 
-class X11EventPostingPromise : public testing::Test {
+class X11EventPostingContract : public testing::Test {
 protected:
     void stroke(std::int64_t code, std::uint64_t flags)
     {
@@ -45,7 +45,7 @@ protected:
     TappedDesktop desktop_;
 };
 
-TEST_F(X11EventPostingPromise, clicksWhereItIsTold)
+TEST_F(X11EventPostingContract, clicksWhereItIsAskedTo)
 {
     desktop_.posting.post(button(EventType::rightMouseDown, 1, Point{200, 100}));
     desktop_.posting.post(button(EventType::rightMouseUp, 1, Point{200, 100}));
@@ -54,7 +54,7 @@ TEST_F(X11EventPostingPromise, clicksWhereItIsTold)
     EXPECT_EQ(desktop_.window.pointer(), (EventLogWindow::Position{200, 100}));
 }
 
-TEST_F(X11EventPostingPromise, showsTheEventToTheOwnTapsFirstWithAllItsFields)
+TEST_F(X11EventPostingContract, showsTheEventToTheOwnTapsFirstWithAllItsFields)
 {
     std::vector<Event> seen;
     const auto tap = desktop_.tapping.createTap(
@@ -77,7 +77,7 @@ TEST_F(X11EventPostingPromise, showsTheEventToTheOwnTapsFirstWithAllItsFields)
             {EventType::otherMouseUp, {10, 20}, 0, fields}}));
 }
 
-TEST_F(X11EventPostingPromise, waitsForTheEventInWhoseHandlerItIsCalled)
+TEST_F(X11EventPostingContract, waitsForTheEventInWhoseHandlerItIsCalled)
 {
     Lines order;
     const auto mask
@@ -102,7 +102,7 @@ TEST_F(X11EventPostingPromise, waitsForTheEventInWhoseHandlerItIsCalled)
         order, (Lines{"begin 25", "end", "begin 26", "end", "begin 1", "end", "begin 2", "end"}));
 }
 
-TEST_F(X11EventPostingPromise, sendsAKeyWithExactlyItsModifiers)
+TEST_F(X11EventPostingContract, sendsAKeyWithExactlyItsModifiers)
 {
     desktop_.keyboard.press(keycode::control);
     desktop_.settle();
@@ -120,7 +120,7 @@ TEST_F(X11EventPostingPromise, sendsAKeyWithExactlyItsModifiers)
     EXPECT_EQ(desktop_.window.held(), Lines{});
 }
 
-TEST_F(X11EventPostingPromise, holdsNoModifierThatTheHandHasLetGo)
+TEST_F(X11EventPostingContract, holdsNoModifierThatTheHandHasLetGo)
 {
     desktop_.keyboard.press(keycode::control);
     desktop_.settle();
@@ -136,7 +136,7 @@ TEST_F(X11EventPostingPromise, holdsNoModifierThatTheHandHasLetGo)
     EXPECT_EQ(desktop_.window.held(), Lines{});
 }
 
-TEST_F(X11EventPostingPromise, canHoldTheSameModifierAgainAfterTheHandHasLetItGo)
+TEST_F(X11EventPostingContract, canHoldTheSameModifierAgainAfterTheHandHasLetItGo)
 {
     desktop_.keyboard.press(keycode::shift);
     desktop_.settle();
@@ -152,7 +152,7 @@ TEST_F(X11EventPostingPromise, canHoldTheSameModifierAgainAfterTheHandHasLetItGo
         {"key 50 down", "key 38 down (shift)", "key 38 up (shift)", "key 50 up (shift)"}));
 }
 
-TEST_F(X11EventPostingPromise, takesCommandForSuper)
+TEST_F(X11EventPostingContract, takesCommandForSuper)
 {
     stroke(virtualKey::a, eventFlag::command);
 
@@ -160,7 +160,7 @@ TEST_F(X11EventPostingPromise, takesCommandForSuper)
         {"key 133 down", "key 38 down (super)", "key 38 up (super)", "key 133 up (super)"}));
 }
 
-TEST_F(X11EventPostingPromise, goesBackAndForwardAsApplicationsHereDo)
+TEST_F(X11EventPostingContract, goesBackAndForwardAsApplicationsHereDo)
 {
     stroke(33, eventFlag::command);
     desktop_.settle();
@@ -171,7 +171,7 @@ TEST_F(X11EventPostingPromise, goesBackAndForwardAsApplicationsHereDo)
             "key 114 down (alt)", "key 114 up (alt)", "key 64 up (alt)"}));
 }
 
-TEST_F(X11EventPostingPromise, turnsPixelsIntoNotches)
+TEST_F(X11EventPostingContract, turnsPixelsIntoNotches)
 {
     desktop_.posting.post(scroll(4, 0));
     desktop_.posting.post(scroll(4, 0));
@@ -182,7 +182,7 @@ TEST_F(X11EventPostingPromise, turnsPixelsIntoNotches)
         "release 5", "press 5", "release 5"}));
 }
 
-TEST_F(X11EventPostingPromise, refusesWhatCannotBeMade)
+TEST_F(X11EventPostingContract, refusesWhatCannotBeMade)
 {
     EXPECT_FALSE(desktop_.posting.post(key(EventType::keyDown, 52, 0)));
     EXPECT_FALSE(desktop_.posting.post(key(EventType::keyDown, -1, 0)));
