@@ -74,7 +74,7 @@ std::optional<IBusAddress> ibusAddress()
     const auto content = readFile(file, fileLimit);
     if (!content || !*content)
         return {};
-    const auto address = parseIBusAddress(**content);
+    auto address = parseIBusAddress(**content);
     if (!address || !isRunning(address->processIdentifier))
         return {};
     return address;
