@@ -37,4 +37,21 @@ private:
     std::string service_;
 };
 
+/// The main function of a program whose one argument is the folder that it shares with the test.
+/// `Program` is made of the bus and that folder and responds to questions with its operation
+/// `answer`; the code for `exit`.
+template <typename Program>
+int runAccessibleProgram(int count, char** arguments)
+{
+    if (count != 2)
+        return 4;
+    const AccessibleProgram bus;
+    if (!bus.isConnected())
+        return 1;
+    Program program{.bus = bus, .folder = arguments[1]};
+    return bus.run(program.folder, [&](sd_bus_message* question, const std::string& object) {
+        return program.answer(question, object);
+    });
+}
+
 } // namespace brindlex

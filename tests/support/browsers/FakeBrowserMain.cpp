@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 struct Program {
     const AccessibleProgram& bus;
     std::string folder;
-    std::vector<FakeBrowser::Window> windows;
+    std::vector<FakeBrowser::Window> windows{};
     Behaviour behaviour = Behaviour::answers;
 
     void readOffer()
@@ -126,21 +126,10 @@ struct Program {
     }
 };
 
-int runProgram(const std::string& folder)
-{
-    AccessibleProgram bus;
-    if (!bus.isConnected())
-        return 1;
-    Program program{.bus = bus, .folder = folder, .windows = {}};
-    return bus.run(folder, [&](sd_bus_message* question, const std::string& object) {
-        return program.answer(question, object);
-    });
-}
-
 } // namespace
 } // namespace brindlex
 
 int main(int count, char** arguments)
 {
-    return count == 2 ? brindlex::runProgram(arguments[1]) : 4;
+    return brindlex::runAccessibleProgram<brindlex::Program>(count, arguments);
 }

@@ -18,7 +18,7 @@ constexpr int nobody = -2;
 struct Program {
     const AccessibleProgram& bus;
     std::string folder;
-    std::vector<Element> elements;
+    std::vector<Element> elements{};
     Behaviour behaviour = Behaviour::answers;
 
     void readOffer()
@@ -165,21 +165,10 @@ struct Program {
     }
 };
 
-int runProgram(const std::string& folder)
-{
-    AccessibleProgram bus;
-    if (!bus.isConnected())
-        return 1;
-    Program self{.bus = bus, .folder = folder, .elements = {}};
-    return bus.run(folder, [&](sd_bus_message* question, const std::string& object) {
-        return self.answer(question, object);
-    });
-}
-
 } // namespace
 } // namespace brindlex
 
 int main(int count, char** arguments)
 {
-    return count == 2 ? brindlex::runProgram(arguments[1]) : 4;
+    return brindlex::runAccessibleProgram<brindlex::Program>(count, arguments);
 }
