@@ -10,7 +10,7 @@ constexpr std::uint32_t someAtoms = 32 * sizeof(std::uint32_t);
 
 using Name = std::pair<std::string_view, bool X11WindowKind::*>;
 
-constexpr std::array types{
+constexpr std::array typeNames{
     Name{"_NET_WM_WINDOW_TYPE_DESKTOP", &X11WindowKind::isDesktop},
     Name{"_NET_WM_WINDOW_TYPE_DOCK", &X11WindowKind::isFurniture},
     Name{"_NET_WM_WINDOW_TYPE_MENU", &X11WindowKind::isFurniture},
@@ -21,7 +21,7 @@ constexpr std::array types{
     Name{"_NET_WM_WINDOW_TYPE_SPLASH", &X11WindowKind::isFurniture},
 };
 
-constexpr std::array states{
+constexpr std::array stateNames{
     Name{"_NET_WM_STATE_HIDDEN", &X11WindowKind::isHidden},
     Name{"_NET_WM_STATE_ABOVE", &X11WindowKind::isAbove},
     Name{"_NET_WM_STATE_SKIP_TASKBAR", &X11WindowKind::skipsTaskbar},
@@ -31,9 +31,9 @@ constexpr std::array states{
 
 X11WindowKinds::X11WindowKinds(const std::function<std::uint32_t(std::string_view)>& atomOf)
 {
-    for (const auto& [name, meaning] : types)
+    for (const auto& [name, meaning] : typeNames)
         types_.emplace_back(atomOf(name), meaning);
-    for (const auto& [name, meaning] : states)
+    for (const auto& [name, meaning] : stateNames)
         states_.emplace_back(atomOf(name), meaning);
 }
 
