@@ -5,7 +5,7 @@
 // environment names, with whichever input method runs there.
 //
 // "bare" is the daemon's own call over a connection that is kept, or the server's own request, and
-// the answer to it. "select" is the call of the program's interface, by which the source is
+// the reply to it. "select" is the call of the program's interface, by which the source is
 // selected unless the daemon takes longer than 30 ms.
 
 #include "platform/linux/applications/X11RunningApplications.h"

@@ -17,11 +17,11 @@ void FrameDriver::start(FrameHandler handler, std::optional<float> lowestRate)
     if (source_ != Source::idle)
         return;
     if (const auto maximum = displayLink_.maximumFramesPerSecond()) {
-        std::optional<double> wish;
+        std::optional<double> rate;
         if (lowestRate)
-            wish = std::max(static_cast<float>(*maximum), *lowestRate);
+            rate = std::max(static_cast<float>(*maximum), *lowestRate);
         source_ = Source::display;
-        frames_ = displayLink_.onEachFrame(wish, std::move(handler));
+        frames_ = displayLink_.onEachFrame(rate, std::move(handler));
     } else {
         source_ = Source::timer;
         frames_ = mainThread_.every(nominalFrame,

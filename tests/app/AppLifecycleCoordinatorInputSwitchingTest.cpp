@@ -45,7 +45,7 @@ TEST_F(AppLifecycleCoordinatorInputSwitching, switchesInSilenceWhereTheFirstLook
 
     EXPECT_EQ(computer.inputSources.attempts(), std::vector<std::string>{german});
     EXPECT_EQ(computer.overlayPanel.calls(), std::vector<std::string>{})
-        << "the switch came with the construction, before anybody asked to be told";
+        << "the switch came with the construction, before anybody asked to be notified";
 }
 
 TEST_F(AppLifecycleCoordinatorInputSwitching, saysThatASecondLaunchAskedForTheWindow)

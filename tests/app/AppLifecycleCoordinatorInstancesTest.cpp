@@ -31,7 +31,7 @@ TEST(AppLifecycleCoordinator, wakesTheFirstInstanceAndStartsNothing)
         services->session.activated, std::vector<ProgramInstances::ProcessIdentifier>{process});
 }
 
-TEST(AppLifecycleCoordinator, answersASecondLaunchBeforeTheUsersEyes)
+TEST(AppLifecycleCoordinator, reactsToASecondLaunchBeforeTheUsersEyes)
 {
     const auto services = std::make_shared<SimulatedSessionServices>();
     SimulatedProgram first(services);

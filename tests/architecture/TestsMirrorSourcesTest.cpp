@@ -32,7 +32,7 @@ const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheir
     {"DesktopInputSourcesTest, with real daemons",
         {"Fcitx5Method", "IBusConnection", "IBusEngine", "XkbRegistry"}},
     {"DBusNotificationsTest and DBusProgramInstancesTest, on a real bus",
-        {"DBusAnswer", "DBusSignal", "SessionBus"}},
+        {"DBusReply", "DBusSignal", "SessionBus"}},
     {"PreferenceFileTest", {"FolderLock"}},
     {"UserDefaultPreferenceKeysTest and the tests of the stores",
         {"InputMethodPreferenceKeys", "MousePreferenceKeys"}},

@@ -33,7 +33,7 @@ MouseDesk::MouseDesk(VirtualDesktop::Options options)
     constexpr int asItIs = 1;
     xcb_change_pointer_control(server.get(), asItIs, asItIs, 0, true, true);
     server.sync();
-    // The driver answers for what was played once anything was.
+    // The driver counts what was played once anything was.
     mouse.move(1, 0);
     mouse.settle();
 }
@@ -72,9 +72,9 @@ void MouseDesk::settle() const
 
 std::optional<long> MouseDesk::timesAtRest() const
 {
-    if (program && waitsForAnswer(program->process()))
+    if (program && waitsForReply(program->process()))
         return std::nullopt;
-    if (const auto manager = desktop.windowManager(); manager && waitsForAnswer(*manager))
+    if (const auto manager = desktop.windowManager(); manager && waitsForReply(*manager))
         return std::nullopt;
     long sum = 0;
     for (const auto process : children()) {

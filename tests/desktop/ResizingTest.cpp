@@ -14,7 +14,7 @@ using Position = EventLogWindow::Position;
 constexpr auto timeToStart = 20s;
 /// A window that stands still for this long stands where it is to be.
 constexpr auto restful = 100ms;
-/// How often an answer about an element may come too late for the press that asked.
+/// How often a reply about an element may come too late for the press that asked.
 constexpr int mostTries = 50;
 
 /// A window manager whose windows are resized by the handle below their contents.
@@ -194,7 +194,7 @@ TEST_F(Resizing, ofASplitViewByItsDividerIsLeftToTheApplication)
     const auto divider = at(200, 150);
     const Lines plainClick{"press 1", "release 1"};
 
-    // On a busy computer an answer may take longer than a press waits for it.
+    // On a busy computer a reply may take longer than a press waits for it.
     for (int tries = 0; tries < mostTries && input() != plainClick; ++tries)
         dragFrom(divider, -60, 0);
 

@@ -96,7 +96,7 @@ TEST_F(StrangeWindows, mayComeToTheFrontAHundredTimesASecond)
 
     EXPECT_TRUE(eventually([&] { return keyboardGroup(desk.server) == russianGroup; }, 2s))
         << program->report();
-    EXPECT_TRUE(desk.keepsGroup(russianGroup)) << "An earlier window was answered too late.";
+    EXPECT_TRUE(desk.keepsGroup(russianGroup)) << "An earlier window was replied to too late.";
     EXPECT_EQ(program->quit(), (ProcessEnd{0, {}})) << program->report();
 }
 

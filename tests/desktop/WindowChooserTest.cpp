@@ -287,7 +287,7 @@ TEST_F(WindowChooserInTime, givesTheKeysBackWhenTheProgramIsStopped)
 
     desk.program->child().signal(SIGCONT);
     EXPECT_TRUE(desk.program->logs("Mission Control: the list of windows was closed, as the "
-                                   "program did not answer"))
+                                   "program did not reply"))
         << desk.program->report();
     EXPECT_TRUE(isGone());
     EXPECT_TRUE(eventually([&] { return desk.isAnyDeviceTaken(); })) << desk.program->report();

@@ -26,7 +26,7 @@ struct GlobalEventTapTest : testing::Test {
     static constexpr EventMask keyPresses = eventMask(EventType::keyDown);
     static constexpr EventMask wheel = eventMask(EventType::scrollWheel);
 
-    /// A handler that notes its name and answers the verdict.
+    /// A handler that notes its name and returns the verdict.
     GlobalEventTap::Handler noting(std::string name, EventVerdict verdict = EventVerdict::pass)
     {
         return [this, name = std::move(name), verdict](const Event&) {

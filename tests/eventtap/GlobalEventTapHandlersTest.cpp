@@ -39,7 +39,7 @@ TEST_F(GlobalEventTapTest, survivesTheLossOfPermissionInsideAHandler)
 {
     tap.subscribe(keyPresses, [&](const Event&) {
         permissions.set(false);
-        permissions.tell();
+        permissions.notify();
         return EventVerdict::swallow;
     });
 

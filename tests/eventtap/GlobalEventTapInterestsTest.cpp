@@ -62,13 +62,13 @@ TEST_F(GlobalEventTapInterestsTest, changedWithoutATapCountForTheNextOne)
 {
     const auto id = tap.subscribe(mouseButtonMaskOf(2), swallowing, sideButton);
     permissions.set(false);
-    permissions.tell();
+    permissions.notify();
 
     tap.setTriggers(id, forwardButton);
 
     EXPECT_FALSE(tap.isLive());
     permissions.set(true);
-    permissions.tell();
+    permissions.notify();
     EXPECT_EQ(mouse.press(3), EventVerdict::pass);
     EXPECT_EQ(mouse.press(4), EventVerdict::swallow);
 }
@@ -89,7 +89,7 @@ TEST_F(GlobalEventTapsLifeTest, isSwitchedOffBeforeItGoes)
     tap.subscribe(eventMask(EventType::scrollWheel), passing);
     tap.unsubscribe(id);
     permissions.set(false);
-    permissions.tell();
+    permissions.notify();
 
     EXPECT_EQ(journal.entries(),
         (Lines{"tap 0x400", "tap on", "tap off", "tap ends", "tap 0x400400", "tap on", "tap off",
@@ -101,7 +101,7 @@ TEST_F(GlobalEventTapsLifeTest, doesNotBeginAgainByWordOfATapThatIsGone)
     tap.subscribe(eventMask(EventType::keyDown), swallowing);
     const auto handler = input.newestHandler();
     permissions.set(false);
-    permissions.tell();
+    permissions.notify();
     log.takeLines();
     journal.take();
 

@@ -30,7 +30,7 @@ TEST_F(GlobalEventTapTest, saysThatTheSystemRefusedAndKeepsTheSubscription)
     EXPECT_FALSE(tap.isLive());
 
     input.setRefusesTaps(false);
-    permissions.tell();
+    permissions.notify();
 
     EXPECT_EQ(log.takeLines(),
         (Lines{"INFO [mouse] GlobalEventTap: rebuilding, permission regained (ax-distributed)"}));
@@ -61,7 +61,7 @@ TEST_F(GlobalEventTapTest, leavesAGoodTapAlone)
     tap.subscribe(keyPresses, noting("only"));
 
     activation.becomeActive();
-    permissions.tell();
+    permissions.notify();
 
     EXPECT_EQ(input.tapsMade(), 1u);
     EXPECT_EQ(log.lines(), Lines{});
@@ -86,9 +86,9 @@ TEST_F(GlobalEventTapTest, goesAndComesWithAccessibility)
     tap.subscribe(keyPresses, noting("first"));
     tap.subscribe(keyPresses, noting("second"));
     permissions.isTrusted = false;
-    permissions.tell();
+    permissions.notify();
     permissions.isTrusted = true;
-    permissions.tell();
+    permissions.notify();
 
     EXPECT_EQ(log.takeLines(),
         (Lines{"WARN [mouse] GlobalEventTap: tearing down, permission lost (ax-distributed)",
@@ -100,8 +100,8 @@ TEST_F(GlobalEventTapTest, goesAndComesWithAccessibility)
 TEST_F(GlobalEventTapTest, asksForBothPermissionsEachTime)
 {
     permissions.isTrusted = false;
-    permissions.tell();
-    permissions.tell();
+    permissions.notify();
+    permissions.notify();
 
     EXPECT_EQ(permissions.timesAsked, 4);
 }

@@ -157,7 +157,7 @@ TEST(GlobalEventTap, leavesNothingBehind)
     }
     EXPECT_EQ(input.tapMasks(), std::vector<EventMask>{});
     EXPECT_FALSE(activation.isObserved());
-    permissions.tell();
+    permissions.notify();
 }
 
 } // namespace

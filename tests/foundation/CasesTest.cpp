@@ -66,13 +66,13 @@ TEST(Cases, giveTheirPayloadAwayWhenTheyAreMoved)
     EXPECT_EQ(*taken, 7);
 }
 
-TEST(Cases, areTakenApartByArmsThatAnswerWithAReference)
+TEST(Cases, areTakenApartByArmsThatReturnAReference)
 {
     Cases<int, double> choice = 5;
     int zero = 0;
-    int& answer = match(
+    int& result = match(
         choice, [](int& value) -> int& { return value; }, [&](double&) -> int& { return zero; });
-    answer = 6;
+    result = 6;
 
     EXPECT_EQ(std::get<int>(choice), 6);
 }

@@ -23,7 +23,7 @@ struct FileReading : testing::Test {
     fs::path file = folder.path() / "config.json";
 };
 
-TEST_F(FileReading, answersNothingForAMissingFile)
+TEST_F(FileReading, returnsNothingForAMissingFile)
 {
     EXPECT_EQ(readFile(file, 10), Read(std::nullopt));
 

@@ -52,7 +52,7 @@ TEST(Result, givesAccessToTheMembersOfItsValue)
     EXPECT_EQ(result->size(), 4u);
 }
 
-TEST(Result, succeedsWithoutAnAnswer)
+TEST(Result, succeedsWithoutAValue)
 {
     const Result<Done, std::string> done = Done{};
     EXPECT_TRUE(done);

@@ -11,17 +11,17 @@ namespace brindlex {
 namespace {
 
 using Handler = std::function<void(int)>;
-using Told = std::vector<std::string>;
+using Notified = std::vector<std::string>;
 
 class SubscribersTest : public testing::Test {
 protected:
     Handler recorder(const std::string& name)
     {
-        return [this, name](int value) { told.push_back(name + std::to_string(value)); };
+        return [this, name](int value) { notified.push_back(name + std::to_string(value)); };
     }
 
     Subscribers<Handler> subscribers;
-    Told told;
+    Notified notified;
 };
 
 TEST_F(SubscribersTest, areToldInTheOrderOfSubscribing)
@@ -32,7 +32,7 @@ TEST_F(SubscribersTest, areToldInTheOrderOfSubscribing)
 
     subscribers.notify(1);
 
-    EXPECT_EQ(told, (Told{"a1", "b1", "c1"}));
+    EXPECT_EQ(notified, (Notified{"a1", "b1", "c1"}));
 }
 
 TEST_F(SubscribersTest, areNoneAtFirstAndAfterTheLastHasGone)
@@ -44,7 +44,7 @@ TEST_F(SubscribersTest, areNoneAtFirstAndAfterTheLastHasGone)
     EXPECT_TRUE(subscribers.isEmpty());
 
     subscribers.notify(1);
-    EXPECT_EQ(told, Told{});
+    EXPECT_EQ(notified, Notified{});
 }
 
 TEST_F(SubscribersTest, keepTheirOrderWhenOneGoes)
@@ -57,7 +57,7 @@ TEST_F(SubscribersTest, keepTheirOrderWhenOneGoes)
 
     subscribers.notify(1);
 
-    EXPECT_EQ(told, (Told{"a1", "c1", "d1"}));
+    EXPECT_EQ(notified, (Notified{"a1", "c1", "d1"}));
 }
 
 TEST_F(SubscribersTest, areToldNoMoreOnceTheyWentDuringTheTelling)
@@ -69,7 +69,7 @@ TEST_F(SubscribersTest, areToldNoMoreOnceTheyWentDuringTheTelling)
 
     subscribers.notify(1);
 
-    EXPECT_EQ(told, Told{"c1"});
+    EXPECT_EQ(notified, Notified{"c1"});
 }
 
 TEST_F(SubscribersTest, mayGoWhileTheyAreToldThemselves)
@@ -77,14 +77,14 @@ TEST_F(SubscribersTest, mayGoWhileTheyAreToldThemselves)
     Subscription own;
     own = subscribers.add([&](int value) {
         own.reset();
-        told.push_back("own" + std::to_string(value));
+        notified.push_back("own" + std::to_string(value));
     });
     const auto b = subscribers.add(recorder("b"));
 
     subscribers.notify(1);
     subscribers.notify(2);
 
-    EXPECT_EQ(told, (Told{"own1", "b1", "b2"}));
+    EXPECT_EQ(notified, (Notified{"own1", "b1", "b2"}));
 }
 
 TEST_F(SubscribersTest, areToldFromTheNextTimeOnWhenTheyCameDuringTheTelling)
@@ -96,9 +96,9 @@ TEST_F(SubscribersTest, areToldFromTheNextTimeOnWhenTheyCameDuringTheTelling)
     });
 
     subscribers.notify(1);
-    EXPECT_EQ(told, Told{});
+    EXPECT_EQ(notified, Notified{});
     subscribers.notify(2);
-    EXPECT_EQ(told, Told{"late2"});
+    EXPECT_EQ(notified, Notified{"late2"});
 }
 
 TEST_F(SubscribersTest, mayBeToldFromInsideTheTelling)
@@ -111,7 +111,7 @@ TEST_F(SubscribersTest, mayBeToldFromInsideTheTelling)
 
     subscribers.notify(1);
 
-    EXPECT_EQ(told, (Told{"b2", "b1"}));
+    EXPECT_EQ(notified, (Notified{"b2", "b1"}));
 }
 
 TEST_F(SubscribersTest, mayOutliveTheirList)
@@ -134,7 +134,7 @@ TEST_F(SubscribersTest, mayEndTheirListWhileTheyAreTold)
     owned->notify(1);
 
     EXPECT_EQ(owned, nullptr);
-    EXPECT_EQ(told, Told{"b1"});
+    EXPECT_EQ(notified, Notified{"b1"});
 }
 
 TEST_F(SubscribersTest, areToldUntilOneIsEnough)
@@ -145,10 +145,10 @@ TEST_F(SubscribersTest, areToldUntilOneIsEnough)
 
     subscribers.forEachWhile([&](const Handler& handler) {
         handler(1);
-        return told.size() < 2;
+        return notified.size() < 2;
     });
 
-    EXPECT_EQ(told, (Told{"a1", "b1"}));
+    EXPECT_EQ(notified, (Notified{"a1", "b1"}));
 }
 
 } // namespace

@@ -119,7 +119,7 @@ TEST_F(BrowserURLProviderTest, itsHostIsAbsentForABrowserWithoutAWindow)
     EXPECT_EQ(hostOf("com.google.Chrome", ""), std::nullopt);
 }
 
-TEST_F(BrowserURLProviderTest, itsHostIsAbsentForABrowserThatDoesNotAnswer)
+TEST_F(BrowserURLProviderTest, itsHostIsAbsentForABrowserThatDoesNotReply)
 {
     EXPECT_EQ(hostOf("com.google.Chrome", std::nullopt), std::nullopt);
 }

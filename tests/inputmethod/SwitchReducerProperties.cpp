@@ -19,7 +19,7 @@ std::ptrdiff_t count(const Effects& effects)
         [](const auto& effect) { return std::holds_alternative<Effect>(effect); });
 }
 
-/// At most one selection, never of the source that is selected, and told of exactly once.
+/// At most one selection, never of the source that is selected, and reported exactly once.
 void checkSelections(const SwitchStep& step)
 {
     const auto hud = count<SwitchEffect::FireHUD>(step.effects);

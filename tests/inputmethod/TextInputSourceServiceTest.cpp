@@ -83,10 +83,10 @@ TEST_F(TextInputSourceServiceTest, listsWhatCanBeSelectedInTheOrderOfTheSystem)
         (std::vector<TextInputSource>{{"b", "B", true, true}, {"a", "A", true, true}}));
 }
 
-TEST_F(TextInputSourceServiceTest, listsNothingWhenTheSystemDoesNotAnswer)
+TEST_F(TextInputSourceServiceTest, listsNothingWhenTheSystemDoesNotReply)
 {
     system.install(keyboard("a", "A"));
-    system.setAnswers(false);
+    system.setResponds(false);
 
     EXPECT_TRUE(service.availableSources().empty());
     EXPECT_EQ(service.current(), std::nullopt);

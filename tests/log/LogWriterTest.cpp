@@ -75,7 +75,7 @@ TEST_F(LogWriterTest, givesALineTheTimeOfItsCall)
               "Brindlex/AppLifecycleCoordinator:63 — an hour back\n");
 }
 
-TEST_F(LogWriterTest, answersWithTheFileAndMakesItsFolder)
+TEST_F(LogWriterTest, returnsTheFileAndMakesItsFolder)
 {
     EXPECT_EQ(writer->fileURL(Log::Subsystem::finder), logs / "com.brindlex.Brindlex.finder.log");
     EXPECT_TRUE(fs::is_directory(logs));

@@ -48,15 +48,15 @@ TEST_F(FrameDriverTest, givesTheTimesOfTheClockWithoutAScreen)
 TEST_F(FrameDriverTest, asksTheScreenForItsOwnRateOrForTheLowest)
 {
     driver.start(noting());
-    EXPECT_EQ(displayLink.lastWish, std::nullopt);
+    EXPECT_EQ(displayLink.lastRate, std::nullopt);
     driver.stop();
     displayLink.framesPerSecond = 59.94;
     driver.start(noting(), 60.0F);
-    EXPECT_EQ(displayLink.lastWish, 60);
+    EXPECT_EQ(displayLink.lastRate, 60);
     driver.stop();
     displayLink.framesPerSecond = 143.9;
     driver.start(noting(), 60.0F);
-    EXPECT_EQ(displayLink.lastWish, static_cast<double>(143.9F));
+    EXPECT_EQ(displayLink.lastRate, static_cast<double>(143.9F));
 }
 
 TEST_F(FrameDriverTest, isStartedOnce)

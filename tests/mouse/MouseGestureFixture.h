@@ -11,7 +11,7 @@
 
 namespace brindlex {
 
-/// The gestures after their last event, with bindings, a time and the answer about resizing as a
+/// The gestures after their last event, with bindings, a time and the verdict about resizing as a
 /// test sets them.
 struct MouseGestureTest : testing::Test {
     using Effect = MouseGestureEffect::Any;

@@ -255,10 +255,10 @@ TEST_F(MouseGestureManagerTest, comesBackWithTheTap)
     bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     gestures.start();
     permissions.set(false);
-    permissions.tell();
+    permissions.notify();
     EXPECT_EQ(mouse.press(3), EventVerdict::pass);
     permissions.set(true);
-    permissions.tell();
+    permissions.notify();
 
     EXPECT_EQ(mouse.press(3), EventVerdict::swallow);
 }

@@ -79,7 +79,7 @@ void MouseScenarioStage::set(ScenarioWords setting)
 void MouseScenarioStage::setPermission(bool isGiven)
 {
     subsystem_.permissions.set(isGiven);
-    subsystem_.permissions.tell();
+    subsystem_.permissions.notify();
 }
 
 void MouseScenarioStage::placeElement(const std::string& role)

@@ -122,7 +122,7 @@ private:
             break;
         case 4:
             session.permissions.set(number(4) != 0);
-            session.permissions.tell();
+            session.permissions.notify();
             break;
         case 5:
             session.input.switchTapsOff(EventType::tapDisabledByTimeout);
@@ -213,7 +213,7 @@ TEST_P(RandomInputInTheSession, hasOneTapAtMostAndEndsWithoutAnyPress)
         EXPECT_LE(input.session.input.tapMasks().size(), 1u);
     }
     input.session.permissions.set(true);
-    input.session.permissions.tell();
+    input.session.permissions.notify();
     input.letGo();
     input.session.clicks.tearDown();
     input.session.gestures.tearDown();

@@ -86,7 +86,7 @@ TEST(ResizeControlSearch, givesEachElementThirtyMilliseconds)
     EXPECT_EQ(elements[4]->timesAsked, 0);
 }
 
-TEST(ResizeControlSearch, takesASlowAnswerForNone)
+TEST(ResizeControlSearch, takesASlowReplyForNone)
 {
     auto elements = chain({"AXSplitter", "AXHandle"});
     elements[0]->latency = 0.031;

@@ -32,7 +32,7 @@ TEST_F(ScrollSmootherTest, runsWithTheScreenUntilItIsDrained)
 {
     smoother.add(eventFlag::option, {100, 0});
     EXPECT_EQ(driver.source(), Source::display);
-    EXPECT_EQ(displayLink.lastWish, std::nullopt);
+    EXPECT_EQ(displayLink.lastRate, std::nullopt);
     EXPECT_TRUE(posts.empty());
 
     int frames = 0;

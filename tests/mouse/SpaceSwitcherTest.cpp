@@ -123,10 +123,10 @@ TEST_F(SpaceSwitcherTest, startsAgainRightAfterItsEnd)
 
 TEST_F(SpaceSwitcherTest, asksForSixtyFramesOrMore)
 {
-    for (const auto& [screen, wish] : {std::pair{30.0, 60.0}, {60.0, 60.0}, {120.0, 120.0}}) {
+    for (const auto& [screen, rate] : {std::pair{30.0, 60.0}, {60.0, 60.0}, {120.0, 120.0}}) {
         displayLink.framesPerSecond = screen;
         switcher.start(true);
-        EXPECT_EQ(displayLink.lastWish, wish);
+        EXPECT_EQ(displayLink.lastRate, rate);
         displayLink.frame(1);
         displayLink.frame(2);
     }

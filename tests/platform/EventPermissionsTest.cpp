@@ -17,12 +17,12 @@ public:
     void allowAccessibility(bool allows)
     {
         permissions_.isTrusted = allows;
-        permissions_.tell();
+        permissions_.notify();
     }
     void allowInputMonitoring(bool allows)
     {
         permissions_.canListen = allows;
-        permissions_.tell();
+        permissions_.notify();
     }
 
 private:

@@ -17,7 +17,7 @@ public:
     /// Says what is done now.
     void tell(const std::string& words);
 
-    /// Says what came of it, and whether it is as it should be; answers `holds`.
+    /// Says what came of it, and whether it is as it should be; returns `holds`.
     bool check(bool holds, const std::string& words);
 
     /// Leaves a picture of the whole screen under this name.

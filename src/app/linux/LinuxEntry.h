@@ -8,7 +8,7 @@
 namespace brindlex {
 
 /// Runs the program on the desktop that `DISPLAY` names, until it is asked to end: by a signal, by
-/// the end of the session, or because another instance runs. Answers the exit status of the
+/// the end of the session, or because another instance runs. Returns the exit status of the
 /// process; does not return when the X server goes away, but ends the process with the log
 /// complete.
 int runOnDesktop(char* programName, Clock& clock, XdgUserFolders& userFolders,

@@ -7,17 +7,17 @@
 
 namespace brindlex {
 
-/// An element that answers what it was given.
+/// An element that returns what it was given.
 class SimulatedElement : public AccessibilityElement {
 public:
     void setMessagingTimeout(Seconds timeout) override { messagingTimeout = timeout; }
-    std::optional<std::string> role() override { return answer(givenRole); }
-    std::optional<std::string> subrole() override { return answer(givenSubrole); }
-    std::optional<std::string> roleDescription() override { return answer(givenDescription); }
-    std::shared_ptr<AccessibilityElement> parent() override { return answer(givenParent); }
-    std::shared_ptr<AccessibilityElement> window() override { return answer(givenWindow); }
-    std::optional<Point> position() override { return answer(givenPosition); }
-    std::optional<Size> size() override { return answer(givenSize); }
+    std::optional<std::string> role() override { return reply(givenRole); }
+    std::optional<std::string> subrole() override { return reply(givenSubrole); }
+    std::optional<std::string> roleDescription() override { return reply(givenDescription); }
+    std::shared_ptr<AccessibilityElement> parent() override { return reply(givenParent); }
+    std::shared_ptr<AccessibilityElement> window() override { return reply(givenWindow); }
+    std::optional<Point> position() override { return reply(givenPosition); }
+    std::optional<Size> size() override { return reply(givenSize); }
 
     std::optional<std::string> givenRole{};
     std::optional<std::string> givenSubrole{};
@@ -27,14 +27,14 @@ public:
     std::optional<Point> givenPosition{};
     std::optional<Size> givenSize{};
 
-    /// How long an answer takes; longer than the time-out, and there is none.
+    /// How long a reply takes; longer than the time-out, and there is none.
     Seconds latency = 0;
     std::optional<Seconds> messagingTimeout{};
     int timesAsked = 0;
 
 private:
     template <typename Value>
-    Value answer(const Value& given)
+    Value reply(const Value& given)
     {
         ++timesAsked;
         return messagingTimeout && latency > *messagingTimeout ? Value() : given;

@@ -13,11 +13,11 @@ std::optional<std::string> SimulatedBrowserPages::currentURL(
     const std::string& bundleID, const std::string& script)
 {
     scripts_.push_back(script);
-    auto answer = known(bundleID);
-    answered_[bundleID] = answer;
+    auto reply = known(bundleID);
+    lastRead_[bundleID] = reply;
     if (!readings_[bundleID].isActive() && !held_.contains(bundleID))
         read(bundleID);
-    return answer;
+    return reply;
 }
 
 Subscription SimulatedBrowserPages::observeChanges(std::function<void()> handler)
@@ -57,7 +57,7 @@ void SimulatedBrowserPages::finish(const std::string& bundleID)
         read_[bundleID] = page->second;
     else
         read_.erase(bundleID);
-    if (known(bundleID) != answered_[bundleID])
+    if (known(bundleID) != lastRead_[bundleID])
         observers_.notify();
 }
 

@@ -46,7 +46,7 @@ private:
     bool isBusy_ = false;
     std::map<std::string, std::string> pages_;
     std::map<std::string, std::string> read_;
-    std::map<std::string, std::optional<std::string>> answered_;
+    std::map<std::string, std::optional<std::string>> lastRead_;
     std::map<std::string, Subscription> readings_;
     std::set<std::string> held_;
     std::vector<std::string> scripts_;

@@ -12,9 +12,9 @@ public:
     explicit SimulatedDisplayLink(SimulatedJournal::Writer journal = {}) : journal_(journal) { }
 
     std::optional<double> maximumFramesPerSecond() const override { return framesPerSecond; }
-    Subscription onEachFrame(std::optional<double> wish, FrameHandler handler) override
+    Subscription onEachFrame(std::optional<double> rate, FrameHandler handler) override
     {
-        lastWish = wish;
+        lastRate = rate;
         return journal_.addObservation("frames", subscribers_.add(std::move(handler)));
     }
 
@@ -25,7 +25,7 @@ public:
     /// Absent: there is no screen.
     std::optional<double> framesPerSecond = 60;
     /// The rate that was last requested.
-    std::optional<double> lastWish{};
+    std::optional<double> lastRate{};
 
 private:
     SimulatedJournal::Writer journal_;

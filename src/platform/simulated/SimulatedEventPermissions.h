@@ -31,7 +31,7 @@ public:
     void set(bool isGranted) { isTrusted = canListen = isGranted; }
 
     /// Notifies that the permission to control others may have changed.
-    void tell() { subscribers_.notify(); }
+    void notify() { subscribers_.notify(); }
 
     bool isTrusted = true;
     bool canListen = true;

@@ -23,7 +23,7 @@ bool matches(const InputSourceFilter& filter, const InputSourceProperties& sourc
 
 std::optional<InputSourceProperties> SimulatedInputSources::current()
 {
-    const auto* source = answers_ && selected_ ? find(*selected_) : nullptr;
+    const auto* source = responds_ && selected_ ? find(*selected_) : nullptr;
     if (!source)
         return {};
     return *source;
@@ -32,7 +32,7 @@ std::optional<InputSourceProperties> SimulatedInputSources::current()
 std::optional<std::vector<InputSourceProperties>> SimulatedInputSources::list(
     const InputSourceFilter& filter)
 {
-    if (!answers_)
+    if (!responds_)
         return {};
     std::vector<InputSourceProperties> found;
     std::copy_if(sources_.begin(), sources_.end(), std::back_inserter(found),
@@ -50,7 +50,7 @@ int SimulatedInputSources::select(const InputSourceProperties& source)
         return failureStatus_;
     }
     const auto* installed = find(id);
-    if (!answers_ || !installed || installed->isSelectCapable == false
+    if (!responds_ || !installed || installed->isSelectCapable == false
         || installed->isEnabled == false)
         return invalidSource;
     become(id);

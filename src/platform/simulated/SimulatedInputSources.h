@@ -48,7 +48,7 @@ public:
     void delayNotifications(Seconds delay) { delay_ = delay; }
 
     /// Makes the system unable to respond, or able again.
-    void setAnswers(bool answers) { answers_ = answers; }
+    void setResponds(bool responds) { responds_ = responds; }
 
     /// The identifiers that the program has tried to select, failures included.
     const std::vector<std::string>& attempts() const { return attempts_; }
@@ -66,7 +66,7 @@ private:
     int failures_ = 0;
     int failureStatus_ = 0;
     Seconds delay_ = 0;
-    bool answers_ = true;
+    bool responds_ = true;
     Subscribers<std::function<void()>> selectionObservers_;
     Subscribers<std::function<void()>> enabledSourcesObservers_;
     std::vector<Subscription> delayed_;

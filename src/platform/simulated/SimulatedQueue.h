@@ -22,7 +22,7 @@ public:
     /// Runs what waits, and what that posts.
     void drain() override;
 
-    /// Runs the piece of work that has waited longest; answers whether there was one.
+    /// Runs the piece of work that has waited longest; returns whether there was one.
     bool runNext();
 
     /// How many pieces of work wait.

@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::chrono::milliseconds betweenQuestions{2};
 
-/// Asks until the condition answers `awaited` or the period is over; whether it answered so.
+/// Asks until the condition returns `awaited` or the period is over; whether it did so.
 bool askUntil(
     bool awaited, std::chrono::milliseconds period, const std::function<bool()>& condition)
 {

@@ -46,7 +46,7 @@ TEST(RecordedLog, putsBackWhatWasInstalledBefore)
     EXPECT_EQ(outer.lines(), Lines{"INFO [ui] outer"});
 }
 
-TEST(RecordedLog, answersWithFilesOfItsFolderOnceItHasOne)
+TEST(RecordedLog, returnsFilesOfItsFolderOnceItHasOne)
 {
     RecordedLog log;
     EXPECT_EQ(Log::fileURL(Log::Subsystem::app), std::nullopt);

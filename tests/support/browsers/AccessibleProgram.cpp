@@ -13,28 +13,28 @@ constexpr auto root = "/org/a11y/atspi/accessible/root";
 sd_bus* accessibilityBus()
 {
     sd_bus* session = nullptr;
-    sd_bus_message* answer = nullptr;
+    sd_bus_message* reply = nullptr;
     const char* address = nullptr;
     sd_bus* bus = nullptr;
     if (sd_bus_open_user(&session) < 0
         || sd_bus_call_method(session, "org.a11y.Bus", "/org/a11y/bus", "org.a11y.Bus",
-               "GetAddress", nullptr, &answer, "")
+               "GetAddress", nullptr, &reply, "")
             < 0
-        || sd_bus_message_read(answer, "s", &address) < 0 || sd_bus_new(&bus) < 0
+        || sd_bus_message_read(reply, "s", &address) < 0 || sd_bus_new(&bus) < 0
         || sd_bus_set_address(bus, address) < 0 || sd_bus_set_bus_client(bus, 1) < 0
         || sd_bus_start(bus) < 0)
         return nullptr;
     return bus;
 }
 
-int take(sd_bus_message* message, void* answering, sd_bus_error*)
+int take(sd_bus_message* message, void* handler, sd_bus_error*)
 {
     const auto* path = sd_bus_message_get_path(message);
     if (!sd_bus_message_is_method_call(message, nullptr, nullptr) || !path
         || !std::string_view(path).starts_with(objects))
         return 0;
-    const auto& answer = *static_cast<AccessibleProgram::Answering*>(answering);
-    return answer(message, std::string(path).substr(objects.size()));
+    const auto& reply = *static_cast<AccessibleProgram::MethodHandler*>(handler);
+    return reply(message, std::string(path).substr(objects.size()));
 }
 
 } // namespace
@@ -70,9 +70,9 @@ int AccessibleProgram::reply(
     return sent < 0 ? sent : 1;
 }
 
-int AccessibleProgram::run(const std::string& folder, Answering answer) const
+int AccessibleProgram::run(const std::string& folder, MethodHandler handler) const
 {
-    sd_bus_add_filter(bus_, nullptr, take, &answer);
+    sd_bus_add_filter(bus_, nullptr, take, &handler);
     if (sd_bus_call_method(bus_, "org.a11y.atspi.Registry", root, "org.a11y.atspi.Socket", "Embed",
             nullptr, nullptr, "(so)", service_.c_str(), root)
         < 0)

@@ -20,17 +20,17 @@ public:
     void append(sd_bus_message* reply, const std::string& object) const;
     static void appendNone(sd_bus_message* reply);
 
-    /// What answers a question about an object of the program: sends what it wants to and returns
-    /// what the functions of the bus do, positive for a question that needs no other answer.
-    using Answering = std::function<int(sd_bus_message* question, const std::string& object)>;
+    /// Replies to a question about an object of the program: sends what it wants to and returns
+    /// what the functions of the bus do, positive for a question that needs no other reply.
+    using MethodHandler = std::function<int(sd_bus_message* question, const std::string& object)>;
 
-    /// Answers with what `fill` adds, or that there is no such question when it returns false.
+    /// Replies with what `fill` adds, or that there is no such question when it returns false.
     static int reply(
         sd_bus_message* question, const std::function<bool(sd_bus_message* reply)>& fill);
 
     /// Says that the program is there, to the bus and by a file `ready` in the folder, and has
-    /// questions answered as long as the bus lasts; the code for `exit`.
-    int run(const std::string& folder, Answering answer) const;
+    /// questions replied to as long as the bus lasts; the code for `exit`.
+    int run(const std::string& folder, MethodHandler handler) const;
 
 private:
     sd_bus* bus_ = nullptr;
@@ -39,7 +39,7 @@ private:
 
 /// The main function of a program whose one argument is the folder that it shares with the test.
 /// `Program` is made of the bus and that folder and responds to questions with its operation
-/// `answer`; the code for `exit`.
+/// `reply`; the code for `exit`.
 template <typename Program>
 int runAccessibleProgram(int count, char** arguments)
 {
@@ -50,7 +50,7 @@ int runAccessibleProgram(int count, char** arguments)
         return 1;
     Program program{.bus = bus, .folder = arguments[1]};
     return bus.run(program.folder, [&](sd_bus_message* question, const std::string& object) {
-        return program.answer(question, object);
+        return program.reply(question, object);
     });
 }
 

@@ -21,10 +21,10 @@ public:
         std::string attribute = "URI";
     };
 
-    /// How it answers every question about its windows and documents.
+    /// How it replies to every question about its windows and documents.
     enum class Behaviour {
-        answers,
-        /// Each answer comes after 0.8 s.
+        replies,
+        /// Each reply comes after 0.8 s.
         busy,
         silent,
         /// Numbers where lists and texts belong.
@@ -47,7 +47,7 @@ public:
     bool isRunning() const { return program_.isRunning(); }
 
     /// What it offers from the next question on.
-    void offer(const std::vector<Window>& windows, Behaviour behaviour = Behaviour::answers) const;
+    void offer(const std::vector<Window>& windows, Behaviour behaviour = Behaviour::replies) const;
 
     /// The operations that others have called of its windows and documents, in order.
     std::vector<std::string> questions() const;

@@ -19,7 +19,7 @@ struct Program {
     const AccessibleProgram& bus;
     std::string folder;
     std::vector<FakeBrowser::Window> windows{};
-    Behaviour behaviour = Behaviour::answers;
+    Behaviour behaviour = Behaviour::replies;
 
     void readOffer()
     {
@@ -82,7 +82,7 @@ struct Program {
         sd_bus_message_close_container(reply);
     }
 
-    int answer(sd_bus_message* question, const std::string& object)
+    int reply(sd_bus_message* question, const std::string& object)
     {
         const std::string member = sd_bus_message_get_member(question);
         std::ofstream(folder + "/questions", std::ios::app) << member << '\n';
@@ -97,7 +97,7 @@ struct Program {
             question, [&](sd_bus_message* reply) { return fill(question, reply, member, object); });
     }
 
-    /// Whether the question is one that it answers.
+    /// Whether the question is one that it replies to.
     bool fill(sd_bus_message* question, sd_bus_message* reply, const std::string& member,
         const std::string& object) const
     {

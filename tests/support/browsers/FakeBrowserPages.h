@@ -15,7 +15,7 @@ namespace brindlex {
 /// A desktop with one fake browser in front, read as the program reads pages: on a thread of its
 /// own, while the main thread and its time are the test's.
 struct FakeBrowserPages {
-    /// Time enough on any machine for a browser that answers at all.
+    /// Time enough on any machine for a browser that replies at all.
     static constexpr AccessibilityLimits patience{
         std::chrono::seconds(20), std::chrono::minutes(1)};
 

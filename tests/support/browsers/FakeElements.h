@@ -25,9 +25,9 @@ public:
         int parent = -1;
     };
 
-    /// How it answers every question about its elements.
+    /// How it replies to every question about its elements.
     enum class Behaviour {
-        answers,
+        replies,
         /// It knows where things are in its window and not where that is on the screen.
         ofWindow,
         silent,
@@ -46,7 +46,7 @@ public:
 
     /// What it offers from the next question on.
     void offer(
-        const std::vector<Element>& elements, Behaviour behaviour = Behaviour::answers) const;
+        const std::vector<Element>& elements, Behaviour behaviour = Behaviour::replies) const;
 
 private:
     TemporaryFolder folder_;

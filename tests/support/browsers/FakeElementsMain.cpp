@@ -19,7 +19,7 @@ struct Program {
     const AccessibleProgram& bus;
     std::string folder;
     std::vector<Element> elements{};
-    Behaviour behaviour = Behaviour::answers;
+    Behaviour behaviour = Behaviour::replies;
 
     void readOffer()
     {
@@ -113,7 +113,7 @@ struct Program {
         }
     }
 
-    int answer(sd_bus_message* question, const std::string& object)
+    int reply(sd_bus_message* question, const std::string& object)
     {
         const std::string member = sd_bus_message_get_member(question);
         readOffer();
@@ -126,7 +126,7 @@ struct Program {
             question, [&](sd_bus_message* reply) { return fill(question, reply, member, number); });
     }
 
-    /// Whether the question is one that it answers.
+    /// Whether the question is one that it replies to.
     bool fill(sd_bus_message* question, sd_bus_message* reply, const std::string& member,
         int number) const
     {

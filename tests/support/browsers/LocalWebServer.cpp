@@ -28,7 +28,8 @@ struct Client {
     std::string request{};
 };
 
-/// Takes what the client has sent and answers a whole request; false when the client is done with.
+/// Takes what the client has sent and replies to a whole request; false when the client is done
+/// with.
 bool serve(Client& client)
 {
     char bytes[4096];
@@ -39,9 +40,9 @@ bool serve(Client& client)
     if (client.request.find("\r\n\r\n") == std::string::npos)
         return true;
     const auto page = pageFor(client.request);
-    const auto answer = "HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nContent-Length: "
+    const auto reply = "HTTP/1.1 200 OK\r\nContent-Type: text/html\r\nContent-Length: "
         + std::to_string(page.size()) + "\r\nConnection: close\r\n\r\n" + page;
-    send(client.connection, answer.data(), answer.size(), MSG_NOSIGNAL);
+    send(client.connection, reply.data(), reply.size(), MSG_NOSIGNAL);
     return false;
 }
 

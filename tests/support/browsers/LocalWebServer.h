@@ -5,7 +5,7 @@
 
 namespace brindlex {
 
-/// A web server on this machine that answers every request with a page named after the host that
+/// A web server on this machine that replies to every request with a page named after the host that
 /// was asked for.
 class LocalWebServer {
 public:
@@ -24,7 +24,8 @@ private:
     std::thread thread_;
 };
 
-/// The page that a request is answered with; what is typed into its field stands in its title too.
+/// The page that a request is replied to with; what is typed into its field stands in its title
+/// too.
 std::string pageFor(const std::string& request);
 
 } // namespace brindlex

@@ -8,7 +8,7 @@
 namespace brindlex {
 namespace {
 
-constexpr std::uint64_t timeToAnswer = 5'000'000; // in microseconds
+constexpr std::uint64_t timeToReply = 5'000'000; // in microseconds
 
 void append(sd_bus_message* message, const std::vector<std::string>& arguments)
 {
@@ -25,21 +25,19 @@ sd_bus* connect(const std::string& address)
     sd_bus_set_bus_client(bus, 1);
     if (sd_bus_start(bus) < 0)
         return sd_bus_unref(bus);
-    sd_bus_set_method_call_timeout(bus, timeToAnswer);
+    sd_bus_set_method_call_timeout(bus, timeToReply);
     return bus;
 }
 
 } // namespace
 
-BusAnswer::BusAnswer(sd_bus_message* message) : message_(message) { }
+BusReply::BusReply(sd_bus_message* message) : message_(message) { }
 
-BusAnswer::~BusAnswer() { sd_bus_message_unref(message_); }
+BusReply::~BusReply() { sd_bus_message_unref(message_); }
 
-BusAnswer::BusAnswer(BusAnswer&& other) noexcept : message_(std::exchange(other.message_, nullptr))
-{
-}
+BusReply::BusReply(BusReply&& other) noexcept : message_(std::exchange(other.message_, nullptr)) { }
 
-void BusAnswer::enter()
+void BusReply::enter()
 {
     char type = 0;
     const char* contents = nullptr;
@@ -47,7 +45,7 @@ void BusAnswer::enter()
         sd_bus_message_enter_container(message_, type, contents);
 }
 
-void BusAnswer::skip()
+void BusReply::skip()
 {
     char type = 0;
     const char* contents = nullptr;
@@ -61,7 +59,7 @@ void BusAnswer::skip()
     sd_bus_message_skip(message_, signature.c_str());
 }
 
-std::string BusAnswer::text()
+std::string BusReply::text()
 {
     const char* text = nullptr;
     if (!message_ || sd_bus_message_read_basic(message_, SD_BUS_TYPE_STRING, &text) <= 0)
@@ -69,14 +67,14 @@ std::string BusAnswer::text()
     return text;
 }
 
-bool BusAnswer::boolean()
+bool BusReply::boolean()
 {
     int value = 0;
     return message_ && sd_bus_message_read_basic(message_, SD_BUS_TYPE_BOOLEAN, &value) > 0
         && value != 0;
 }
 
-std::vector<std::string> BusAnswer::texts()
+std::vector<std::string> BusReply::texts()
 {
     char** list = nullptr;
     std::vector<std::string> texts;
@@ -121,30 +119,30 @@ std::optional<int> BusConnection::processOf(const std::string& name) const
     return found ? std::optional<int>(process) : std::nullopt;
 }
 
-BusAnswer BusConnection::call(const std::string& service, const std::string& path,
+BusReply BusConnection::call(const std::string& service, const std::string& path,
     const std::string& interface, const std::string& operation,
     const std::vector<std::string>& arguments) const
 {
     sd_bus_message* question = nullptr;
-    sd_bus_message* answer = nullptr;
+    sd_bus_message* reply = nullptr;
     if (bus_
         && sd_bus_message_new_method_call(
                bus_, &question, service.c_str(), path.c_str(), interface.c_str(), operation.c_str())
             >= 0) {
         sd_bus_message_set_auto_start(question, 0);
         append(question, arguments);
-        sd_bus_call(bus_, question, timeToAnswer, nullptr, &answer);
+        sd_bus_call(bus_, question, timeToReply, nullptr, &reply);
         sd_bus_message_unref(question);
     }
-    return BusAnswer(answer);
+    return BusReply(reply);
 }
 
-BusAnswer BusConnection::property(const std::string& service, const std::string& path,
+BusReply BusConnection::property(const std::string& service, const std::string& path,
     const std::string& interface, const std::string& name) const
 {
-    auto answer = call(service, path, "org.freedesktop.DBus.Properties", "Get", {interface, name});
-    answer.enter();
-    return answer;
+    auto reply = call(service, path, "org.freedesktop.DBus.Properties", "Get", {interface, name});
+    reply.enter();
+    return reply;
 }
 
 void BusConnection::emit(const std::string& path, const std::string& interface,

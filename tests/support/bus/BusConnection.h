@@ -10,13 +10,13 @@ struct sd_bus_message;
 
 namespace brindlex {
 
-/// An answer to a call over a message bus; read from front to back.
-class BusAnswer {
+/// A reply to a call over a message bus; read from front to back.
+class BusReply {
 public:
-    explicit BusAnswer(sd_bus_message* message);
-    ~BusAnswer();
-    BusAnswer(BusAnswer&& other) noexcept;
-    BusAnswer& operator=(BusAnswer&&) = delete;
+    explicit BusReply(sd_bus_message* message);
+    ~BusReply();
+    BusReply(BusReply&& other) noexcept;
+    BusReply& operator=(BusReply&&) = delete;
 
     /// Whether the call succeeded.
     explicit operator bool() const { return message_ != nullptr; }
@@ -51,12 +51,11 @@ public:
     std::optional<int> processOf(const std::string& name) const;
 
     /// Calls an operation whose arguments are all texts; an owner is never started for it.
-    BusAnswer call(const std::string& service, const std::string& path,
-        const std::string& interface, const std::string& operation,
-        const std::vector<std::string>& arguments = {}) const;
+    BusReply call(const std::string& service, const std::string& path, const std::string& interface,
+        const std::string& operation, const std::vector<std::string>& arguments = {}) const;
 
-    /// Reads a property; the answer stands before its value.
-    BusAnswer property(const std::string& service, const std::string& path,
+    /// Reads a property; the reply stands before its value.
+    BusReply property(const std::string& service, const std::string& path,
         const std::string& interface, const std::string& name) const;
 
     /// Sends a signal whose arguments are all texts.

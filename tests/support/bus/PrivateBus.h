@@ -17,7 +17,7 @@ public:
 
     /// Ends the bus, as a crash of it would.
     void end();
-    /// Stops it where it is, so that it answers nobody.
+    /// Stops it where it is, so that it replies to nobody.
     void freeze();
 
 private:

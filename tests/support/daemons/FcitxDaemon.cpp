@@ -46,12 +46,12 @@ void FcitxDaemon::start()
         .command = {"fcitx5", "--disable=wayland,waylandim,cloudpinyin,notifications"},
         .output = desktop_.outputFolder() / "fcitx5",
     });
-    const auto answers = [] {
+    const auto replies = [] {
         const BusConnection bus;
         return bus.hasOwner(name) && hasXInputMethodServer("fcitx")
             && bus.call(name, path, interface, "CurrentInputMethodGroup");
     };
-    if (!eventually(answers, 60s))
+    if (!eventually(replies, 60s))
         fatalError("Fcitx did not start.\n" + daemon_->output());
 }
 

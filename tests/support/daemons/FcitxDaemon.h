@@ -16,7 +16,7 @@ public:
     /// Starts the daemon with one group of these input methods, such as `keyboard-us` and `pinyin`.
     FcitxDaemon(VirtualDesktop& desktop, const std::vector<std::string>& inputMethods);
 
-    /// The selected input method; empty when none is, or the daemon does not answer.
+    /// The selected input method; empty when none is, or the daemon does not reply.
     std::string current() const;
     /// The input context that has the keyboard; empty when none has it.
     std::string context() const;

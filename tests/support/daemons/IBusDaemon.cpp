@@ -42,12 +42,12 @@ void IBusDaemon::start()
         .command = {"ibus-daemon", "--replace", "--xim", "--panel", "disable"},
         .output = desktop_.outputFolder() / "ibus-daemon",
     });
-    const auto answers = [this] {
+    const auto replies = [this] {
         const auto bus = address();
         return bus && BusConnection(*bus).hasOwner("org.freedesktop.IBus.Config")
             && hasXInputMethodServer("ibus");
     };
-    if (!eventually(answers, 60s))
+    if (!eventually(replies, 60s))
         fatalError("IBus did not start.\n" + daemon_->output());
 }
 
@@ -82,12 +82,12 @@ std::string IBusDaemon::current() const
     if (!bus)
         return {};
     // A variant in a variant: (type, attachments, name, ...).
-    auto answer = BusConnection(*bus).property(name, path, name, "GlobalEngine");
-    answer.enter();
-    answer.enter();
-    answer.skip();
-    answer.skip();
-    return answer.text();
+    auto reply = BusConnection(*bus).property(name, path, name, "GlobalEngine");
+    reply.enter();
+    reply.enter();
+    reply.skip();
+    reply.skip();
+    return reply.text();
 }
 
 bool IBusDaemon::select(const std::string& engine)

@@ -17,7 +17,7 @@ public:
     /// Starts the daemon with these engines enabled, such as `xkb:us::eng` and `libpinyin`.
     IBusDaemon(VirtualDesktop& desktop, const std::vector<std::string>& engines);
 
-    /// The selected engine; empty when none is, or the daemon does not answer.
+    /// The selected engine; empty when none is, or the daemon does not reply.
     std::string current() const;
     /// Selects an engine, as the user does in the daemon's menu; false when that failed.
     bool select(const std::string& engine);

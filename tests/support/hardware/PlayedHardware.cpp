@@ -87,11 +87,11 @@ int connectTo(const std::string& path)
     return descriptor;
 }
 
-void readAnswer(int descriptor, std::size_t size)
+void readReply(int descriptor, std::size_t size)
 {
-    std::array<char, 16> answer{};
-    if (recv(descriptor, answer.data(), size, MSG_WAITALL) != static_cast<ssize_t>(size))
-        fatalError("The hardware does not answer");
+    std::array<char, 16> reply{};
+    if (recv(descriptor, reply.data(), size, MSG_WAITALL) != static_cast<ssize_t>(size))
+        fatalError("The hardware does not reply");
 }
 
 } // namespace
@@ -107,7 +107,7 @@ void PlayedDevice::connect()
     socket_ = FileHandle(connectTo(path_));
     const Version version;
     send(&version, sizeof(version));
-    readAnswer(socket_.descriptor(), sizeof(Version));
+    readReply(socket_.descriptor(), sizeof(Version));
 }
 
 void PlayedDevice::send(const void* message, std::size_t size) const
@@ -135,7 +135,7 @@ void PlayedDevice::settle() const
         return;
     const WaitForSync wait;
     send(&wait, sizeof(wait));
-    readAnswer(socket_.descriptor(), sizeof(Header));
+    readReply(socket_.descriptor(), sizeof(Header));
 }
 
 void PlayedMouse::click(int button) const

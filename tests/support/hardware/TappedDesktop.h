@@ -32,7 +32,7 @@ struct TappedDesktop {
     void settleTaps()
     {
         bool isDone = false;
-        // One turn for the wish, one for what follows from it.
+        // One turn for the request, one for what follows from it.
         const auto first
             = mainThread.after(0, [&] { second = mainThread.after(0, [&] { isDone = true; }); });
         ASSERT_TRUE(loopUntil([&] { return isDone; }));

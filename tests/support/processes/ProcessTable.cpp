@@ -58,7 +58,7 @@ std::optional<long> timesAsleep(pid_t process)
     return times;
 }
 
-bool waitsForAnswer(pid_t process)
+bool waitsForReply(pid_t process)
 {
     long call = -1;
     std::string descriptors;

@@ -16,9 +16,9 @@ std::vector<pid_t> children();
 /// How often the threads of the process have gone to sleep; nothing while one of them is awake.
 std::optional<long> timesAsleep(pid_t process);
 
-/// Whether the first thread of a program with windows waits for the X server to answer: it watches
+/// Whether the first thread of a program with windows waits for the X server to reply: it watches
 /// that one descriptor then, and more as long as it waits for events.
-bool waitsForAnswer(pid_t process);
+bool waitsForReply(pid_t process);
 
 /// Whether the process has a handler for the signal.
 bool catches(pid_t process, int signal);

@@ -162,16 +162,16 @@ void VirtualDesktop::startWindowManager()
         .command = {"openbox", "--sm-disable", "--config-file", folder / "rc.xml"},
         .output = outputFolder() / "window-manager",
     });
-    // It tells what it supports long before it looks after windows; an answer shows the latter.
+    // It tells what it supports long before it looks after windows; a reply shows the latter.
     const XConnection server;
     const auto window = xcb_generate_id(server.get());
     xcb_create_window(server.get(), XCB_COPY_FROM_PARENT, window, server.root(), 0, 0, 1, 1, 0,
         XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
-    const auto answers = [&] {
+    const auto replies = [&] {
         server.ask(window, "_NET_REQUEST_FRAME_EXTENTS", {});
         return !server.values(window, "_NET_FRAME_EXTENTS").empty();
     };
-    const bool isReady = eventually(answers, timeToStart);
+    const bool isReady = eventually(replies, timeToStart);
     xcb_destroy_window(server.get(), window);
     if (!isReady)
         fatalError("The window manager did not start.\n" + windowManager_->output());

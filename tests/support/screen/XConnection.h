@@ -11,7 +11,7 @@ namespace brindlex {
 /// A test's own connection to the X server that `DISPLAY` names.
 ///
 /// A test looks on as another program would: what it asks about may be gone, so a question about a
-/// missing window answers as one about a missing property does.
+/// missing window gives what one about a missing property does.
 class XConnection {
 public:
     XConnection();
@@ -20,7 +20,7 @@ public:
     XConnection& operator=(const XConnection&) = delete;
 
     xcb_connection_t* get() const { return connection_; }
-    /// Whether the server answered; it may have gone since.
+    /// Whether the server replied; it may have gone since.
     bool isOpen() const;
     const xcb_screen_t& screen() const;
     xcb_window_t root() const { return screen().root; }

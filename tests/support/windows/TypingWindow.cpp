@@ -45,7 +45,7 @@ void TypingWindow::open()
         window_ = *found;
         return true;
     };
-    // Now and then a terminal waits for ever for Fcitx to answer it; another one does not.
+    // Now and then a terminal waits for ever for Fcitx to reply; another one does not.
     bool isOpen = false;
     for (int attempt = 0; attempt < mostTerminals && !isOpen; ++attempt) {
         terminal_.reset();

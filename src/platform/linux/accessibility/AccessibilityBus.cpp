@@ -123,12 +123,12 @@ std::optional<QString> AccessibilityBus::address()
     return *found;
 }
 
-AccessibilityAnswer<std::vector<AccessibleObject>> AccessibilityBus::applications()
+AccessibilityResult<std::vector<AccessibleObject>> AccessibilityBus::applications()
 {
     return children({QStringLiteral("org.a11y.atspi.Registry"), rootPath});
 }
 
-AccessibilityAnswer<std::int64_t> AccessibilityBus::processIdentifier(const QString& service)
+AccessibilityResult<std::int64_t> AccessibilityBus::processIdentifier(const QString& service)
 {
     const AccessibleObject bus{
         QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus")};
@@ -141,7 +141,7 @@ AccessibilityAnswer<std::int64_t> AccessibilityBus::processIdentifier(const QStr
     return std::int64_t{reply->toUInt()};
 }
 
-AccessibilityAnswer<std::vector<AccessibleObject>> AccessibilityBus::children(
+AccessibilityResult<std::vector<AccessibleObject>> AccessibilityBus::children(
     const AccessibleObject& object)
 {
     const auto reply = ask(object, accessible, QStringLiteral("GetChildren"));
@@ -153,7 +153,7 @@ AccessibilityAnswer<std::vector<AccessibleObject>> AccessibilityBus::children(
     return objects(*list);
 }
 
-AccessibilityAnswer<QString> AccessibilityBus::name(const AccessibleObject& object)
+AccessibilityResult<QString> AccessibilityBus::name(const AccessibleObject& object)
 {
     const auto reply
         = ask(object, properties, QStringLiteral("Get"), {accessible, QStringLiteral("Name")});
@@ -162,7 +162,7 @@ AccessibilityAnswer<QString> AccessibilityBus::name(const AccessibleObject& obje
     return text(unpacked(*reply));
 }
 
-AccessibilityAnswer<bool> AccessibilityBus::isActive(const AccessibleObject& object)
+AccessibilityResult<bool> AccessibilityBus::isActive(const AccessibleObject& object)
 {
     const auto reply = ask(object, accessible, QStringLiteral("GetState"));
     if (!reply)
@@ -178,7 +178,7 @@ AccessibilityAnswer<bool> AccessibilityBus::isActive(const AccessibleObject& obj
     return ((first >> stateActive) & 1U) != 0;
 }
 
-AccessibilityAnswer<std::vector<AccessibleObject>> AccessibilityBus::embedded(
+AccessibilityResult<std::vector<AccessibleObject>> AccessibilityBus::embedded(
     const AccessibleObject& object)
 {
     const auto reply = ask(object, accessible, QStringLiteral("GetRelationSet"));
@@ -203,7 +203,7 @@ AccessibilityAnswer<std::vector<AccessibleObject>> AccessibilityBus::embedded(
     return found;
 }
 
-AccessibilityAnswer<QString> AccessibilityBus::documentAttribute(
+AccessibilityResult<QString> AccessibilityBus::documentAttribute(
     const AccessibleObject& document, const QString& attribute)
 {
     const auto reply = ask(document, QStringLiteral("org.a11y.atspi.Document"),
@@ -213,13 +213,13 @@ AccessibilityAnswer<QString> AccessibilityBus::documentAttribute(
     return text(*reply);
 }
 
-AccessibilityAnswer<QVariant> AccessibilityBus::ask(const AccessibleObject& object,
+AccessibilityResult<QVariant> AccessibilityBus::ask(const AccessibleObject& object,
     const QString& interface, const QString& member, const QVariantList& arguments)
 {
     const auto left
         = std::chrono::duration_cast<std::chrono::milliseconds>(deadline_ - Clock::now());
     if (left <= 0ms)
-        return fail(AccessibilityProblem::noAnswer);
+        return fail(AccessibilityProblem::noReply);
     const auto reply
         = connection_.call(question(object.service, object.path, interface, member, arguments),
             QDBus::Block, static_cast<int>(std::min(left, limits_.perQuestion).count()));
@@ -228,7 +228,7 @@ AccessibilityAnswer<QVariant> AccessibilityBus::ask(const AccessibleObject& obje
     const auto error = QDBusError(reply).type();
     const bool isLate = error == QDBusError::NoReply || error == QDBusError::Timeout
         || error == QDBusError::TimedOut;
-    return fail(isLate ? AccessibilityProblem::noAnswer : AccessibilityProblem::refused);
+    return fail(isLate ? AccessibilityProblem::noReply : AccessibilityProblem::refused);
 }
 
 void AccessibilityBus::logOnce(bool& isLogged, const std::string& message) const

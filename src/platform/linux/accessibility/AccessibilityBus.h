@@ -30,13 +30,13 @@ struct AccessibleObject {
 /// Why a question on the accessibility bus has no result.
 enum class AccessibilityProblem {
     /// The time was up first: the program is busy, and may reply later.
-    noAnswer,
+    noReply,
     /// The program or the object is gone, or what came was not a valid reply.
     refused,
 };
 
 template <typename Value>
-using AccessibilityAnswer = Result<Value, AccessibilityProblem>;
+using AccessibilityResult = Result<Value, AccessibilityProblem>;
 
 /// Questions to the accessible trees of other programs.
 ///
@@ -69,27 +69,27 @@ public:
     bool begin(std::optional<std::chrono::milliseconds> time = std::nullopt);
 
     /// The programs on the bus.
-    AccessibilityAnswer<std::vector<AccessibleObject>> applications();
+    AccessibilityResult<std::vector<AccessibleObject>> applications();
 
     /// The process behind a bus name, as the bus itself knows it.
-    AccessibilityAnswer<std::int64_t> processIdentifier(const QString& service);
+    AccessibilityResult<std::int64_t> processIdentifier(const QString& service);
 
-    AccessibilityAnswer<std::vector<AccessibleObject>> children(const AccessibleObject& object);
+    AccessibilityResult<std::vector<AccessibleObject>> children(const AccessibleObject& object);
 
-    AccessibilityAnswer<QString> name(const AccessibleObject& object);
+    AccessibilityResult<QString> name(const AccessibleObject& object);
 
     /// Whether the window has the state ACTIVE.
-    AccessibilityAnswer<bool> isActive(const AccessibleObject& object);
+    AccessibilityResult<bool> isActive(const AccessibleObject& object);
 
     /// What the object says it embeds, such as a browser window its current page.
-    AccessibilityAnswer<std::vector<AccessibleObject>> embedded(const AccessibleObject& object);
+    AccessibilityResult<std::vector<AccessibleObject>> embedded(const AccessibleObject& object);
 
     /// An attribute of a document; empty when the document does not have it.
-    AccessibilityAnswer<QString> documentAttribute(
+    AccessibilityResult<QString> documentAttribute(
         const AccessibleObject& document, const QString& attribute);
 
     /// The first value of the reply to any question; see `AccessibilityReply` for taking it apart.
-    AccessibilityAnswer<QVariant> ask(const AccessibleObject& object, const QString& interface,
+    AccessibilityResult<QVariant> ask(const AccessibleObject& object, const QString& interface,
         const QString& member, const QVariantList& arguments = {});
 
 private:

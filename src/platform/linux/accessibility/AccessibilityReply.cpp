@@ -30,7 +30,7 @@ std::vector<AccessibleObject> objects(const QDBusArgument& argument)
     return found;
 }
 
-AccessibilityAnswer<QString> text(const QVariant& value)
+AccessibilityResult<QString> text(const QVariant& value)
 {
     if (value.metaType() != QMetaType::fromType<QString>())
         return fail(AccessibilityProblem::refused);

@@ -13,7 +13,7 @@ std::optional<QDBusArgument> container(const QVariant& value, const char* signat
 /// Reads a list of references up to the limit.
 std::vector<AccessibleObject> objects(const QDBusArgument& argument);
 
-AccessibilityAnswer<QString> text(const QVariant& value);
+AccessibilityResult<QString> text(const QVariant& value);
 
 /// What a property holds, or the value itself.
 QVariant unpacked(const QVariant& value);

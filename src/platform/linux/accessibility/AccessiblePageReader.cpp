@@ -15,7 +15,7 @@ const std::array addressAttributes{QStringLiteral("URI"), QStringLiteral("DocURL
 
 PageProblem pageProblem(AccessibilityProblem problem)
 {
-    return problem == AccessibilityProblem::noAnswer ? PageProblem::busy : PageProblem::unknown;
+    return problem == AccessibilityProblem::noReply ? PageProblem::busy : PageProblem::unknown;
 }
 
 } // namespace
@@ -32,7 +32,7 @@ Result<std::string, PageProblem> AccessiblePageReader::read(const ActiveWindow& 
             return fail(PageProblem::unknown);
         if (page)
             return *page;
-        if (page.error() == AccessibilityProblem::noAnswer)
+        if (page.error() == AccessibilityProblem::noReply)
             return fail(PageProblem::busy);
         forget(window);
     }
@@ -73,7 +73,7 @@ void AccessiblePageReader::forget(const ActiveWindow& window)
         knownFrames_, [&](const KnownFrame& frame) { return frame.window == window.window; });
 }
 
-AccessibilityAnswer<AccessiblePageReader::FoundFrame> AccessiblePageReader::find(
+AccessibilityResult<AccessiblePageReader::FoundFrame> AccessiblePageReader::find(
     const ActiveWindow& window)
 {
     const auto all = bus_.applications();
@@ -92,7 +92,7 @@ AccessibilityAnswer<AccessiblePageReader::FoundFrame> AccessiblePageReader::find
                        : findIn(own, window.title, TitleMatch::similar);
 }
 
-AccessibilityAnswer<AccessiblePageReader::FoundFrame> AccessiblePageReader::findIn(
+AccessibilityResult<AccessiblePageReader::FoundFrame> AccessiblePageReader::findIn(
     const std::vector<AccessibleObject>& applications, const std::string& title,
     TitleMatch leastMatch)
 {
@@ -100,8 +100,8 @@ AccessibilityAnswer<AccessiblePageReader::FoundFrame> AccessiblePageReader::find
     std::vector<AccessibleObject> best;
     auto problem = AccessibilityProblem::refused;
     const auto note = [&](const auto& result) {
-        if (!result && result.error() == AccessibilityProblem::noAnswer)
-            problem = AccessibilityProblem::noAnswer;
+        if (!result && result.error() == AccessibilityProblem::noReply)
+            problem = AccessibilityProblem::noReply;
         return static_cast<bool>(result);
     };
     for (const auto& application : applications) {
@@ -128,7 +128,7 @@ AccessibilityAnswer<AccessiblePageReader::FoundFrame> AccessiblePageReader::find
     return fail(problem);
 }
 
-AccessibilityAnswer<AccessibleObject> AccessiblePageReader::activeOne(
+AccessibilityResult<AccessibleObject> AccessiblePageReader::activeOne(
     const std::vector<AccessibleObject>& frames)
 {
     for (const auto& frame : frames) {
@@ -141,7 +141,7 @@ AccessibilityAnswer<AccessibleObject> AccessiblePageReader::activeOne(
     return fail(AccessibilityProblem::refused);
 }
 
-AccessibilityAnswer<std::string> AccessiblePageReader::pageOf(const AccessibleObject& frame)
+AccessibilityResult<std::string> AccessiblePageReader::pageOf(const AccessibleObject& frame)
 {
     const auto documents = bus_.embedded(frame);
     if (!documents)
@@ -152,7 +152,7 @@ AccessibilityAnswer<std::string> AccessiblePageReader::pageOf(const AccessibleOb
             continue;
         for (const auto& attribute : addressAttributes) {
             const auto address = bus_.documentAttribute(document, attribute);
-            if (!address && address.error() == AccessibilityProblem::noAnswer)
+            if (!address && address.error() == AccessibilityProblem::noReply)
                 return fail(address.error());
             if (address && !address->isEmpty() && address->size() <= longestAddress)
                 return address->toStdString();

@@ -52,11 +52,11 @@ private:
     void remember(const ActiveWindow& window, const AccessibleObject& frame);
     void forget(const ActiveWindow& window);
 
-    AccessibilityAnswer<FoundFrame> find(const ActiveWindow& window);
-    AccessibilityAnswer<FoundFrame> findIn(const std::vector<AccessibleObject>& applications,
+    AccessibilityResult<FoundFrame> find(const ActiveWindow& window);
+    AccessibilityResult<FoundFrame> findIn(const std::vector<AccessibleObject>& applications,
         const std::string& title, TitleMatch leastMatch);
-    AccessibilityAnswer<AccessibleObject> activeOne(const std::vector<AccessibleObject>& frames);
-    AccessibilityAnswer<std::string> pageOf(const AccessibleObject& frame);
+    AccessibilityResult<AccessibleObject> activeOne(const std::vector<AccessibleObject>& frames);
+    AccessibilityResult<std::string> pageOf(const AccessibleObject& frame);
 
     AccessibilityBus bus_;
     std::vector<KnownFrame> knownFrames_;

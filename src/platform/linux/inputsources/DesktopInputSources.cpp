@@ -128,10 +128,10 @@ void DesktopInputSources::findDaemons(DBusDeadline deadline)
             && reply.arguments().first().toBool();
     };
     const auto ibus = hasOwner(ibusName);
-    whenAnswered(hasOwner(fcitxName), deadline, &context_,
+    onReply(hasOwner(fcitxName), deadline, &context_,
         [this, ibus, isYes, deadline](const QDBusMessage& fcitxReply) {
             takeFcitx(isYes(fcitxReply), deadline);
-            whenAnswered(
+            onReply(
                 ibus, deadline, &context_, [this, isYes, deadline](const QDBusMessage& ibusReply) {
                     // Fcitx 5 owns this name too, for programs that speak to IBus.
                     takeIBus(isYes(ibusReply) && !isFcitxRunning_, deadline);

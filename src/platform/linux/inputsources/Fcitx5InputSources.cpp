@@ -101,9 +101,9 @@ SelectionStatus Fcitx5InputSources::select(const std::string& id)
     const auto window = activeWindow(connection_);
     const int selection = selection_.select(method, window, Clock::now());
     firstCheck_.stop();
-    if (waitForAnswer(pending, Clock::now() + selectionWait))
+    if (waitForReply(pending, Clock::now() + selectionWait))
         return confirm(selection, contexts, pending.reply());
-    whenAnswered(pending, doNotWait, &context_, [this, selection, contexts](const QDBusMessage&) {
+    onReply(pending, doNotWait, &context_, [this, selection, contexts](const QDBusMessage&) {
         if (selection_.acknowledge(selection, focusedContext(contexts)))
             firstCheck_.start();
     });
@@ -132,7 +132,7 @@ QDBusPendingCall Fcitx5InputSources::call(const char* member, const QVariantList
 
 void Fcitx5InputSources::readGroup(DBusDeadline deadline)
 {
-    whenAnswered(call("CurrentInputMethodGroup"), deadline, &context_,
+    onReply(call("CurrentInputMethodGroup"), deadline, &context_,
         [this, deadline](const QDBusMessage& reply) {
             if (isError(reply) || reply.arguments().isEmpty())
                 fail(reply);
@@ -144,7 +144,7 @@ void Fcitx5InputSources::readGroup(DBusDeadline deadline)
 void Fcitx5InputSources::readMethods(const QString& group, DBusDeadline deadline)
 {
     const auto available = call("AvailableInputMethods");
-    whenAnswered(call("InputMethodGroupInfo", {group}), deadline, &context_,
+    onReply(call("InputMethodGroupInfo", {group}), deadline, &context_,
         [this, deadline, available](const QDBusMessage& reply) {
             if (isError(reply) || reply.arguments().size() < 2) {
                 fail(reply);
@@ -153,7 +153,7 @@ void Fcitx5InputSources::readMethods(const QString& group, DBusDeadline deadline
             QStringList enabled;
             for (const auto& member : fcitx5GroupMembers(reply.arguments()[1]))
                 enabled.append(member.method);
-            whenAnswered(available, deadline, &context_,
+            onReply(available, deadline, &context_,
                 [this, enabled](const QDBusMessage& methods) { setMethods(enabled, methods); });
         });
 }
@@ -191,7 +191,7 @@ void Fcitx5InputSources::readCurrent(DBusDeadline deadline)
     const auto selection = selection_.beginRead();
     if (!selection)
         return;
-    whenAnswered(call("CurrentInputMethod"), deadline, &context_,
+    onReply(call("CurrentInputMethod"), deadline, &context_,
         [this, selection = *selection](const QDBusMessage& reply) {
             if (selection_.endRead(selection))
                 takeCurrent(reply);
@@ -221,7 +221,7 @@ void Fcitx5InputSources::check()
         return;
     const auto before = call("DebugInfo");
     const auto current = call("CurrentInputMethod");
-    whenAnswered(call("DebugInfo"), doNotWait, &context_,
+    onReply(call("DebugInfo"), doNotWait, &context_,
         [this, before, current, selection = *selection](const QDBusMessage& after) {
             endCheck(selection,
                 {focusedContext(before), focusedContext(after), methodOf(current),

@@ -3,7 +3,7 @@
 #include "platform/linux/inputsources/Fcitx5Selection.h"
 #include "platform/linux/inputsources/InputSourceBackend.h"
 #include "platform/linux/inputsources/XkbRegistry.h"
-#include "platform/linux/system/DBusAnswer.h"
+#include "platform/linux/system/DBusReply.h"
 #include "platform/linux/system/DBusSignal.h"
 #include "platform/linux/x11/X11Connection.h"
 

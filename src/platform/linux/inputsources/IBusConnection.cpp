@@ -46,7 +46,7 @@ IBusConnection::~IBusConnection()
 void IBusConnection::greet(
     DBusDeadline deadline, std::function<void(const QDBusMessage& reply)> ready)
 {
-    whenAnswered(call(bus, "Hello", {}), deadline, &context_, std::move(ready));
+    onReply(call(bus, "Hello", {}), deadline, &context_, std::move(ready));
 }
 
 QDBusPendingCall IBusConnection::call(

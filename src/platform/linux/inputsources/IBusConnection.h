@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/linux/system/DBusAnswer.h"
+#include "platform/linux/system/DBusReply.h"
 #include "platform/linux/system/DBusSignal.h"
 
 #include <QDBusConnection>

@@ -106,9 +106,9 @@ SelectionStatus IBusInputSources::callForEngine(DBusDeadline deadline)
     const auto called = selection_.beginCall();
     const auto pending
         = bus_.call(daemon, "SetGlobalEngine", {QString::fromStdString(called.engine)});
-    if (waitForAnswer(pending, deadline))
+    if (waitForReply(pending, deadline))
         return finish(called, pending.reply());
-    whenAnswered(pending, doNotWait, &context_,
+    onReply(pending, doNotWait, &context_,
         [this, called](const QDBusMessage& reply) { finish(called, reply); });
     return SelectionStatus::done;
 }
@@ -153,7 +153,7 @@ void IBusInputSources::listen()
 void IBusInputSources::readEngineList(DBusDeadline deadline)
 {
     const QVariantList arguments{QStringLiteral("general"), QStringLiteral("preload-engines")};
-    whenAnswered(bus_.call(settings, "GetValue", arguments), deadline, &context_,
+    onReply(bus_.call(settings, "GetValue", arguments), deadline, &context_,
         [this, deadline](const QDBusMessage& reply) {
             if (reply.type() == QDBusMessage::ErrorMessage)
                 fail(reply);
@@ -164,7 +164,7 @@ void IBusInputSources::readEngineList(DBusDeadline deadline)
 
 void IBusInputSources::readEngines(const QStringList& names, DBusDeadline deadline)
 {
-    whenAnswered(bus_.call(daemon, "GetEnginesByNames", {names}), deadline, &context_,
+    onReply(bus_.call(daemon, "GetEnginesByNames", {names}), deadline, &context_,
         [this, names](const QDBusMessage& reply) {
             if (reply.type() == QDBusMessage::ErrorMessage) {
                 fail(reply);
@@ -194,7 +194,7 @@ void IBusInputSources::setEngines(const QStringList& names, const QVariant& desc
 void IBusInputSources::readCurrent(DBusDeadline deadline)
 {
     const QVariantList arguments{QLatin1String(daemon.interface), QStringLiteral("GlobalEngine")};
-    whenAnswered(bus_.call(daemonProperties, "Get", arguments), deadline, &context_,
+    onReply(bus_.call(daemonProperties, "Get", arguments), deadline, &context_,
         [this](const QDBusMessage& reply) {
             // A daemon in which nothing was selected yet returns this error.
             const bool hasNone = reply.type() == QDBusMessage::ErrorMessage

@@ -5,7 +5,7 @@
 #include "platform/linux/inputsources/IBusSelection.h"
 #include "platform/linux/inputsources/InputSourceBackend.h"
 #include "platform/linux/inputsources/XkbInputSources.h"
-#include "platform/linux/system/DBusAnswer.h"
+#include "platform/linux/system/DBusReply.h"
 
 #include <QObject>
 

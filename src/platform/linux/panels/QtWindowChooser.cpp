@@ -95,7 +95,7 @@ protected:
             takeInput();
         } else if (!isExposed() && hasInput_) {
             Log::warn(
-                "Mission Control: the list of windows was closed, as the program did not answer",
+                "Mission Control: the list of windows was closed, as the program did not reply",
                 logCategory::mouse);
             owner_.close();
         }

@@ -17,14 +17,14 @@ using namespace std::chrono_literals;
 class AccessibleBrowserPagesTest : public testing::Test {
 protected:
     FakeBrowserPages on;
-    int told = 0;
-    Subscription observation = on.pages.observeChanges([this] { ++told; });
+    int notifications = 0;
+    Subscription observation = on.pages.observeChanges([this] { ++notifications; });
 };
 
 /// With the program's own limits.
 class LimitedAccessibleBrowserPagesTest : public testing::Test {
 protected:
-    /// Far more than the limits and far less than to wait for an answer that does not come.
+    /// Far more than the limits and far less than to wait for a reply that does not come.
     static constexpr auto aWhile = 8s;
 
     void expectNoPageSoon(Behaviour behaviour)
@@ -118,7 +118,7 @@ TEST_F(AccessibleBrowserPagesTest, knowsNothingOfAWindowThatHasJustComeToTheFron
     EXPECT_EQ(on.ask(), std::nullopt);
     on.settle();
     EXPECT_EQ(on.ask(), "https://example.org/");
-    EXPECT_EQ(told, 2);
+    EXPECT_EQ(notifications, 2);
 }
 
 TEST_F(AccessibleBrowserPagesTest, dropsThePageOfAWindowThatWentWhileItWasRead)
@@ -129,7 +129,7 @@ TEST_F(AccessibleBrowserPagesTest, dropsThePageOfAWindowThatWentWhileItWasRead)
     on.active = ActiveWindow{WindowIdentity{0x400002}, on.browser.identity(), "Other - Browser"};
     on.settle();
 
-    EXPECT_EQ(told, 0);
+    EXPECT_EQ(notifications, 0);
     EXPECT_EQ(on.ask(), std::nullopt);
     on.settle();
     EXPECT_EQ(on.ask(), "https://example.org/");
@@ -145,7 +145,7 @@ TEST_F(AccessibleBrowserPagesTest, readsTheNewestWindowAfterTheOneUnderWay)
     on.settle();
     on.settle();
 
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(notifications, 1);
     EXPECT_EQ(on.ask(), "https://example.org/");
 }
 
@@ -235,7 +235,7 @@ TEST_F(LimitedAccessibleBrowserPagesTest, takesNoDocumentThatDoesNotExist)
     expectNoPageSoon(Behaviour::dangling);
 }
 
-TEST_F(LimitedAccessibleBrowserPagesTest, answersAtOnceWhileABrowserDoesNot)
+TEST_F(LimitedAccessibleBrowserPagesTest, repliesAtOnceWhileABrowserDoesNot)
 {
     on.browser.offer(
         {{.name = "Page - Browser", .url = "https://example.com/"}}, Behaviour::silent);

@@ -105,7 +105,7 @@ TEST(AccessibleElementTree, doesNotAskItsOwnProcess)
     EXPECT_EQ(desk.tree.elementAt(centre, patience), nullptr);
 }
 
-TEST(AccessibleElementTree, survivesProgramsThatAnswerNonsense)
+TEST(AccessibleElementTree, survivesProgramsThatReplyNonsense)
 {
     ElementDesk desk;
     desk.program.offer(dividedWindow, Behaviour::garbage);
@@ -121,7 +121,7 @@ TEST(AccessibleElementTree, survivesProgramsThatAnswerNonsense)
     EXPECT_EQ(element->roleDescription(), std::string(64, 'x'));
 }
 
-TEST(AccessibleElementTree, waitsForAllAnswersTogetherNoLongerThanItsTime)
+TEST(AccessibleElementTree, waitsForAllRepliesTogetherNoLongerThanItsTime)
 {
     ElementDesk desk({}, 0.06);
     desk.program.offer(dividedWindow, Behaviour::silent);

@@ -51,9 +51,9 @@ protected:
     TemporaryFolder data;
     DesktopEntries entries{{data.path()}, {"de"}};
     X11RunningApplications applications{connection, activeWindow, entries};
-    std::vector<std::optional<std::string>> told;
+    std::vector<std::optional<std::string>> notified;
     Subscription subscription = applications.observeActivation([this](const auto& application) {
-        told.push_back(application ? application->bundleIdentifier : "(none)");
+        notified.push_back(application ? application->bundleIdentifier : "(none)");
     });
 };
 
@@ -69,7 +69,7 @@ TEST_F(X11RunningApplicationsTest, doesNotBelieveThatNoWindowIsActiveForAMoment)
     announceActive(two.id());
     EXPECT_TRUE(reaches("wmclass:Two"));
     EXPECT_TRUE(loopThroughout(100ms, [&] { return !wasEmpty; }));
-    EXPECT_EQ(told, (std::vector<std::optional<std::string>>{"wmclass:One", "wmclass:Two"}));
+    EXPECT_EQ(notified, (std::vector<std::optional<std::string>>{"wmclass:One", "wmclass:Two"}));
     announceActive(0);
     EXPECT_TRUE(loopUntil([&] { return wasEmpty && !applications.frontmost(); }));
 }
@@ -170,7 +170,7 @@ TEST_F(X11RunningApplicationsTest, followsAClassThatIsSetAfterTheWindowBecameAct
     ASSERT_TRUE(reaches("exe:sleep"));
     late.setText("WM_CLASS", "STRING", std::string("late\0Late\0", 10));
     EXPECT_TRUE(reaches("wmclass:Late"));
-    EXPECT_EQ(told, (std::vector<std::optional<std::string>>{"exe:sleep", "wmclass:Late"}));
+    EXPECT_EQ(notified, (std::vector<std::optional<std::string>>{"exe:sleep", "wmclass:Late"}));
 }
 
 TEST_F(X11RunningApplicationsTest, leavesTheProgramsOwnWindowsOut)
@@ -186,7 +186,8 @@ TEST_F(X11RunningApplicationsTest, leavesTheProgramsOwnWindowsOut)
     EXPECT_EQ(applications.running().size(), 1u);
     announceActive(other.id());
     EXPECT_TRUE(reaches("wmclass:Other"));
-    EXPECT_EQ(told, (std::vector<std::optional<std::string>>{"wmclass:Other", "wmclass:Other"}));
+    EXPECT_EQ(
+        notified, (std::vector<std::optional<std::string>>{"wmclass:Other", "wmclass:Other"}));
 }
 
 TEST_F(X11RunningApplicationsTest, listsAProcessWithTwoWindowsOnce)
@@ -211,8 +212,8 @@ TEST_F(X11RunningApplicationsTest, tellsOfOneHundredActivationsInARow)
         announceActive(two.id());
     }
     EXPECT_TRUE(reaches("wmclass:Two"));
-    EXPECT_LE(told.size(), 100u);
-    EXPECT_EQ(told.back(), "wmclass:Two");
+    EXPECT_LE(notified.size(), 100u);
+    EXPECT_EQ(notified.back(), "wmclass:Two");
 }
 
 TEST_F(X11RunningApplicationsTest, findsTheEntryOfAnApplicationThatIsInstalledMeanwhile)
@@ -228,7 +229,7 @@ TEST_F(X11RunningApplicationsTest, findsTheEntryOfAnApplicationThatIsInstalledMe
         (RunningApplication{ProcessIdentity{child.id()}, "org.example.Pad", file, "Block"}));
 }
 
-TEST_F(X11RunningApplicationsTest, answersNothingOnceTheServerHasGone)
+TEST_F(X11RunningApplicationsTest, returnsNothingOnceTheServerHasGone)
 {
     const ApplicationWindow window(server, {"pad", "Pad", process()});
     announceActive(window.id());

@@ -84,14 +84,14 @@ TEST(X11EventPermissions, tellNothingOfOtherPreferences)
     SimulatedUserDefaults defaults;
     X11InputStream stream(mainThread);
     X11EventPermissions permissions(stream, defaults);
-    int told = 0;
-    const auto observation = permissions.observeAccessibilityChanges([&] { ++told; });
+    int notifications = 0;
+    const auto observation = permissions.observeAccessibilityChanges([&] { ++notifications; });
 
     defaults.set("mouseConfig", "{}");
     defaults.set("allowsAccessibility", true);
-    EXPECT_EQ(told, 0);
+    EXPECT_EQ(notifications, 0);
     defaults.set("allowsInputMonitoring", false);
-    EXPECT_EQ(told, 1);
+    EXPECT_EQ(notifications, 1);
 }
 
 } // namespace

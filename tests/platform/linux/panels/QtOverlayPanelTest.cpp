@@ -43,7 +43,7 @@ private:
 
 class QtOverlayPanelTest : public testing::Test {
 protected:
-    /// Shows the text and answers the panel's window once it is on the screen.
+    /// Shows the text and returns the panel's window once it is on the screen.
     xcb_window_t shown(const std::string& text)
     {
         panel.show(text);

@@ -44,7 +44,7 @@ TEST(DBusNotifications, areLostOnceTheBusHasGone)
     QtLoop().runFor(0.02);
 }
 
-TEST(DBusNotifications, arePostedWithoutLongWaitingToABusThatDoesNotAnswer)
+TEST(DBusNotifications, arePostedWithoutLongWaitingToABusThatDoesNotReply)
 {
     PrivateBus daemon;
     SessionBus bus(daemon.address());

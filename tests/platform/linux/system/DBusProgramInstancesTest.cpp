@@ -49,7 +49,7 @@ TEST(DBusProgramInstances, knowsOnlyOfItselfOnceTheBusHasGone)
     EXPECT_EQ(instances.running(program), onlyThisProcess());
 }
 
-TEST(DBusProgramInstances, doesNotWaitForABusThatDoesNotAnswer)
+TEST(DBusProgramInstances, doesNotWaitForABusThatDoesNotReply)
 {
     PrivateBus daemon;
     SessionBus bus(daemon.address());

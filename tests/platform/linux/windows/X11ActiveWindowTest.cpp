@@ -10,7 +10,7 @@
 namespace brindlex {
 namespace {
 
-TEST(X11ActiveWindow, answersNumberProcessAndTitleOfTheWindowInFront)
+TEST(X11ActiveWindow, returnsNumberProcessAndTitleOfTheWindowInFront)
 {
     const VirtualDesktop desktop({.sessionBus = false});
     const XConnection server;

@@ -17,10 +17,10 @@ inline constexpr DBusDeadline doNotWait{};
 
 /// Hands over the reply to a call, which may be an error: at once when it comes before the
 /// deadline, else from the loop; never, once `context` has gone.
-void whenAnswered(const QDBusPendingCall& call, DBusDeadline deadline, QObject* context,
+void onReply(const QDBusPendingCall& call, DBusDeadline deadline, QObject* context,
     std::function<void(const QDBusMessage& reply)> handler);
 
 /// Waits for the reply without running the loop; whether it came before the deadline.
-bool waitForAnswer(const QDBusPendingCall& call, DBusDeadline deadline);
+bool waitForReply(const QDBusPendingCall& call, DBusDeadline deadline);
 
 } // namespace brindlex

@@ -1,4 +1,4 @@
-#include "platform/linux/system/DBusAnswer.h"
+#include "platform/linux/system/DBusReply.h"
 
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
@@ -14,10 +14,10 @@ constexpr std::chrono::microseconds lookAgain{50};
 
 } // namespace
 
-void whenAnswered(const QDBusPendingCall& call, DBusDeadline deadline, QObject* context,
+void onReply(const QDBusPendingCall& call, DBusDeadline deadline, QObject* context,
     std::function<void(const QDBusMessage& reply)> handler)
 {
-    if (waitForAnswer(call, deadline)) {
+    if (waitForReply(call, deadline)) {
         handler(call.reply());
         return;
     }
@@ -30,7 +30,7 @@ void whenAnswered(const QDBusPendingCall& call, DBusDeadline deadline, QObject* 
         });
 }
 
-bool waitForAnswer(const QDBusPendingCall& call, DBusDeadline deadline)
+bool waitForReply(const QDBusPendingCall& call, DBusDeadline deadline)
 {
     while (!call.isFinished()) {
         if (std::chrono::steady_clock::now() >= deadline)
