@@ -11,11 +11,19 @@
 
 namespace brindlex {
 
-/// A plain value that preferences can hold.
-using PreferenceValue
-    = std::variant<bool, std::int64_t, double, std::string, std::vector<std::string>>;
+/// What somebody else has stored and is no plain value, such as an object or a list of numbers: its
+/// JSON text. A text that is not JSON is stored as null.
+struct PreferenceJson {
+    std::string text{};
 
-/// Preferences as a store sees them: a map from keys to plain values.
+    bool operator==(const PreferenceJson&) const = default;
+};
+
+/// What preferences can hold: plain values, and JSON that others have put there.
+using PreferenceValue = std::variant<bool, std::int64_t, double, std::string,
+    std::vector<std::string>, PreferenceJson>;
+
+/// Preferences as a store sees them: a map from keys to values.
 class UserDefaultsType {
 public:
     virtual ~UserDefaultsType() = default;

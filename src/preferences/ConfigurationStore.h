@@ -15,7 +15,7 @@ namespace brindlex {
 /// Keeps one record of the user's settings in the preferences, as one text.
 ///
 /// What is stored is read once, at construction, and written back by nothing but an assignment; one
-/// that cannot be read gives the default, with a line in the log.
+/// that cannot be read gives the default.
 /// An assignment publishes first and then writes, at once and whether or not anything changed; an
 /// assignment from inside a subscriber is the one that stays, in `config` and in the preferences.
 /// Main thread only.
@@ -26,9 +26,6 @@ public:
         : config_(readPreference(defaults, key)), defaults_(defaults), key_(std::move(key)),
           lastSeen_(defaults_.value(key_.key))
     {
-        if (lastSeen_ && !PreferenceForm<Record>::read(*lastSeen_))
-            Log::warn("The preference \"" + key_.key + "\" cannot be read; the default applies",
-                logCategory::lifecycle);
     }
     virtual ~ConfigurationStore() = default;
     ConfigurationStore(const ConfigurationStore&) = delete;

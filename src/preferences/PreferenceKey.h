@@ -61,7 +61,7 @@ concept TextEnumeration = HasStoredValues<Value> && requires(Value value)
 /// How values of a type stand in the defaults: as they are, as the raw value of an enumeration, or
 /// else in a box, as `UserDefaultsStorageBox.h` defines it. A type that goes into a box declares
 /// its instance beside itself and defines it in its source. Reading gives nothing for an object of
-/// any other form.
+/// any other form; a box may also stand there as plain JSON.
 template <typename Value>
 struct PreferenceForm {
     static PreferenceValue stored(const Value& value);

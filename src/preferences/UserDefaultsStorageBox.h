@@ -12,7 +12,8 @@ namespace brindlex {
 /// Whether every number of the document can stand in JSON, which has no infinities and no NaN.
 bool hasOnlyFiniteNumbers(const Json& document);
 
-/// A value that preferences keep as the text of its JSON encoding.
+/// A value that preferences keep as the text of its JSON encoding. Where somebody has written the
+/// JSON itself in place of that text, it is read as what it is.
 template <typename Value>
 struct UserDefaultsStorageBox {
     Value value{};
@@ -49,7 +50,8 @@ PreferenceValue PreferenceForm<Value>::stored(const Value& value)
 template <typename Value>
 std::optional<Value> PreferenceForm<Value>::read(const PreferenceValue& object)
 {
-    const auto text = std::get_if<std::string>(&object);
+    const auto json = std::get_if<PreferenceJson>(&object);
+    const auto text = json ? &json->text : std::get_if<std::string>(&object);
     auto box = text ? UserDefaultsStorageBox<Value>::fromRawValue(*text) : std::nullopt;
     if (!box)
         return {};

@@ -2,6 +2,7 @@
 
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "platform/simulated/SimulatedUserFolders.h"
+#include "support/basics/RecordedLog.h"
 
 #include <gtest/gtest.h>
 
@@ -53,11 +54,30 @@ TEST(UserDefaultPreferenceKeysSeeding, leavesWhatIsStoredOfWhateverType)
     SimulatedUserDefaults defaults;
     defaults.set("showsDockIcon", std::string("no"));
     defaults.set("mouseConfig", std::string("{"));
+    defaults.set("clipboardMaxItems", PreferenceJson{"9223372036854775808"});
     seedDefaults(defaults, keys);
 
-    EXPECT_EQ(defaults.writes().size(), 2U + 13U);
+    EXPECT_EQ(defaults.writes().size(), 3U + 12U);
     EXPECT_EQ(defaults.value("showsDockIcon"), PreferenceValue("no"));
     EXPECT_EQ(defaults.value("mouseConfig"), PreferenceValue("{"));
+    EXPECT_EQ(defaults.value("clipboardMaxItems"),
+        PreferenceValue(PreferenceJson{"9223372036854775808"}));
+}
+
+TEST(UserDefaultPreferenceKeysSeeding, saysOnceOfEachThatItCannotBeRead)
+{
+    const RecordedLog log;
+    SimulatedUserDefaults defaults;
+    defaults.set("AppleLanguages", PreferenceJson{R"(["de",1])"});
+    defaults.set("mouseConfig", std::string("{"));
+    defaults.set("clipboardHotkey", PreferenceJson{R"({"keyCode":9,"modifiers":1})"});
+    seedDefaults(defaults, keys);
+
+    EXPECT_EQ(log.lines(),
+        (std::vector<std::string>{
+            "WARN [lifecycle] The preference \"mouseConfig\" cannot be read; the default applies",
+            "WARN [lifecycle] The preference \"AppleLanguages\" cannot be read; the default "
+            "applies"}));
 }
 
 TEST(UserDefaultPreferenceKeysSeeding, leavesOutThePreferencesWhoseAbsenceMeansSomething)

@@ -83,7 +83,8 @@ using Value = std::optional<PreferenceValue>;
 const std::vector<PreferenceValue> valuesOfEachKind{true, false, std::int64_t{0},
     std::numeric_limits<std::int64_t>::min(), std::numeric_limits<std::int64_t>::max(), 0.1, 200.0,
     -0.0, 1e300, std::string(), std::string("text"), std::string("a\0b\n\"\\/", 7),
-    std::string("键盘 🎹"), std::vector<std::string>{}, std::vector<std::string>{"de", "", "日本"}};
+    std::string("键盘 🎹"), std::vector<std::string>{}, std::vector<std::string>{"de", "", "日本"},
+    PreferenceJson{R"({"a":[1,null]})"}};
 
 TYPED_TEST(UserDefaultsContract, returnsWhatWasSetAtOnce)
 {

@@ -200,19 +200,15 @@ TEST(ConfigurationStore, fallsBackToTheDefaultWhenAnotherRemovesTheRecord)
     EXPECT_EQ(store.config().value(), MouseScrollConfig{});
 }
 
-TEST(ConfigurationStore, saysThatTheStoredRecordCannotBeReadAndLeavesIt)
+TEST(ConfigurationStore, takesOverARecordThatAPersonHasWrittenAsPlainJson)
 {
-    RecordedLog log;
     SimulatedUserDefaults defaults;
-    defaults.set("scroll", "{\"smoothDuration\":");
+    Store store(defaults, key);
+    defaults.set("scroll", PreferenceJson{R"({"smoothDuration":0.25})"});
 
-    const Store store(defaults, key);
+    store.reload();
 
-    EXPECT_EQ(store.config().value(), MouseScrollConfig{});
-    EXPECT_EQ(defaults.value("scroll"), PreferenceValue("{\"smoothDuration\":"));
-    EXPECT_EQ(log.lines(),
-        std::vector<std::string>{
-            "WARN [lifecycle] The preference \"scroll\" cannot be read; the default applies"});
+    EXPECT_EQ(store.config().value(), withDuration(0.25));
 }
 
 TEST(ConfigurationStore, keepsThePresentRecordWhileTheStoredOneCannotBeRead)

@@ -20,8 +20,8 @@ const PreferenceKey<MainWindowTab> tab{MainWindowTab::general, "tab"};
 const PreferenceKey<LanguagePreference> language{LanguagePreference::system, "language"};
 const PreferenceKey<HotkeyCombo> hotkey{{9, ModifierSet{9}}, "hotkey"};
 
-const std::vector<PreferenceValue> oneOfEachKind{
-    true, std::int64_t{7}, 0.25, std::string("Mouse"), std::vector<std::string>{"a", "b"}};
+const std::vector<PreferenceValue> oneOfEachKind{true, std::int64_t{7}, 0.25, std::string("Mouse"),
+    std::vector<std::string>{"a", "b"}, PreferenceJson{R"([1,"x"])"}};
 
 template <typename Key>
 void expectDefaultForEveryKindBut(std::size_t kind, const Key& key)
@@ -97,6 +97,15 @@ TEST(PreferenceKey, takesAnObjectOfAnotherTypeForNothingAndLeavesIt)
     expectDefaultForEveryKindBut(3, language);
     // The text of the list is no box either.
     expectDefaultForEveryKindBut(oneOfEachKind.size(), hotkey);
+}
+
+TEST(PreferenceKey, readsABoxThatStandsThereAsPlainJson)
+{
+    SimulatedUserDefaults defaults;
+    defaults.set("hotkey", PreferenceJson{R"({"keyCode":49,"modifiers":1})"});
+    EXPECT_EQ(readPreference(defaults, hotkey), (HotkeyCombo{49, ModifierSet{1}}));
+    defaults.set("hotkey", PreferenceJson{R"({"keyCode":49})"});
+    EXPECT_EQ(readPreference(defaults, hotkey), hotkey.defaultValue);
 }
 
 TEST(PreferenceKey, givesTheDefaultForAnUnknownRawValue)

@@ -46,7 +46,7 @@ JsonFileUserDefaults::~JsonFileUserDefaults()
 std::optional<PreferenceValue> JsonFileUserDefaults::value(const std::string& key) const
 {
     const std::shared_lock guard(memoryMutex_);
-    const auto value = plainValue(memory_, key);
+    const auto value = valueIn(memory_, key);
     return value ? std::optional(*value) : std::nullopt;
 }
 
@@ -54,7 +54,7 @@ void JsonFileUserDefaults::set(const std::string& key, std::optional<PreferenceV
 {
     // Only this thread changes the memory, so that it may look at it without the lock.
     const auto found = memory_.find(key);
-    const auto* const present = plainValue(memory_, key);
+    const auto* const present = valueIn(memory_, key);
     if (object ? present && *present == *object : found == memory_.end())
         return;
     auto preference = object ? storedPreference(withWellFormedText(*std::move(object))) : nullptr;

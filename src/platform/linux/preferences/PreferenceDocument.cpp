@@ -14,41 +14,44 @@ bool isTooLarge(const SortedJson& number)
 
 bool isText(const SortedJson& item) { return item.is_string(); }
 
-/// The item as a plain value, or as it is.
-StoredPreference fromItem(SortedJson item)
+PreferenceValue fromItem(SortedJson item)
 {
     if (item.is_boolean())
-        return PreferenceValue(item.get<bool>());
+        return item.get<bool>();
     if (item.is_number_float())
-        return PreferenceValue(item.get<double>());
+        return item.get<double>();
     if (item.is_number_integer() && !isTooLarge(item))
-        return PreferenceValue(item.get<std::int64_t>());
+        return item.get<std::int64_t>();
     if (item.is_string())
-        return PreferenceValue(std::move(item.get_ref<std::string&>()));
+        return std::move(item.get_ref<std::string&>());
     if (item.is_array() && std::all_of(item.begin(), item.end(), isText))
-        return PreferenceValue(item.get<std::vector<std::string>>());
-    return item;
+        return item.get<std::vector<std::string>>();
+    return PreferenceJson{item.dump()};
 }
 
-SortedJson asItem(const StoredPreference& preference)
+template <typename Value>
+SortedJson asItem(const Value& value)
 {
-    if (const auto item = std::get_if<SortedJson>(&preference))
-        return *item;
-    return std::visit(
-        [](const auto& value) { return SortedJson(value); }, std::get<PreferenceValue>(preference));
+    return value;
+}
+
+SortedJson asItem(const PreferenceJson& value)
+{
+    auto item = parseSortedJson(value.text);
+    return item ? *std::move(item) : SortedJson();
 }
 
 } // namespace
 
-std::shared_ptr<const StoredPreference> storedPreference(PreferenceValue value)
+std::shared_ptr<const PreferenceValue> storedPreference(PreferenceValue value)
 {
-    return std::make_shared<const StoredPreference>(std::move(value));
+    return std::make_shared<const PreferenceValue>(std::move(value));
 }
 
-const PreferenceValue* plainValue(const PreferenceDocument& document, const std::string& key)
+const PreferenceValue* valueIn(const PreferenceDocument& document, const std::string& key)
 {
     const auto found = document.find(key);
-    return found == document.end() ? nullptr : std::get_if<PreferenceValue>(found->second.get());
+    return found == document.end() ? nullptr : found->second.get();
 }
 
 Result<PreferenceDocument, JsonProblem> parsePreferences(std::string_view text)
@@ -60,7 +63,7 @@ Result<PreferenceDocument, JsonProblem> parsePreferences(std::string_view text)
         return fail(JsonProblem{"", "is not an object"});
     PreferenceDocument document;
     for (const auto& [key, item] : parsed->items())
-        document.insert_or_assign(key, std::make_shared<const StoredPreference>(fromItem(item)));
+        document.insert_or_assign(key, storedPreference(fromItem(item)));
     return document;
 }
 
@@ -68,7 +71,8 @@ std::string preferencesText(const PreferenceDocument& document)
 {
     auto object = SortedJson::object();
     for (const auto& [key, preference] : document)
-        object.emplace(key, asItem(*preference));
+        object.emplace(
+            key, std::visit([](const auto& value) { return asItem(value); }, *preference));
     return object.dump(2, ' ', false, SortedJson::error_handler_t::replace) + "\n";
 }
 

@@ -8,29 +8,24 @@
 #include <set>
 #include <string>
 #include <string_view>
-#include <variant>
 
 namespace brindlex {
 
-/// What stands under one key: a plain value, or anything else that somebody put there, which nobody
-/// can read through the preferences and which is kept as it is.
-using StoredPreference = std::variant<PreferenceValue, SortedJson>;
-
 /// The content of a file of preferences. Values are shared, so that a copy costs little whatever
 /// they hold.
-using PreferenceDocument = std::map<std::string, std::shared_ptr<const StoredPreference>>;
+using PreferenceDocument = std::map<std::string, std::shared_ptr<const PreferenceValue>>;
 
-/// A plain value as a document holds it.
-std::shared_ptr<const StoredPreference> storedPreference(PreferenceValue value);
+/// A value as a document holds it.
+std::shared_ptr<const PreferenceValue> storedPreference(PreferenceValue value);
 
-/// The plain value under a key, or nothing.
-const PreferenceValue* plainValue(const PreferenceDocument& document, const std::string& key);
+/// The value under a key, or nothing.
+const PreferenceValue* valueIn(const PreferenceDocument& document, const std::string& key);
 
 /// Reads one JSON object.
 Result<PreferenceDocument, JsonProblem> parsePreferences(std::string_view text);
 
 /// The document as one JSON object that a person can read, with its keys in order. Bytes that are
-/// not UTF-8 become U+FFFD, and numbers that JSON does not have become null.
+/// not UTF-8 become U+FFFD, and what JSON does not have becomes null.
 std::string preferencesText(const PreferenceDocument& document);
 
 /// Whether both have equal values under the same keys.

@@ -38,7 +38,7 @@ protected:
     Value valueInFile(const std::string& key) const
     {
         const auto document = parsePreferences(contentOf(path()));
-        const auto value = document ? plainValue(*document, key) : nullptr;
+        const auto value = document ? valueIn(*document, key) : nullptr;
         return value ? Value(*value) : std::nullopt;
     }
 

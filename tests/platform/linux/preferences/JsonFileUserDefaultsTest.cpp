@@ -49,8 +49,9 @@ TEST_F(JsonFileUserDefaultsTest, keepsValuesOfUnknownKindsInTheFile)
 {
     write(path(), R"({"nested":{"a":[null,1]},"mixed":[1,"x"],"nothing":null})");
     start();
-    for (const auto key : {"nested", "mixed", "nothing"})
-        EXPECT_EQ(defaults->value(key), Value()) << key;
+    EXPECT_EQ(defaults->value("nested"), PreferenceValue(PreferenceJson{R"({"a":[null,1]})"}));
+    EXPECT_EQ(defaults->value("mixed"), PreferenceValue(PreferenceJson{R"([1,"x"])"}));
+    EXPECT_EQ(defaults->value("nothing"), PreferenceValue(PreferenceJson{"null"}));
     defaults->set("mine", true);
     defaults->synchronize();
     const auto written = parseSortedJson(contentOf(path())).value();

@@ -9,18 +9,20 @@ namespace {
 
 PreferenceDocument document(const std::string& text) { return parsePreferences(text).value(); }
 
+PreferenceValue json(const std::string& text) { return PreferenceJson{text}; }
+
 TEST(PreferenceDocument, readsEachKindOfPlainValue)
 {
     const auto read = document(
         R"({"flag":true,"number":-7,"ratio":0.5,"whole":3.0,"text":"a","none":[],"texts":["a","b"]})");
-    EXPECT_EQ(*plainValue(read, "flag"), PreferenceValue(true));
-    EXPECT_EQ(*plainValue(read, "number"), PreferenceValue(std::int64_t{-7}));
-    EXPECT_EQ(*plainValue(read, "ratio"), PreferenceValue(0.5));
-    EXPECT_EQ(*plainValue(read, "whole"), PreferenceValue(3.0));
-    EXPECT_EQ(*plainValue(read, "text"), PreferenceValue("a"));
-    EXPECT_EQ(*plainValue(read, "none"), PreferenceValue(std::vector<std::string>{}));
-    EXPECT_EQ(*plainValue(read, "texts"), PreferenceValue(std::vector<std::string>{"a", "b"}));
-    EXPECT_EQ(plainValue(read, "missing"), nullptr);
+    EXPECT_EQ(*valueIn(read, "flag"), PreferenceValue(true));
+    EXPECT_EQ(*valueIn(read, "number"), PreferenceValue(std::int64_t{-7}));
+    EXPECT_EQ(*valueIn(read, "ratio"), PreferenceValue(0.5));
+    EXPECT_EQ(*valueIn(read, "whole"), PreferenceValue(3.0));
+    EXPECT_EQ(*valueIn(read, "text"), PreferenceValue("a"));
+    EXPECT_EQ(*valueIn(read, "none"), PreferenceValue(std::vector<std::string>{}));
+    EXPECT_EQ(*valueIn(read, "texts"), PreferenceValue(std::vector<std::string>{"a", "b"}));
+    EXPECT_EQ(valueIn(read, "missing"), nullptr);
 }
 
 TEST(PreferenceDocument, keepsWhatIsNoPlainValueAsItIs)
@@ -40,8 +42,10 @@ TEST(PreferenceDocument, keepsWhatIsNoPlainValueAsItIs)
 }
 )";
     const auto read = document(text);
-    for (const auto key : {"huge", "mixed", "nested", "nothing"})
-        EXPECT_EQ(plainValue(read, key), nullptr) << key;
+    EXPECT_EQ(*valueIn(read, "huge"), json("18446744073709551615"));
+    EXPECT_EQ(*valueIn(read, "mixed"), json(R"(["a",1])"));
+    EXPECT_EQ(*valueIn(read, "nested"), json(R"({"a":[null]})"));
+    EXPECT_EQ(*valueIn(read, "nothing"), json("null"));
     EXPECT_EQ(preferencesText(read), text);
 }
 
@@ -73,8 +77,9 @@ TEST(PreferenceDocument, replacesWhatJsonDoesNotHave)
     PreferenceDocument content;
     content["a\xFF"] = storedPreference(std::string("\xC3\x28"));
     content["n"] = storedPreference(std::numeric_limits<double>::quiet_NaN());
-    EXPECT_EQ(
-        preferencesText(content), "{\n  \"a\xEF\xBF\xBD\": \"\xEF\xBF\xBD(\",\n  \"n\": null\n}\n");
+    content["o"] = storedPreference(json("{"));
+    EXPECT_EQ(preferencesText(content),
+        "{\n  \"a\xEF\xBF\xBD\": \"\xEF\xBF\xBD(\",\n  \"n\": null,\n  \"o\": null\n}\n");
 }
 
 TEST(PreferenceDocument, isNothingButOneObject)
