@@ -20,10 +20,11 @@ std::string jsonText(const Json& document);
 /// The document as text for a person to read, indented by two spaces.
 std::string prettyJsonText(const Json& document);
 
-/// The text as a document, or where and why it is not JSON.
+/// The text as a document, with the keys of its objects sorted, or where and why it is not JSON. Of
+/// a key that stands there twice the last value counts.
 Result<Json, JsonProblem> parseJson(std::string_view text);
 
-/// The same for a document of any size that somebody else has made.
+/// The same as a document that stays sorted whatever is put into it.
 Result<SortedJson, JsonProblem> parseSortedJson(std::string_view text);
 
 } // namespace brindlex

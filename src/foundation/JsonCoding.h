@@ -153,8 +153,11 @@ struct JsonCoding<std::map<std::string, Element>> {
     static Json encode(const std::map<std::string, Element>& values)
     {
         auto document = Json::object();
+        // Each key is another one; `operator[]` would look at all that are there to find out.
+        auto& members = document.template get_ref<Json::object_t&>();
+        members.reserve(values.size());
         for (const auto& [key, value] : values)
-            document[key] = toJson(value);
+            members.emplace_back(key, toJson(value));
         return document;
     }
     static Result<std::map<std::string, Element>, JsonProblem> decode(const Json& document)

@@ -43,6 +43,14 @@ TEST(JsonCoding, writesAndReadsEachKindOfValue)
         std::map<std::string, bool>{{"a", true}, {"b", false}}, R"({"a":true,"b":false})");
 }
 
+TEST(JsonCoding, writesAndReadsManyKeys)
+{
+    std::map<std::string, int> values;
+    for (int number = 0; number < 200'000; ++number)
+        values.emplace("key" + std::to_string(number), number);
+    EXPECT_EQ(read<decltype(values)>(jsonText(toJson(values))), values);
+}
+
 TEST(JsonCoding, readsOnlyBooleansAsBooleans)
 {
     for (const auto* text : {"0", "1", "null", "\"true\"", "[]", "{}"})

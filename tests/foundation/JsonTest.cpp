@@ -24,11 +24,25 @@ TEST(Json, keepsKeysInTheOrderOfInsertion)
 
 TEST(Json, isReadBackAsItWasWritten)
 {
-    const std::string text = R"({"b":[true,false,null,-5,1.5,""],"a":{"漢":"🎛\n\u0000"}})";
+    const std::string text = R"({"a":{"漢":"🎛\n\u0000"},"b":[true,false,null,-5,1.5,""]})";
     const auto document = parseJson(text);
 
     ASSERT_TRUE(document);
     EXPECT_EQ(jsonText(*document), text);
+}
+
+TEST(Json, isReadWithSortedKeysOfWhichTheLastValueCounts)
+{
+    EXPECT_EQ(jsonText(parseJson(R"({"b":1,"a":2,"b":3})").value()), R"({"a":2,"b":3})");
+}
+
+TEST(Json, takesManyKeys)
+{
+    constexpr int count = 200'000;
+    std::string text = "{";
+    for (int number = count; number > 0; --number)
+        text += "\"key" + std::to_string(number) + "\":1,";
+    EXPECT_EQ(parseJson(text + "\"last\":1}").value().size(), count + 1U);
 }
 
 TEST(Json, replacesBytesThatAreNotUtf8WhenWritten)
