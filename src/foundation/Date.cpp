@@ -53,6 +53,18 @@ void putDigits(std::string& text, std::size_t begin, std::size_t count, int numb
         text[--place] = static_cast<char>('0' + number % 10);
 }
 
+/// The whole milliseconds since the beginning of 1970.
+double wholeMilliseconds(Date date)
+{
+    // The number that is nearest to a millisecond may lie before it, the further from the reference
+    // date the more: by one step for the number itself and one for what it was computed from.
+    const double furthest
+        = std::fmax(std::fabs(date.secondsSinceReferenceDate), std::fabs(date.unixTime()));
+    const double step = std::nextafter(furthest, HUGE_VAL) - furthest;
+    return std::floor(date.secondsSinceReferenceDate * 1000 + std::fmax(2 * step * 1000, 1e-4))
+        + Date::referenceDateSinceUnixEpoch * 1000;
+}
+
 } // namespace
 
 std::string iso8601(Date date)
@@ -61,7 +73,7 @@ std::string iso8601(Date date)
     // A date outside the years 1 to 9999 has no ISO form; the nearest that has one stands for it.
     constexpr double earliest = -62'135'596'800'000.0;
     constexpr double latest = 253'402'300'799'999.0;
-    const double wanted = std::floor(date.unixTime() * 1000 + 1e-4);
+    const double wanted = wholeMilliseconds(date);
     const double milliseconds = wanted >= earliest ? std::fmin(wanted, latest) : earliest;
     const sys_time<std::chrono::milliseconds> moment{
         std::chrono::milliseconds{static_cast<std::int64_t>(milliseconds)}};

@@ -54,6 +54,18 @@ TEST(Date, keepsEachMillisecondThroughItsText)
     }
 }
 
+TEST(Date, keepsEachMillisecondOfDatesFarAway)
+{
+    for (const std::string second : {"0001-01-01T00:00:00", "1582-10-15T12:34:56",
+             "1900-01-01T00:00:00", "1969-12-31T23:59:59", "2001-01-01T00:00:00",
+             "2244-05-06T07:08:09", "2999-12-31T23:59:59", "9999-12-31T23:59:59"})
+        for (int millisecond = 0; millisecond < 1'000; ++millisecond) {
+            const auto digits = std::to_string(1'000 + millisecond).substr(1);
+            const auto text = second + "." + digits + "Z";
+            ASSERT_EQ(iso8601(dateFromISO8601(text).value()), text);
+        }
+}
+
 TEST(Date, isWrittenAsTheNearestThatHasAForm)
 {
     const std::string first = "0001-01-01T00:00:00.000Z";
