@@ -1,5 +1,6 @@
 #include "platform/posix/PosixAppGroupContainer.h"
 
+#include "foundation/PrivateFolder.h"
 #include "log/Log.h"
 
 #include <cerrno>
@@ -10,25 +11,6 @@
 #include <utility>
 
 namespace brindlex {
-namespace {
-
-/// Makes the folder and what is missing above it. Returns the first error that may be why there is
-/// still no folder afterwards, or 0.
-int makeFolder(const std::filesystem::path& folder)
-{
-    int error = 0;
-    std::filesystem::path made;
-    for (const auto& name : folder) {
-        made /= name;
-        const bool isThere
-            = ::mkdir(made.c_str(), S_IRWXU) == 0 || errno == EEXIST || errno == EISDIR;
-        if (!isThere && error == 0)
-            error = errno;
-    }
-    return error;
-}
-
-} // namespace
 
 PosixAppGroupContainer::PosixAppGroupContainer(std::filesystem::path folder)
     : folder_(std::move(folder))
@@ -40,7 +22,7 @@ std::optional<std::filesystem::path> PosixAppGroupContainer::appGroupContainerUR
     struct stat status = {};
     int error = ::stat(folder_.c_str(), &status) == 0 ? 0 : errno;
     if (error == ENOENT) {
-        const int cause = makeFolder(folder_);
+        const int cause = makePrivateFolder(folder_);
         if (::stat(folder_.c_str(), &status) == 0)
             error = 0;
         else if (cause != 0)
