@@ -14,17 +14,18 @@ FileHandle& FileHandle::operator=(FileHandle&& other) noexcept
     return *this;
 }
 
-bool FileHandle::writeAll(std::string_view bytes) const
+std::size_t FileHandle::writeWhatFits(std::string_view bytes) const
 {
-    while (!bytes.empty()) {
-        const auto written = ::write(descriptor_, bytes.data(), bytes.size());
+    std::size_t count = 0;
+    while (count < bytes.size()) {
+        const auto written = ::write(descriptor_, bytes.data() + count, bytes.size() - count);
         if (written < 0 && errno == EINTR)
             continue;
         if (written < 0)
-            return false;
-        bytes.remove_prefix(static_cast<std::size_t>(written));
+            break;
+        count += static_cast<std::size_t>(written);
     }
-    return true;
+    return count;
 }
 
 bool FileHandle::close()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string_view>
 #include <utility>
 
@@ -23,7 +24,10 @@ public:
 
     /// Writes all the bytes, in as many steps as the system wants. False, with the reason in
     /// `errno`, when some could not be written.
-    bool writeAll(std::string_view bytes) const;
+    bool writeAll(std::string_view bytes) const { return writeWhatFits(bytes) == bytes.size(); }
+
+    /// The same; how many bytes were written before the first that could not be.
+    std::size_t writeWhatFits(std::string_view bytes) const;
 
     /// False, with the reason in `errno`, when the system reports that earlier writes were lost.
     bool close();

@@ -3,8 +3,11 @@
 #include "foundation/FileHandle.h"
 
 #include <fcntl.h>
+#include <numeric>
 #include <string>
+#include <sys/stat.h>
 #include <system_error>
+#include <unistd.h>
 
 namespace brindlex {
 namespace {
@@ -40,25 +43,66 @@ FileHandle openToAppend(const fs::path& file)
     return FileHandle(::open(file.c_str(), flags | O_CREAT | O_TRUNC, 0600));
 }
 
+using Lines = std::span<const std::string_view>;
+
+std::size_t sizeOf(Lines lines)
+{
+    return std::accumulate(lines.begin(), lines.end(), std::size_t{0},
+        [](auto size, const auto& line) { return size + line.size(); });
+}
+
+/// How many of so many bytes of the lines belong to whole lines.
+std::size_t wholeOf(Lines lines, std::size_t bytes)
+{
+    std::size_t whole = 0;
+    for (const auto& line : lines) {
+        if (whole + line.size() > bytes)
+            break;
+        whole += line.size();
+    }
+    return whole;
+}
+
+/// Takes the last bytes that were written away again, unless another process has written since.
+void takeBack(const FileHandle& handle, std::size_t bytes)
+{
+    struct stat status = {};
+    const auto end = ::lseek(handle.descriptor(), 0, SEEK_CUR);
+    if (bytes > 0 && end >= static_cast<off_t>(bytes) && ::fstat(handle.descriptor(), &status) == 0
+        && status.st_size == end)
+        static_cast<void>(!::ftruncate(handle.descriptor(), end - static_cast<off_t>(bytes)));
+}
+
+/// Writes lines that stand behind each other in memory in one step. A line that no longer fits is
+/// left out whole, or else the next one would be glued to its beginning.
+void writeTogether(const FileHandle& handle, Lines lines)
+{
+    if (lines.empty())
+        return;
+    const auto written = handle.writeWhatFits({lines.front().data(), sizeOf(lines)});
+    takeBack(handle, written - wholeOf(lines, written));
+}
+
+bool standBehindEachOther(std::string_view one, std::string_view other)
+{
+    return one.data() + one.size() == other.data();
+}
+
 /// Appends as many of the lines as go into the file before its next rotation; returns how many.
-/// Lines that stand behind each other in memory are written in one step.
-std::size_t appendUntilFull(const fs::path& file, std::span<const std::string_view> lines)
+std::size_t appendUntilFull(const fs::path& file, Lines lines)
 {
     const auto handle = openToAppend(file);
     auto size = sizeOf(file);
-    std::string_view waiting;
+    std::size_t written = 0;
     std::size_t count = 0;
     do {
-        const auto line = lines[count];
-        if (waiting.data() + waiting.size() == line.data()) {
-            waiting = {waiting.data(), waiting.size() + line.size()};
-        } else {
-            handle.writeAll(waiting);
-            waiting = line;
+        if (count > written && !standBehindEachOther(lines[count - 1], lines[count])) {
+            writeTogether(handle, lines.subspan(written, count - written));
+            written = count;
         }
-        size += line.size();
+        size += lines[count].size();
     } while (++count < lines.size() && size < logFileLimit);
-    handle.writeAll(waiting);
+    writeTogether(handle, lines.subspan(written, count - written));
     return count;
 }
 

@@ -18,7 +18,7 @@ inline constexpr int rotatedLogFiles = 5;
 ///
 /// The file is opened once for all the lines that go into it and closed at the end, so that it may
 /// be read, emptied, moved or removed at any time. It is private to the user. A failure is
-/// swallowed, and what it hit is lost.
+/// swallowed, and the lines that it hit are lost, whole ones.
 void appendToLogFile(const std::filesystem::path& file, std::span<const std::string_view> lines);
 
 /// Makes room for a new current file if this one is at its limit: removes ".5", moves each other
