@@ -7,6 +7,7 @@
 #include "platform/posix/PosixAppGroupContainer.h"
 #include "platform/posix/PosixClock.h"
 #include "platform/posix/SerialQueue.h"
+#include "platform/posix/StandardDescriptors.h"
 
 #include <chrono>
 #include <csignal>
@@ -22,6 +23,7 @@ constexpr std::chrono::milliseconds logPause{10};
 int main(int, char** arguments)
 {
     using namespace brindlex;
+    openStandardDescriptors();
     // A file that may grow no further is a failure to be handled, not a reason to end.
     std::signal(SIGXFSZ, SIG_IGN);
     PosixClock clock;
