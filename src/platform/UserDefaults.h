@@ -32,7 +32,8 @@ public:
     virtual std::optional<PreferenceValue> value(const std::string& key) const = 0;
 
     /// Stores the object, or removes what is stored when given nothing. The new state is in memory
-    /// when this returns, and on disk within 100 ms.
+    /// when this returns, and on disk within 100 ms, also where it is the present one and another
+    /// process has written something else since.
     virtual void set(const std::string& key, std::optional<PreferenceValue> object) = 0;
 };
 

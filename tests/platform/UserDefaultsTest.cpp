@@ -216,6 +216,25 @@ TYPED_TEST(UserDefaultsContract, keepsWhatThisProcessHasSetAndNotWrittenYet)
         this->runUntil([&] { return this->other->value("key") == PreferenceValue("mine"); }));
 }
 
+TYPED_TEST(UserDefaultsContract, writesWhatItHasSetAgainOverWhatAnotherHasWrittenBetween)
+{
+    this->process->set("key", std::string("mine"));
+    this->process->set("removed", {});
+    this->process->synchronize();
+    this->other->synchronize();
+    this->other->set("key", std::string("theirs"));
+    this->other->set("removed", true);
+    this->other->synchronize();
+
+    this->process->set("key", std::string("mine"));
+    this->process->set("removed", {});
+    this->process->synchronize();
+
+    this->other->synchronize();
+    EXPECT_EQ(this->other->value("key"), PreferenceValue("mine"));
+    EXPECT_EQ(this->other->value("removed"), Value());
+}
+
 TYPED_TEST(UserDefaultsContract, takesOverTheChangesOfOthersWhenAsked)
 {
     this->other->set("key", std::string("theirs"));

@@ -50,9 +50,8 @@ void SimulatedUserDefaults::set(const std::string& key, std::optional<Preference
 {
     journal_.add((object ? "set " : "remove ") + key);
     writes_.emplace_back(key, object);
-    if (value(key) == object)
-        return;
-    {
+    const bool isKnown = value(key) == object;
+    if (!isKnown) {
         const std::lock_guard guard(mutex_);
         if (object)
             values_.insert_or_assign(key, *std::move(object));
@@ -62,7 +61,8 @@ void SimulatedUserDefaults::set(const std::string& key, std::optional<Preference
     unwritten_.insert(key);
     if (mainThread_ && !nextWrite_.isActive())
         nextWrite_ = mainThread_->after(writeDelay, [this] { bringToDisk(); });
-    subscribers_.notify();
+    if (!isKnown)
+        subscribers_.notify();
 }
 
 void SimulatedUserDefaults::synchronize()

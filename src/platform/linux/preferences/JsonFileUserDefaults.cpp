@@ -1,7 +1,9 @@
 #include "platform/linux/preferences/JsonFileUserDefaults.h"
 
+#include "foundation/PrivateFolder.h"
 #include "foundation/Text.h"
 
+#include <algorithm>
 #include <system_error>
 #include <utility>
 
@@ -19,6 +21,21 @@ PreferenceValue withWellFormedText(PreferenceValue value)
     return value;
 }
 
+/// The path, and where the symbolic links lead that stand there, step by step.
+std::vector<std::filesystem::path> filesOnTheWay(const std::filesystem::path& path)
+{
+    constexpr std::size_t mostLinks = 40;
+    std::vector files{path};
+    while (files.size() <= mostLinks) {
+        std::error_code isNoLink;
+        const auto target = std::filesystem::read_symlink(files.back(), isNoLink);
+        if (isNoLink)
+            break;
+        files.push_back(files.back().parent_path() / target);
+    }
+    return files;
+}
+
 } // namespace
 
 JsonFileUserDefaults::JsonFileUserDefaults(
@@ -26,10 +43,9 @@ JsonFileUserDefaults::JsonFileUserDefaults(
     : path_(file), mainThread_(mainThread), queue_(queue), file_(file),
       self_(std::make_shared<JsonFileUserDefaults*>(this))
 {
-    std::error_code ignored;
-    std::filesystem::create_directories(path_.parent_path(), ignored);
-    watch();
-    file_.look(PreferenceFile::Patience::acts);
+    makePrivateFolder(path_.parent_path());
+    watch(filesOnTheWay(path_));
+    file_.look(PreferenceFile::Patience::settles);
     memory_ = file_.document();
 }
 
@@ -53,20 +69,14 @@ std::optional<PreferenceValue> JsonFileUserDefaults::value(const std::string& ke
 void JsonFileUserDefaults::set(const std::string& key, std::optional<PreferenceValue> object)
 {
     // Only this thread changes the memory, so that it may look at it without the lock.
-    const auto found = memory_.find(key);
     const auto* const present = valueIn(memory_, key);
-    if (object ? present && *present == *object : found == memory_.end())
-        return;
-    auto preference = object ? storedPreference(withWellFormedText(*std::move(object))) : nullptr;
-    {
-        const std::unique_lock guard(memoryMutex_);
-        if (preference)
-            memory_.insert_or_assign(key, std::move(preference));
-        else
-            memory_.erase(key);
-    }
+    const bool isKnown = object ? present && *present == *object : !present;
+    if (!isKnown)
+        setInMemory(key, std::move(object));
+    // What is known is written as well: another process may have written something else since.
     carryOut(sync_.change(key));
-    subscribers_.notify();
+    if (!isKnown)
+        subscribers_.notify();
 }
 
 void JsonFileUserDefaults::synchronize()
@@ -84,20 +94,43 @@ Subscription JsonFileUserDefaults::observeChanges(std::function<void()> handler)
     return subscribers_.add(std::move(handler));
 }
 
-/// Watches the folder of the file, and of the file that a symbolic link in its place leads to.
-void JsonFileUserDefaults::watch()
+void JsonFileUserDefaults::setInMemory(
+    const std::string& key, std::optional<PreferenceValue> object)
 {
-    const auto watcherOf = [this](const std::filesystem::path& file) {
-        return std::make_unique<FolderWatcher>(file.parent_path(),
-            [this, name = file.filename().string()](const std::string& touched) {
-                if (touched.empty() || touched == name)
-                    carryOut(sync_.touch());
-            });
-    };
-    folderWatcher_ = watcherOf(path_);
-    std::error_code isNoLink;
-    const auto target = std::filesystem::canonical(path_, isNoLink);
-    targetWatcher_ = isNoLink || target == path_ ? nullptr : watcherOf(target);
+    auto preference = object ? storedPreference(withWellFormedText(*std::move(object))) : nullptr;
+    const std::unique_lock guard(memoryMutex_);
+    if (preference)
+        memory_.insert_or_assign(key, std::move(preference));
+    else
+        memory_.erase(key);
+}
+
+void JsonFileUserDefaults::watch(const std::vector<std::filesystem::path>& files)
+{
+    watched_.clear();
+    for (const auto& file : files)
+        watched_.push_back({file,
+            std::make_unique<FolderWatcher>(file.parent_path(),
+                [this, name = file.filename().string()](const std::string& touched) {
+                    if (touched.empty() || touched == name)
+                        carryOut(sync_.touch());
+                })});
+}
+
+/// A link may have been made to lead elsewhere, and a folder removed, or made by the first write.
+void JsonFileUserDefaults::watchAnewIfNeeded()
+{
+    const auto files = filesOnTheWay(path_);
+    const bool areTheSame = std::equal(files.begin(), files.end(), watched_.begin(), watched_.end(),
+        [](const auto& path, const auto& watched) { return path == watched.path; });
+    const bool areWatched = std::all_of(watched_.begin(), watched_.end(),
+        [](const auto& file) { return file.folder->isWatching(); });
+    if (areTheSame && areWatched)
+        return;
+    watch(files);
+    // What was written there before it was watched.
+    if (!areTheSame)
+        carryOut(sync_.touch());
 }
 
 void JsonFileUserDefaults::carryOut(const PreferenceFileSync::Actions& actions)
@@ -162,9 +195,7 @@ void JsonFileUserDefaults::take(const Outcome& outcome)
         carryOut(sync_.endWrite(*outcome.isWritten));
     if (outcome.found)
         carryOut(sync_.endLook(*outcome.found));
-    // The folder was removed, or made by the first write.
-    if (!folderWatcher_->isWatching())
-        watch();
+    watchAnewIfNeeded();
     adopt(outcome.document);
 }
 

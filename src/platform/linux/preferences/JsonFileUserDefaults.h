@@ -18,6 +18,7 @@
 #include <set>
 #include <shared_mutex>
 #include <string>
+#include <vector>
 
 namespace brindlex {
 
@@ -28,7 +29,7 @@ namespace brindlex {
 /// another process writes is taken over under all keys but those that this process has set since
 /// and not written yet. A write that fails is repeated with the next change and by itself after 1
 /// s, 2 s and so on up to a minute. A file that was removed counts as empty after a second without
-/// it.
+/// it. The file may be reached by symbolic links, which may be made to lead elsewhere.
 class JsonFileUserDefaults : public UserDefaults {
 public:
     JsonFileUserDefaults(
@@ -50,7 +51,15 @@ private:
         PreferenceDocument document{};
     };
 
-    void watch();
+    /// A file whose changes are noticed: the preferences, or a link on the way to them.
+    struct WatchedFile {
+        std::filesystem::path path{};
+        std::unique_ptr<FolderWatcher> folder{};
+    };
+
+    void setInMemory(const std::string& key, std::optional<PreferenceValue> object);
+    void watch(const std::vector<std::filesystem::path>& files);
+    void watchAnewIfNeeded();
     void carryOut(const PreferenceFileSync::Actions& actions);
     void look(PreferenceFile::Patience patience);
     void write(const std::set<std::string>& changedKeys);
@@ -74,8 +83,7 @@ private:
     std::deque<Outcome> outcomes_;
     std::shared_ptr<JsonFileUserDefaults*> self_;
     std::map<PreferenceFileSync::Timer, Subscription> timers_;
-    std::unique_ptr<FolderWatcher> folderWatcher_;
-    std::unique_ptr<FolderWatcher> targetWatcher_;
+    std::vector<WatchedFile> watched_;
 };
 
 } // namespace brindlex

@@ -2,23 +2,45 @@
 
 #include "foundation/FileReading.h"
 #include "foundation/FileReplacement.h"
+#include "foundation/PrivateFolder.h"
 #include "log/Log.h"
 #include "platform/linux/preferences/FolderLock.h"
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <system_error>
+#include <thread>
 
 namespace brindlex {
 namespace {
+
+using namespace std::chrono_literals;
+
+/// How long after its last change a damaged file may still be in the making, and for how long at
+/// most that is waited for.
+constexpr auto settlingTime = 1s;
+constexpr auto longestSettling = 5s;
+constexpr auto betweenLooks = 10ms;
 
 std::string systemWords(int error) { return std::generic_category().message(error); }
 
 std::int64_t nanoseconds(const timespec& time)
 {
     return std::int64_t{time.tv_sec} * 1'000'000'000 + time.tv_nsec;
+}
+
+/// Whether the file has changed so lately that somebody may be writing to it.
+bool isBeingWritten(const std::filesystem::path& path)
+{
+    struct stat status = {};
+    if (::stat(path.c_str(), &status) != 0 || !S_ISREG(status.st_mode))
+        return false;
+    const auto changed = std::chrono::nanoseconds(nanoseconds(status.st_ctim));
+    const auto age = std::chrono::system_clock::now().time_since_epoch() - changed;
+    return age < settlingTime && age > -settlingTime;
 }
 
 /// The file that a symbolic link leads to, or the path itself.
@@ -47,7 +69,7 @@ int renameWithoutReplacing(const std::filesystem::path& from, const std::filesys
 
 PreferenceFile::Finding PreferenceFile::look(Patience patience)
 {
-    switch (examine()) {
+    switch (patience == Patience::settles ? examineSettled() : examine()) {
     case State::same:
         return Finding::unchanged;
     case State::readable:
@@ -72,11 +94,10 @@ PreferenceFile::Finding PreferenceFile::look(Patience patience)
 bool PreferenceFile::write(
     const PreferenceDocument& memory, const std::set<std::string>& changedKeys)
 {
-    std::error_code error;
-    std::filesystem::create_directories(path_.parent_path(), error);
+    makePrivateFolder(path_.parent_path());
     const FolderLock lock(path_.parent_path());
 
-    const auto state = examine();
+    const auto state = examineSettled();
     if (state == State::unreadable) {
         reportOnce("Preferences cannot be read and are not written: " + reason_);
         return false;
@@ -150,6 +171,24 @@ PreferenceFile::State PreferenceFile::examine()
     seen_ = identity;
     hasReported_ = false;
     return State::readable;
+}
+
+/// The same, which gives whoever is in the middle of writing the file the time to end.
+PreferenceFile::State PreferenceFile::examineSettled()
+{
+    auto state = examine();
+    auto damaged = identityOf(path_);
+    const auto end = std::chrono::steady_clock::now() + longestSettling;
+    while (state == State::damaged && isBeingWritten(path_)
+        && std::chrono::steady_clock::now() < end) {
+        std::this_thread::sleep_for(betweenLooks);
+        // A large file is not read again and again for nothing.
+        if (const auto present = identityOf(path_); present != damaged) {
+            state = examine();
+            damaged = present;
+        }
+    }
+    return state;
 }
 
 /// Moves what stands in the file's place out of the way.

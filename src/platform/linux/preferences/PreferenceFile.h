@@ -17,7 +17,7 @@ namespace brindlex {
 /// 64 MiB, no regular file) is set aside under the name with the suffix "corrupt", numbered where
 /// there is one already, and never overwritten or removed. A file that cannot be read is left alone
 /// and nothing is written as long as that lasts. Both, and a failure to write, are logged, a
-/// lasting failure once.
+/// lasting failure once. The folder is made for the user alone where it is missing.
 ///
 /// Every operation waits for the disk. One thread at a time.
 class PreferenceFile {
@@ -26,8 +26,11 @@ public:
 
     explicit PreferenceFile(std::filesystem::path path) : path_(std::move(path)) { }
 
-    /// What to do about a file that is missing or damaged: somebody may be about to write it.
-    enum class Patience { waits, acts };
+    /// What to do about a file that is missing or damaged, since somebody may be about to write it:
+    /// `waits` leaves that to the caller, `settles` waits itself for who is writing to a damaged
+    /// file until that has not changed for a second, though no longer than five, and `acts` does
+    /// not wait.
+    enum class Patience { waits, settles, acts };
 
     enum class Finding { unchanged, changed, unsettled, setAside, unreadable };
 
@@ -36,8 +39,9 @@ public:
     Finding look(Patience patience);
 
     /// Brings what `memory` has under the changed keys into the file, and all that it has where
-    /// there is no file; `document` has the content of the file afterwards. False when the file
-    /// could not be written and is as it was.
+    /// there is no file; `document` has the content of the file afterwards. Waits for who is
+    /// writing to the file, as `settles` does. False when the file could not be written and is as
+    /// it was.
     bool write(const PreferenceDocument& memory, const std::set<std::string>& changedKeys);
 
     /// The content of the file as far as this process knows.
@@ -58,6 +62,7 @@ private:
     enum class State { same, readable, missing, damaged, unreadable };
 
     State examine();
+    State examineSettled();
     bool setAside();
     void reportOnce(const std::string& message);
     static Identity identityOf(const std::filesystem::path& path);

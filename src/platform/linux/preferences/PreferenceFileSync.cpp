@@ -63,12 +63,14 @@ PreferenceFileSync::Actions PreferenceFileSync::endWrite(bool isWritten)
     Actions actions;
     if (!std::exchange(isWriting_, false))
         return actions;
+    const bool wasLost = std::exchange(isLostBeingWritten_, false);
     if (isWritten) {
         retryDelay_ = firstRetryDelay;
-        if (!changed_.empty())
+        if (!changed_.empty() || isFileLost_)
             writeSoon(actions);
     } else {
         changed_.merge(beingWritten_);
+        isFileLost_ |= wasLost;
         start(Timer::retry, retryDelay_, actions);
         retryDelay_ = std::min(2 * retryDelay_, longestRetryDelay);
     }
@@ -100,7 +102,7 @@ void PreferenceFileSync::write(Actions& actions)
         return;
     stop(Timer::retry, actions);
     isWriting_ = true;
-    isFileLost_ = false;
+    isLostBeingWritten_ = std::exchange(isFileLost_, false);
     beingWritten_ = std::exchange(changed_, {});
     actions.push_back(Action::Write{beingWritten_});
 }

@@ -84,7 +84,9 @@ private:
     std::set<std::string> beingWritten_;
     Seconds retryDelay_ = firstRetryDelay;
     bool isWriting_ = false;
+    /// Whether the file was set aside, so that it has to be written without a change as well.
     bool isFileLost_ = false;
+    bool isLostBeingWritten_ = false;
     bool isLooking_ = false;
     bool needsAnotherLook_ = false;
 };

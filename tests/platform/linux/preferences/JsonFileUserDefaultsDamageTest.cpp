@@ -26,6 +26,28 @@ TEST_F(JsonFileUserDefaultsTest, setsADamagedFileAsideAndBeginsAfresh)
     EXPECT_EQ(contentOf(aside()), "{\"mouseConfig\":");
 }
 
+TEST_F(JsonFileUserDefaultsTest, givesAnEditorASecondAlsoAtItsBeginningAndItsEnd)
+{
+    const auto duration = [](const std::function<void()>& work) {
+        const auto before = std::chrono::steady_clock::now();
+        work();
+        return std::chrono::steady_clock::now() - before;
+    };
+    // The dates of files are those of the last tick of the system's clock.
+    constexpr auto nearlyASecond = 950ms;
+    write(path(), "{\"a\":");
+    EXPECT_GE(duration([&] { start(); }), nearlyASecond);
+    EXPECT_EQ(log.takeLines(), std::vector{asideLine()});
+
+    files::remove(aside());
+    write(path(), "{\"b\":");
+    defaults->set("c", true);
+    EXPECT_GE(duration([&] { defaults.reset(); }), nearlyASecond);
+    EXPECT_EQ(log.takeLines(), std::vector{asideLine()});
+    EXPECT_EQ(valueInFile("c"), PreferenceValue(true));
+    EXPECT_EQ(contentOf(aside()), "{\"b\":");
+}
+
 TEST_F(JsonFileUserDefaultsTest, keepsItsValuesWhenTheFileGetsDamagedForGood)
 {
     write(path(), R"({"a":1,"b":"x"})");

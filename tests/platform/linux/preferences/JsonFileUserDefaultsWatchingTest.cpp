@@ -3,6 +3,7 @@
 #include "support/processes/ChildProcess.h"
 
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace brindlex {
@@ -34,6 +35,34 @@ TEST_F(JsonFileUserDefaultsTest, noticesAChangeBehindASymbolicLink)
     EXPECT_TRUE(runUntil([&] { return defaults->value("a") == PreferenceValue(std::int64_t{2}); }));
 }
 
+TEST_F(JsonFileUserDefaultsTest, noticesThatASymbolicLinkLeadsElsewhereAndWhatIsWrittenThere)
+{
+    const auto first = folder.path() / "first";
+    const auto second = folder.path() / "second";
+    for (const auto& [place, value] : {std::pair{first, "1"}, std::pair{second, "2"}}) {
+        files::create_directory(place);
+        write(place / "real.json", std::string("{\"a\":") + value + "}");
+    }
+    // Not only the file itself, but also a link on the way to it may be changed.
+    const auto onTheWay = first / "link.json";
+    files::create_symlink("real.json", onTheWay);
+    files::create_symlink(onTheWay, path());
+    start();
+    ASSERT_EQ(defaults->value("a"), PreferenceValue(std::int64_t{1}));
+
+    files::create_symlink(second / "real.json", folder.path() / "new");
+    files::rename(folder.path() / "new", onTheWay);
+    EXPECT_TRUE(runUntil([&] { return defaults->value("a") == PreferenceValue(std::int64_t{2}); }));
+    write(second / "real.json", R"({"a":3})");
+    EXPECT_TRUE(runUntil([&] { return defaults->value("a") == PreferenceValue(std::int64_t{3}); }));
+
+    defaults->set("b", true);
+    ASSERT_TRUE(runUntil([&] { return valueInFile("b") == PreferenceValue(true); }));
+    EXPECT_TRUE(files::is_symlink(path()));
+    EXPECT_TRUE(files::is_symlink(onTheWay));
+    EXPECT_EQ(contentOf(first / "real.json"), "{\"a\":1}");
+}
+
 TEST_F(JsonFileUserDefaultsTest, waitsForAnEditorThatIsInTheMiddleOfWriting)
 {
     write(path(), R"({"a":1})");
@@ -45,6 +74,21 @@ TEST_F(JsonFileUserDefaultsTest, waitsForAnEditorThatIsInTheMiddleOfWriting)
     EXPECT_TRUE(runUntil([&] { return defaults->value("a") == PreferenceValue(std::int64_t{2}); }));
     loop.runFor(1.2);
     EXPECT_FALSE(files::exists(aside()));
+    EXPECT_EQ(log.lines(), std::vector<std::string>{});
+}
+
+TEST_F(JsonFileUserDefaultsTest, waitsForAnEditorAlsoWithSomethingOfItsOwnToWrite)
+{
+    write(path(), R"({"a":1})");
+    start();
+    write(path(), "{\"a\":");
+    defaults->set("b", true);
+    loop.runFor(0.5);
+    EXPECT_EQ(contentOf(path()), "{\"a\":");
+    write(path(), R"({"a":2})");
+    EXPECT_TRUE(runUntil([&] { return valueInFile("b") == PreferenceValue(true); }));
+    EXPECT_EQ(valueInFile("a"), PreferenceValue(std::int64_t{2}));
+    EXPECT_TRUE(runUntil([&] { return defaults->value("a") == PreferenceValue(std::int64_t{2}); }));
     EXPECT_EQ(log.lines(), std::vector<std::string>{});
 }
 

@@ -19,6 +19,9 @@ struct World {
     std::string events{};
     Keys changed{};
     std::optional<Keys> beingWritten{};
+    /// Whether the file was set aside since the last write began.
+    bool isLost = false;
+    bool isLostBeingWritten = false;
     bool isLooking = false;
     std::set<Timer> running{};
 
@@ -32,6 +35,7 @@ struct World {
                     EXPECT_FALSE(beingWritten) << events;
                     EXPECT_EQ(due.changedKeys, changed) << events;
                     beingWritten = std::exchange(changed, {});
+                    isLostBeingWritten = std::exchange(isLost, false);
                 },
                 [this](const Action::Look&) {
                     EXPECT_FALSE(isLooking) << events;
@@ -59,6 +63,7 @@ struct World {
     {
         if (!isWritten)
             changed.insert(beingWritten->begin(), beingWritten->end());
+        isLost |= std::exchange(isLostBeingWritten, false) && !isWritten;
         beingWritten.reset();
         carryOut(sync.endWrite(isWritten));
     }
@@ -66,6 +71,7 @@ struct World {
     void endLook(Finding found)
     {
         isLooking = false;
+        isLost |= found == Finding::setAside;
         carryOut(sync.endLook(found));
         EXPECT_TRUE(found != Finding::unsettled || running.contains(Timer::settle)) << events;
     }
@@ -79,6 +85,7 @@ struct World {
         const bool goesOn
             = beingWritten || running.contains(Timer::write) || running.contains(Timer::retry);
         EXPECT_TRUE(changed.empty() || goesOn) << "Nothing writes" << text(changed) << events;
+        EXPECT_TRUE(!isLost || goesOn) << "Nothing writes the file that was set aside" << events;
     }
 };
 

@@ -243,6 +243,19 @@ TEST(PreferenceFileSync, writesAFileThatWasSetAsideAnew)
     EXPECT_EQ(text(sync.flush()), "") << "It is written.";
 }
 
+TEST(PreferenceFileSync, writesAFileThatWasSetAsideWithTheRetryWhenItFailsAtFirst)
+{
+    auto sync = settling();
+    sync.fire(Timer::settle);
+    sync.endLook(Finding::setAside);
+    sync.fire(Timer::write);
+
+    EXPECT_EQ(text(sync.endWrite(false)), "start retry 1");
+    EXPECT_EQ(text(sync.fire(Timer::retry)), "write");
+    EXPECT_EQ(text(sync.endWrite(true)), "");
+    EXPECT_EQ(text(sync.flush()), "") << "It is written.";
+}
+
 TEST(PreferenceFileSync, writesAFileThatWasSetAsideWithTheChangesThatAreDue)
 {
     auto sync = looking();

@@ -40,6 +40,8 @@ TEST_F(PreferenceFileTest, isMadeForTheUserAloneWithItsFolders)
     struct stat status = {};
     ASSERT_EQ(::stat(at("config/deep/p.json").c_str(), &status), 0);
     EXPECT_EQ(status.st_mode & 0777, 0600U);
+    for (const auto folderMade : {"config", "config/deep"})
+        EXPECT_EQ(files::status(at(folderMade)).permissions(), files::perms(0700)) << folderMade;
 }
 
 TEST_F(PreferenceFileTest, doesNotSeeItsOwnWriteAsAChange)
