@@ -2,6 +2,8 @@
 
 #include "log/Log.h"
 #include "platform/linux/accessibility/AccessibilityReply.h"
+#include "platform/linux/bus/BusReachability.h"
+#include "platform/linux/bus/SessionBusAddress.h"
 
 #include <QDBusMessage>
 #include <algorithm>
@@ -39,14 +41,14 @@ QDBusMessage question(const QString& service, const QString& path, const QString
     return message;
 }
 
-/// Where the session bus is. Left to itself the library would keep the address for the life of the
-/// process, and start a bus where there is none.
-QString sessionAddress()
+/// A connection to the bus, which is not connected when the bus does not let this process in. Left
+/// to itself the library would keep the address for the life of the process, start a bus where
+/// there is none, and wait for ever for one that says nothing.
+QDBusConnection connectTo(const std::string& address, const QString& name)
 {
-    auto address = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
-    if (!address.isEmpty())
-        return address;
-    return QStringLiteral("unix:path=%1/bus").arg(qEnvironmentVariable("XDG_RUNTIME_DIR"));
+    if (!isBusReplying(address, timeForAddress))
+        return QDBusConnection(name);
+    return QDBusConnection::connectToBus(QString::fromStdString(address), name);
 }
 
 QDBusMessage launcherQuestion(
@@ -88,7 +90,7 @@ bool AccessibilityBus::connect()
     QDBusConnection::disconnectFromBus(connectionName_);
     const auto found = address();
     if (found)
-        connection_ = QDBusConnection::connectToBus(*found, connectionName_);
+        connection_ = connectTo(found->toStdString(), connectionName_);
     if (!found || !connection_.isConnected()) {
         logOnce(isAbsenceLogged_, std::string("No accessibility bus: ") + loss_.withoutBus);
         return false;
@@ -103,7 +105,7 @@ std::optional<QString> AccessibilityBus::address()
     auto session = QDBusConnection(sessionConnectionName_);
     if (!session.isConnected()) {
         QDBusConnection::disconnectFromBus(sessionConnectionName_);
-        session = QDBusConnection::connectToBus(sessionAddress(), sessionConnectionName_);
+        session = connectTo(sessionBusAddress(), sessionConnectionName_);
     }
     const auto reply = session.call(
         launcherQuestion(QStringLiteral("org.a11y.Bus"), QStringLiteral("GetAddress")),

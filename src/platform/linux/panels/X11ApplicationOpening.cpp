@@ -1,6 +1,8 @@
 #include "platform/linux/panels/X11ApplicationOpening.h"
 
 #include "log/Log.h"
+#include "platform/linux/bus/BusReachability.h"
+#include "platform/linux/bus/SessionBusAddress.h"
 #include "platform/linux/panels/WindowChoice.h"
 #include "platform/linux/panels/X11OpenWindows.h"
 #include "platform/linux/windows/X11WindowActivation.h"
@@ -10,6 +12,8 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QVariant>
+
+#include <chrono>
 
 namespace brindlex {
 namespace {
@@ -29,6 +33,8 @@ bool isOnBus(const QDBusConnection& bus, const QString& service)
 /// Whether a desktop with an overview was asked to show it.
 bool showOverview()
 {
+    if (!isBusReplying(sessionBusAddress(), std::chrono::milliseconds(patience)))
+        return false;
     const auto bus = QDBusConnection::sessionBus();
     if (!bus.isConnected())
         return false;

@@ -1,6 +1,8 @@
 #include "platform/linux/system/SessionBus.h"
 
-#include <QFileInfo>
+#include "platform/linux/bus/BusReachability.h"
+#include "platform/linux/bus/SessionBusAddress.h"
+
 #include <QUuid>
 
 namespace brindlex {
@@ -8,32 +10,23 @@ namespace {
 
 constexpr int longestWaitInMilliseconds = 500;
 
-/// Where the bus is. The library's own search is avoided, as it starts a bus where there is none.
-QString address()
-{
-    auto named = qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS");
-    if (!named.isEmpty())
-        return named;
-    const auto socket = qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus");
-    return QFileInfo::exists(socket) ? QStringLiteral("unix:path=") + socket : QString();
-}
+/// At the beginning of a session a bus has much to do; one that needs longer has been stopped.
+constexpr auto longestConnecting = std::chrono::seconds(5);
 
-QDBusConnection connect(const QString& address)
+/// The library's own search for the bus is avoided, as it starts one where there is none.
+QDBusConnection connect(const std::string& address)
 {
     const auto name = QUuid::createUuid().toString();
-    if (address.isEmpty() || address.startsWith(QStringLiteral("autolaunch:")))
+    if (!isBusReplying(address, longestConnecting))
         return QDBusConnection(name);
-    return QDBusConnection::connectToBus(address, name);
+    return QDBusConnection::connectToBus(QString::fromStdString(address), name);
 }
 
 } // namespace
 
-SessionBus::SessionBus() : connection_(connect(address())) { }
+SessionBus::SessionBus() : SessionBus(sessionBusAddress()) { }
 
-SessionBus::SessionBus(const std::string& address)
-    : connection_(connect(QString::fromStdString(address)))
-{
-}
+SessionBus::SessionBus(const std::string& address) : connection_(connect(address)) { }
 
 SessionBus::~SessionBus()
 {

@@ -10,8 +10,9 @@ namespace brindlex {
 
 /// The message bus of the user's session, seen by one connection to it.
 ///
-/// Where the session has none, nothing starts one: the connection is then not connected, and
-/// everything that is sent is lost. Names are never started by a message. Main thread only.
+/// Where the session has none, or one that has not let this process in within five seconds, nothing
+/// starts one: the connection is then not connected, and everything that is sent is lost. Names are
+/// never started by a message. Main thread only.
 class SessionBus {
 public:
     /// A connection of its own to the bus that the environment names, or else to the one at the
