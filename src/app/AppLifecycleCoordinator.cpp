@@ -11,10 +11,14 @@ namespace {
 /// How long the label of an automatic switch, or the reply to a second launch, stays.
 constexpr Seconds overlayDuration = 0.8;
 
+/// How often the program shows itself at most.
+constexpr Seconds showInterval = 0.5;
+
 } // namespace
 
 AppLifecycleCoordinator::AppLifecycleCoordinator(Platform& platform, SharedInstances& shared)
-    : platform_(platform), shared_(shared)
+    : platform_(platform), shared_(shared),
+      showing_(platform.mainThread, showInterval, [this] { showMainWindow(); })
 {
 }
 
@@ -42,9 +46,10 @@ void AppLifecycleCoordinator::stop()
     shared_.mouse().gestureManager().tearDown();
     shared_.mouse().scrollManager().tearDown();
     showRequests_.reset();
+    showing_.cancel();
 }
 
-void AppLifecycleCoordinator::showMainWindowRequested()
+void AppLifecycleCoordinator::showMainWindow()
 {
     Log::info("Asked to show the main window", logCategory::lifecycle);
     shared_.overlayHUDController().show("Brindlex", overlayDuration);
@@ -52,15 +57,11 @@ void AppLifecycleCoordinator::showMainWindowRequested()
 
 bool AppLifecycleCoordinator::wakeExistingInstance()
 {
-    using Keys = UserDefaultPreferenceKeys;
-    if (shared_.preferences().read(&Keys::shouldRestoreFocusAfterLanguageRelaunch))
-        return false;
-    const auto existing = SingleInstanceManager(platform_.instances).existingInstance();
+    const SingleInstanceManager manager(platform_.instances);
+    const auto existing = manager.instanceToYieldTo(shared_.preferences());
     if (!existing)
         return false;
-    platform_.distributedNotifications.post(
-        programIdentity::showMainWindow, programIdentity::bundleIdentifier);
-    platform_.instances.activate(*existing);
+    manager.wake(*existing, platform_.distributedNotifications);
     platform_.instances.terminate();
     return true;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/RequestFolding.h"
 #include "app/SharedInstances.h"
 #include "foundation/Subscription.h"
 #include "platform/Platform.h"
@@ -25,16 +26,19 @@ public:
     /// Runs the stop sequence.
     void stop();
 
-    /// Brings the program before the user's eyes: asked for by a second launch.
-    void showMainWindowRequested();
+    /// Brings the program before the user's eyes: asked for by a second launch. A flood of such
+    /// requests makes it show itself twice a second.
+    void showMainWindowRequested() { showing_.request(); }
 
 private:
     bool wakeExistingInstance();
+    void showMainWindow();
     void observeShowRequests();
     void startInputSwitching();
 
     Platform& platform_;
     SharedInstances& shared_;
+    RequestFolding showing_;
     Subscription showRequests_;
     bool isStarted_ = false;
 };

@@ -15,4 +15,19 @@ std::optional<ProgramInstances::ProcessIdentifier> SingleInstanceManager::existi
     return {};
 }
 
+std::optional<ProgramInstances::ProcessIdentifier> SingleInstanceManager::instanceToYieldTo(
+    const Preferences& preferences) const
+{
+    if (preferences.read(&UserDefaultPreferenceKeys::shouldRestoreFocusAfterLanguageRelaunch))
+        return {};
+    return existingInstance();
+}
+
+void SingleInstanceManager::wake(
+    ProgramInstances::ProcessIdentifier instance, DistributedNotifications& notifications) const
+{
+    notifications.post(programIdentity::showMainWindow, programIdentity::bundleIdentifier);
+    instances_.activate(instance);
+}
+
 } // namespace brindlex

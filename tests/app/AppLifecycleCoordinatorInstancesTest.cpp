@@ -2,6 +2,7 @@
 
 #include "app/SimulatedProgram.h"
 
+#include <algorithm>
 #include <gtest/gtest.h>
 
 namespace brindlex {
@@ -44,6 +45,39 @@ TEST(AppLifecycleCoordinator, reactsToASecondLaunchBeforeTheUsersEyes)
     EXPECT_EQ(first.computer.overlayPanel.calls(), std::vector<std::string>{"show Brindlex"});
     first.computer.mainThread.advance(0.8);
     EXPECT_TRUE(first.computer.overlayPanel.isFading());
+}
+
+TEST(AppLifecycleCoordinator, showsItselfTwiceASecondInAFloodOfLaunches)
+{
+    const auto services = std::make_shared<SimulatedSessionServices>();
+    SimulatedProgram first(services);
+    first.lifecycle.start();
+    SimulatedProgram other(services);
+    // The log of the process is the one that was installed last.
+    other.log.takeLines();
+
+    for (int launch = 0; launch < 10'000; ++launch)
+        other.computer.distributedNotifications.post(
+            programIdentity::showMainWindow, programIdentity::bundleIdentifier);
+    first.computer.mainThread.advance(10);
+
+    EXPECT_EQ(other.log.lines().size(), 2U);
+    EXPECT_EQ(std::count(first.computer.overlayPanel.calls().begin(),
+                  first.computer.overlayPanel.calls().end(), "show Brindlex"),
+        2);
+}
+
+TEST(AppLifecycleCoordinator, showsNothingMoreOnceItHasStopped)
+{
+    SimulatedProgram process;
+    process.lifecycle.start();
+    process.lifecycle.showMainWindowRequested();
+    process.lifecycle.showMainWindowRequested();
+    process.lifecycle.stop();
+    process.computer.mainThread.advance(10);
+    EXPECT_EQ(std::count(process.computer.overlayPanel.calls().begin(),
+                  process.computer.overlayPanel.calls().end(), "show Brindlex"),
+        1);
 }
 
 TEST(AppLifecycleCoordinator, doesNotLookForOthersAfterAChangeOfLanguage)

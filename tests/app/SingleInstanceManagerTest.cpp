@@ -2,6 +2,8 @@
 
 #include "app/ProgramIdentity.h"
 #include "platform/simulated/SimulatedProgramInstances.h"
+#include "platform/simulated/SimulatedUserDefaults.h"
+#include "platform/simulated/SimulatedUserFolders.h"
 
 #include <gtest/gtest.h>
 
@@ -27,6 +29,21 @@ TEST(SingleInstanceManager, findsTheFirstThatIsNotTheProcessItself)
     EXPECT_EQ(SingleInstanceManager(first).existingInstance(), std::nullopt);
     EXPECT_EQ(SingleInstanceManager(second).existingInstance(), first.current());
     EXPECT_EQ(SingleInstanceManager(third).existingInstance(), first.current());
+}
+
+TEST(SingleInstanceManager, yieldsToNobodyInAProcessThatTakesAnothersPlace)
+{
+    SimulatedSession session;
+    SimulatedProgramInstances first(session, programIdentity::bundleIdentifier);
+    SimulatedProgramInstances second(session, programIdentity::bundleIdentifier);
+    const SimulatedUserFolders folders;
+    SimulatedUserDefaults defaults;
+    Preferences preferences(defaults, folders);
+    const SingleInstanceManager manager(second);
+
+    EXPECT_EQ(manager.instanceToYieldTo(preferences), first.current());
+    preferences.write(&UserDefaultPreferenceKeys::shouldRestoreFocusAfterLanguageRelaunch, true);
+    EXPECT_EQ(manager.instanceToYieldTo(preferences), std::nullopt);
 }
 
 } // namespace
