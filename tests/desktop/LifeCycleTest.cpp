@@ -1,8 +1,10 @@
 #include "desktop/ProgramDesk.h"
 #include "support/bus/BusConnection.h"
 #include "support/bus/BusSignals.h"
+#include "support/bus/SilentBus.h"
 
 #include <algorithm>
+#include <csignal>
 #include <gtest/gtest.h>
 
 namespace brindlex {
@@ -68,6 +70,21 @@ TEST(LifeCycle, endsInOrderWhenTheTerminalInterruptsIt)
     EXPECT_EQ(program.messages().back(), "Brindlex will terminate") << program.report();
 }
 
+TEST(LifeCycle, endsInOrderHoweverOftenItIsAskedTo)
+{
+    const ProgramDesk desk;
+    const RunningProgram program(desk.desktop);
+    ASSERT_TRUE(program.launches()) << program.report();
+
+    EXPECT_TRUE(eventually([&] {
+        program.child().signal(SIGTERM);
+        return !program.child().isRunning();
+    }));
+
+    EXPECT_EQ(program.child().end(), (ProcessEnd{0, {}})) << program.report();
+    EXPECT_EQ(program.messages().back(), "Brindlex will terminate") << program.report();
+}
+
 TEST(LifeCycle, leavesTheStageToTheInstanceThatIsThere)
 {
     const ProgramDesk desk;
@@ -78,6 +95,8 @@ TEST(LifeCycle, leavesTheStageToTheInstanceThatIsThere)
     const RunningProgram second(desk.desktop);
 
     EXPECT_EQ(second.child().waitForEnd(timeToEnd), (ProcessEnd{0, {}})) << second.report();
+    EXPECT_EQ(second.child().output(),
+        "brindlex: Brindlex runs already, as process " + std::to_string(first.process()) + "\n");
     const std::vector<std::string> showRequest{
         "Posted", "com.brindlex.Brindlex.showMainWindow", programBusName};
     EXPECT_TRUE(eventually([&] {
@@ -132,7 +151,7 @@ TEST(LifeCycle, endsInOrderWhenTheScreenGoes)
 
     const auto end = program.child().waitForEnd(timeToEnd);
     ASSERT_TRUE(end) << program.report();
-    EXPECT_EQ(end->signal, std::nullopt) << program.report();
+    EXPECT_EQ(*end, (ProcessEnd{1, {}})) << program.report();
     const auto messages = program.messages();
     ASSERT_GE(messages.size(), 2u) << program.report();
     EXPECT_EQ(messages[messages.size() - 2], "Brindlex will terminate") << program.report();
@@ -152,6 +171,57 @@ TEST(LifeCycle, goesOnWithoutTheSessionBusThatWentAway)
 
     EXPECT_TRUE(desk.usesGroup(germanGroup)) << program.report();
     EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
+}
+
+TEST(LifeCycle, startsWithoutASessionBusThatSaysNothing)
+{
+    ProgramDesk desk({.keyboardLayouts = "us,de,ru", .sessionBus = false});
+    const SilentBus silent;
+    desk.desktop.setVariable("DBUS_SESSION_BUS_ADDRESS", silent.address());
+    desk.applyRules({{"Alpha", german}});
+    RunningProgram program(desk.desktop);
+    ASSERT_TRUE(program.launches()) << program.report();
+
+    EXPECT_TRUE(program.logs("No session bus: other instances are not known"));
+    const TypingWindow alpha(desk.windows, "Alpha");
+    ASSERT_TRUE(desk.windows.activate(alpha.window()));
+
+    EXPECT_TRUE(desk.usesGroup(germanGroup)) << program.report();
+    EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
+}
+
+TEST(LifeCycle, keepsItsStandardDescriptorsClearWhenItIsStartedWithoutThem)
+{
+    const ProgramDesk desk;
+    const ChildProcess shell(
+        {.command = {"sh", "-c", "exec '" + programFile().string() + "' <&- >&- 2>&-"}});
+
+    EXPECT_TRUE(eventually([&] {
+        const auto messages = desk.files.logMessages();
+        return !messages.empty() && messages.back() == "Brindlex launched";
+    }));
+
+    for (const auto descriptor : {"0", "1", "2"}) {
+        const auto link = "/proc/" + std::to_string(shell.id()) + "/fd/" + descriptor;
+        EXPECT_EQ(std::filesystem::read_symlink(link), "/dev/null") << descriptor;
+    }
+}
+
+TEST(LifeCycle, showsItselfAFewTimesInAFloodOfRequests)
+{
+    const ProgramDesk desk;
+    RunningProgram program(desk.desktop);
+    ASSERT_TRUE(program.launches()) << program.report();
+
+    const BusConnection bus;
+    for (int request = 0; request < 5'000; ++request)
+        bus.emit("/com/brindlex/Brindlex/Notifications", "com.brindlex.Brindlex.Notifications",
+            "Posted", {"com.brindlex.Brindlex.showMainWindow", programBusName});
+
+    EXPECT_TRUE(program.logs("Asked to show the main window")) << program.report();
+    EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
+    const auto messages = program.messages();
+    EXPECT_LE(std::count(messages.begin(), messages.end(), "Asked to show the main window"), 100);
 }
 
 TEST(LifeCycle, worksWithoutASessionBus)

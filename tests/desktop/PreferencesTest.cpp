@@ -1,5 +1,7 @@
 #include "desktop/ProgramDesk.h"
 
+#include <algorithm>
+#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace brindlex {
@@ -27,13 +29,26 @@ protected:
 
 TEST_F(PreferencesOfAUser, holdRulesThatAreWrittenAsPlainJson)
 {
-    desk.files.writePreferences(plainRules());
+    const auto rules = plainRules();
+    desk.files.writePreferences(rules);
     RunningProgram program(desk.desktop);
     ASSERT_TRUE(program.launches()) << program.report();
 
     EXPECT_TRUE(desk.usesGroup(germanGroup)) << program.report();
     EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
-    EXPECT_EQ(desk.files.readPreferences()["inputMethodConfig"], plainRules()["inputMethodConfig"]);
+    EXPECT_EQ(desk.files.readPreferences()["inputMethodConfig"], rules["inputMethodConfig"]);
+}
+
+TEST_F(PreferencesOfAUser, liveInAFolderForTheUserAloneWhereThereIsNone)
+{
+    std::filesystem::remove_all(desk.desktop.configFolder());
+    RunningProgram program(desk.desktop);
+    ASSERT_TRUE(program.launches()) << program.report();
+
+    EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
+    EXPECT_TRUE(desk.files.readPreferences().contains("inputMethodConfig"));
+    EXPECT_EQ(std::filesystem::status(desk.desktop.configFolder()).permissions(),
+        std::filesystem::perms::owner_all);
 }
 
 TEST_F(PreferencesOfAUser, stayAsTheyAreWhereTheyCannotBeRead)

@@ -2,7 +2,9 @@
 
 #include "app/AppLifecycleCoordinator.h"
 #include "app/SharedInstances.h"
+#include "app/SingleInstanceManager.h"
 #include "app/linux/LinuxPlatform.h"
+#include "app/linux/LinuxSession.h"
 #include "inputmethod/TextInputSourceService.h"
 #include "log/Log.h"
 #include "platform/linux/system/UnixSignals.h"
@@ -55,7 +57,7 @@ public:
         ending.end();
         Log::error("The X server has gone away; Brindlex has ended", logCategory::lifecycle);
         ending.log_.drain();
-        std::_Exit(EXIT_SUCCESS);
+        std::_Exit(EXIT_FAILURE);
     }
 
 private:
@@ -74,6 +76,31 @@ bool canReachDisplay()
     const bool isReached = xcb_connection_has_error(connection) == 0;
     xcb_disconnect(connection);
     return isReached;
+}
+
+/// Asks the loop to end when the process is asked to. Until the process is gone: a signal that
+/// comes while it ends must not keep it from ending in order.
+void endWithSignals()
+{
+    static const auto* const forGood = new UnixSignals([](int) {
+        QMetaObject::invokeMethod(
+            QCoreApplication::instance(), &QCoreApplication::quit, Qt::QueuedConnection);
+    });
+    static_cast<void>(forGood);
+}
+
+/// Leaves the stage to the instance that runs already, if there is one.
+bool yieldsToAnotherInstance(LinuxSession& session)
+{
+    const SingleInstanceManager manager(session.instances);
+    const auto existing
+        = manager.instanceToYieldTo(Preferences(session.preferences, session.userFolders));
+    if (!existing)
+        return false;
+    std::fprintf(stderr, "brindlex: Brindlex runs already, as process %lld\n",
+        static_cast<long long>(*existing));
+    manager.wake(*existing, session.notifications);
+    return true;
 }
 
 /// Prepares the overlay for the names that it will show, and gives back what the start took and
@@ -107,14 +134,19 @@ int runOnDesktop(char* programName, Clock& clock, XdgUserFolders& userFolders,
     QGuiApplication::setQuitOnLastWindowClosed(false);
     QGuiApplication application(argumentCount, arguments.data());
 
+    endWithSignals();
+    LinuxSession session(userFolders);
+    // The life cycle asks as well; asked here, a second launch takes nothing of the desktop before.
+    if (yieldsToAnotherInstance(session))
+        return EXIT_SUCCESS;
+
     const auto offer = SessionOffer::fromEnvironment(::getenv);
-    LinuxPlatform linuxPlatform(offer, clock, userFolders, container);
+    LinuxPlatform linuxPlatform(offer, session, clock, container);
     auto& platform = linuxPlatform.abilities();
     SharedInstances shared(platform);
     AppLifecycleCoordinator lifecycle(platform, shared);
     Ending ending(lifecycle, platform.defaults, log);
 
-    const UnixSignals unixSignals([&](int) { platform.instances.terminate(); });
     const auto displayEnd = linuxPlatform.observeDisplayEnd([] { Ending::endWithTheDisplay(); });
     lifecycle.start();
     Subscription warmUp;

@@ -8,9 +8,9 @@
 namespace brindlex {
 
 /// Runs the program on the desktop that `DISPLAY` names, until it is asked to end: by a signal, by
-/// the end of the session, or because another instance runs. Returns the exit status of the
-/// process; does not return when the X server goes away, but ends the process with the log
-/// complete.
+/// the end of the session, or because another instance runs, which the standard error output says.
+/// Returns the exit status of the process; does not return when the X server goes away, but ends
+/// the process with status 1 and the log complete.
 int runOnDesktop(char* programName, Clock& clock, XdgUserFolders& userFolders,
     AppGroupContainer& container, LogWriter& log);
 

@@ -1,6 +1,5 @@
 #include "app/linux/LinuxPlatform.h"
 
-#include "app/ProgramIdentity.h"
 #include "platform/linux/accessibility/AccessibleBrowserPages.h"
 #include "platform/linux/accessibility/AccessibleElementTree.h"
 #include "platform/linux/input/X11CursorReading.h"
@@ -11,48 +10,39 @@
 #include "platform/linux/panels/QtOverlayPanel.h"
 #include "platform/linux/panels/X11ApplicationOpening.h"
 #include "platform/linux/windows/RandRDisplayLink.h"
-#include "platform/linux/windows/X11WindowActivation.h"
 #include "platform/linux/windows/X11WindowList.h"
 
 #include <memory>
-#include <string>
 #include <utility>
 
 namespace brindlex {
-LinuxPlatform::LinuxPlatform(const SessionOffer& offer, Clock& clock, XdgUserFolders& userFolders,
-    AppGroupContainer& container)
-    : desktopEntries_(DesktopEntries::ofUser()), preferencesQueue_("Brindlex.Prefs"),
-      browserQueue_("Brindlex.AX"), elementQueue_("Brindlex.Elem"),
-      preferences_(
-          userFolders.configHome() / (std::string(programIdentity::bundleIdentifier) + ".json"),
-          mainThread_, preferencesQueue_),
-      notifications_(sessionBus_),
-      instances_(sessionBus_, programIdentity::bundleIdentifier,
-          [this](auto process) { activateWindowsOf(x11().display, process); }),
-      bundles_(desktopEntries_), processes_(mainThread_),
-      abilities_(choose(offer.hasX11, clock, userFolders, container))
+
+LinuxPlatform::LinuxPlatform(
+    const SessionOffer& offer, LinuxSession& session, Clock& clock, AppGroupContainer& container)
+    : session_(session), desktopEntries_(DesktopEntries::ofUser()), browserQueue_("Brindlex.AX"),
+      elementQueue_("Brindlex.Elem"), bundles_(desktopEntries_),
+      processes_(session.mainThread), abilities_(choose(offer.hasX11, clock, container))
 {
 }
 
-Platform LinuxPlatform::choose(
-    bool hasX11, Clock& clock, XdgUserFolders& userFolders, AppGroupContainer& container)
+Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& container)
 {
     using std::make_shared;
     auto& first = providers_;
     return {
-        .mainThread = mainThread_,
+        .mainThread = session_.mainThread,
         .clock = clock,
-        .defaults = preferences_,
-        .userFolders = userFolders,
+        .defaults = session_.preferences,
+        .userFolders = session_.userFolders,
         .container = container,
-        .distributedNotifications = notifications_,
-        .instances = instances_,
+        .distributedNotifications = session_.notifications,
+        .instances = session_.instances,
         .applications
         = first.of<RunningApplications>({{hasX11, [&] { return x11Applications(); }}}),
         .bundles = bundles_,
         .inputSources = first.of<KeyboardInputSources>({{hasX11,
             [&] {
-                return make_shared<DesktopInputSources>(x11().display, sessionBus_.connection());
+                return make_shared<DesktopInputSources>(x11().display, session_.bus.connection());
             }}}),
         .browserPages
         = first.of<BrowserPageReading>({{hasX11, [&] { return accessiblePages(clock); }}}),
@@ -60,13 +50,17 @@ Platform LinuxPlatform::choose(
             {{hasX11, [&] { return make_shared<QtOverlayPanel>(x11().display); }}}),
         .activation = activation_,
         .eventPermissions = first.of<EventPermissions>({{hasX11,
-            [&] { return make_shared<X11EventPermissions>(x11().input, preferences_); }}}),
+            [&] { return make_shared<X11EventPermissions>(x11().input, session_.preferences); }}}),
         .eventTapping = first.of<EventTapping>(
             {{hasX11, [&] { return make_shared<X11EventTapping>(x11().input); }}}),
         .eventPosting = first.of<EventPosting>({{hasX11,
-            [&] { return make_shared<X11EventPosting>(x11().input, mainThread_, clock); }}}),
+            [&] {
+                return make_shared<X11EventPosting>(x11().input, session_.mainThread, clock);
+            }}}),
         .displayLink = first.of<DisplayLink>({{hasX11,
-            [&] { return make_shared<RandRDisplayLink>(x11().display, mainThread_, clock); }}}),
+            [&] {
+                return make_shared<RandRDisplayLink>(x11().display, session_.mainThread, clock);
+            }}}),
         .cursor = first.of<CursorReading>(
             {{hasX11, [&] { return make_shared<X11CursorReading>(x11().display); }}}),
         .accessibility = first.of<AccessibilityTree>({{hasX11,
@@ -92,7 +86,7 @@ std::shared_ptr<RunningApplications> LinuxPlatform::x11Applications()
 std::shared_ptr<BrowserPageReading> LinuxPlatform::accessiblePages(const Clock& clock)
 {
     return std::make_shared<AccessibleBrowserPages>(
-        mainThread_, clock, browserQueue_, [this] { return x11().activeWindow.current(); });
+        session_.mainThread, clock, browserQueue_, [this] { return x11().activeWindow.current(); });
 }
 
 std::shared_ptr<ApplicationOpening> LinuxPlatform::x11Opening()
@@ -105,7 +99,7 @@ std::shared_ptr<ApplicationOpening> LinuxPlatform::x11Opening()
 X11Session& LinuxPlatform::x11()
 {
     if (!x11_)
-        x11_ = std::make_shared<X11Session>(mainThread_, desktopEntries_);
+        x11_ = std::make_shared<X11Session>(session_.mainThread, desktopEntries_);
     return *x11_;
 }
 

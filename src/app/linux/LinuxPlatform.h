@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/linux/LinuxSession.h"
 #include "app/linux/ProviderChoice.h"
 #include "app/linux/SessionOffer.h"
 #include "app/linux/X11Session.h"
@@ -8,13 +9,7 @@
 #include "platform/linux/applications/DesktopApplicationBundles.h"
 #include "platform/linux/applications/DesktopEntries.h"
 #include "platform/linux/panels/QtProgramActivation.h"
-#include "platform/linux/preferences/JsonFileUserDefaults.h"
-#include "platform/linux/system/DBusNotifications.h"
-#include "platform/linux/system/DBusProgramInstances.h"
 #include "platform/linux/system/PosixProcessLaunching.h"
-#include "platform/linux/system/QtMainThread.h"
-#include "platform/linux/system/SessionBus.h"
-#include "platform/linux/system/XdgUserFolders.h"
 #include "platform/posix/SerialQueue.h"
 
 #include <functional>
@@ -26,7 +21,7 @@ namespace brindlex {
 /// on the main thread, after the application object; the arguments outlive it.
 class LinuxPlatform {
 public:
-    LinuxPlatform(const SessionOffer& offer, Clock& clock, XdgUserFolders& userFolders,
+    LinuxPlatform(const SessionOffer& offer, LinuxSession& session, Clock& clock,
         AppGroupContainer& container);
 
     Platform& abilities() { return abilities_; }
@@ -36,23 +31,17 @@ public:
 
 private:
     /// The table of providers: for each ability what can provide it, the best first.
-    Platform choose(
-        bool hasX11, Clock& clock, XdgUserFolders& userFolders, AppGroupContainer& container);
+    Platform choose(bool hasX11, Clock& clock, AppGroupContainer& container);
     std::shared_ptr<RunningApplications> x11Applications();
     std::shared_ptr<BrowserPageReading> accessiblePages(const Clock& clock);
     std::shared_ptr<ApplicationOpening> x11Opening();
     X11Session& x11();
 
     // What every session offers.
-    QtMainThread mainThread_;
-    SessionBus sessionBus_;
+    LinuxSession& session_;
     DesktopEntries desktopEntries_;
-    SerialQueue preferencesQueue_;
     SerialQueue browserQueue_;
     SerialQueue elementQueue_;
-    JsonFileUserDefaults preferences_;
-    DBusNotifications notifications_;
-    DBusProgramInstances instances_;
     DesktopApplicationBundles bundles_;
     QtProgramActivation activation_;
     PosixProcessLaunching processes_;

@@ -6,9 +6,12 @@
 #include <QObject>
 #include <QSocketNotifier>
 
+#include <atomic>
 #include <cerrno>
 #include <csignal>
+#include <cstdint>
 #include <cstring>
+#include <ctime>
 #include <fcntl.h>
 #include <map>
 #include <unistd.h>
@@ -20,9 +23,37 @@ namespace {
 /// The writing end of the pipe through which the signal handler reaches the main loop.
 volatile std::sig_atomic_t signalPipe = -1;
 
+/// When the first signal came, and how long after it the next one has its usual effect, in
+/// nanoseconds; 0 before the first.
+std::atomic<std::int64_t> firstSignal = 0;
+std::atomic<std::int64_t> signalPatience = 0;
+static_assert(std::atomic<std::int64_t>::is_always_lock_free, "A signal handler may use no lock.");
+
+std::int64_t nanosecondsNow()
+{
+    timespec now = {};
+    ::clock_gettime(CLOCK_MONOTONIC, &now);
+    return std::int64_t{now.tv_sec} * 1'000'000'000 + now.tv_nsec;
+}
+
+/// Whether the program has not ended for the whole patience since the first signal.
+bool isPatienceOver()
+{
+    const auto now = nanosecondsNow();
+    std::int64_t first = 0;
+    if (firstSignal.compare_exchange_strong(first, now))
+        return false;
+    return now - first >= signalPatience;
+}
+
 extern "C" void writeSignal(int signal)
 {
     const int error = errno;
+    if (isPatienceOver()) {
+        // It is delivered when this handler returns.
+        ::signal(signal, SIG_DFL);
+        ::raise(signal);
+    }
     const auto number = static_cast<unsigned char>(signal);
     static_cast<void>(!::write(signalPipe, &number, 1));
     errno = error;
@@ -32,8 +63,11 @@ extern "C" void writeSignal(int signal)
 
 class UnixSignals::Implementation {
 public:
-    explicit Implementation(Handler handler) : handler_(std::move(handler))
+    Implementation(Handler handler, std::chrono::nanoseconds patience)
+        : handler_(std::move(handler))
     {
+        firstSignal = 0;
+        signalPatience = patience.count();
         int ends[2];
         if (::pipe2(ends, O_CLOEXEC | O_NONBLOCK) != 0)
             fatalError(std::string("No pipe for signals: ") + std::strerror(errno));
@@ -63,7 +97,7 @@ private:
             return;
         struct sigaction action = {};
         action.sa_handler = writeSignal;
-        action.sa_flags = SA_RESTART | static_cast<int>(SA_RESETHAND);
+        action.sa_flags = SA_RESTART;
         ::sigemptyset(&action.sa_mask);
         if (::sigaction(signal, &action, nullptr) == 0)
             before_.emplace(signal, before);
@@ -83,8 +117,8 @@ private:
     std::map<int, struct sigaction> before_;
 };
 
-UnixSignals::UnixSignals(Handler handler)
-    : implementation_(std::make_unique<Implementation>(std::move(handler)))
+UnixSignals::UnixSignals(Handler handler, std::chrono::milliseconds patience)
+    : implementation_(std::make_unique<Implementation>(std::move(handler), patience))
 {
 }
 

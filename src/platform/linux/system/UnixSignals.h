@@ -1,5 +1,6 @@
 #pragma once
 
+#include <chrono>
 #include <functional>
 #include <memory>
 
@@ -8,15 +9,16 @@ namespace brindlex {
 /// Turns the signals that ask a process to end, SIGTERM, SIGINT and SIGHUP, into calls on the main
 /// thread.
 ///
-/// Each is turned once; the next signal of its kind has its usual effect, so that a program that
-/// does not get round to ending can be ended. A signal that the process was started to ignore, as
-/// under nohup, stays ignored. The destructor puts back what was in force. One at a time, made
-/// beside the application object.
+/// So is each that follows while the program ends. Only one that comes after the patience has its
+/// usual effect, so that a program that does not get round to ending can be ended. A signal that
+/// the process was started to ignore, as under nohup, stays ignored. The destructor puts back what
+/// was in force. One at a time, made beside the application object.
 class UnixSignals {
 public:
     using Handler = std::function<void(int signal)>;
 
-    explicit UnixSignals(Handler handler);
+    explicit UnixSignals(
+        Handler handler, std::chrono::milliseconds patience = std::chrono::seconds(5));
     ~UnixSignals();
     UnixSignals(const UnixSignals&) = delete;
     UnixSignals& operator=(const UnixSignals&) = delete;

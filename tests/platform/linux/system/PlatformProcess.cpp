@@ -9,6 +9,7 @@
 
 #include <QCoreApplication>
 
+#include <chrono>
 #include <iostream>
 #include <string>
 #include <vector>
@@ -67,13 +68,15 @@ int count(const Arguments& arguments)
 }
 
 /// Prints each signal that asks it to end; ends at the first, or never when told to be stubborn.
+/// The patience is in milliseconds.
 int signals(const Arguments& arguments)
 {
-    const UnixSignals signals([&](int signal) {
+    const auto handler = [&](int signal) {
         std::cout << signal << std::endl;
         if (arguments.at(0) != "stubborn")
             QCoreApplication::exit(3);
-    });
+    };
+    const UnixSignals signals(handler, std::chrono::milliseconds(std::stoi(arguments.at(1))));
     std::cout << "ready" << std::endl;
     return QCoreApplication::exec();
 }

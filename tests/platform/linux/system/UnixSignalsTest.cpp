@@ -31,27 +31,40 @@ TEST_F(UnixSignalsTest, turnEachSignalThatAsksForTheEndIntoACall)
 {
     for (const int signal : {SIGTERM, SIGINT, SIGHUP}) {
         write(folder.path() / "output", "");
-        start({PLATFORM_PROCESS, "signals", "obedient"});
+        start({PLATFORM_PROCESS, "signals", "obedient", "5000"});
         child->signal(signal);
         EXPECT_EQ(child->waitForEnd(usualDeadline), (ProcessEnd{3, {}}));
         EXPECT_EQ(child->output(), "ready\n" + std::to_string(signal) + "\n");
     }
 }
 
-TEST_F(UnixSignalsTest, letASecondSignalEndAProgramThatDoesNot)
+TEST_F(UnixSignalsTest, turnTheNextOnesOfEachKindAsWell)
 {
-    start({PLATFORM_PROCESS, "signals", "stubborn"});
+    start({PLATFORM_PROCESS, "signals", "stubborn", "1000000"});
     child->signal(SIGTERM);
     ASSERT_TRUE(isPrinted("ready\n15\n"));
     child->signal(SIGINT);
     ASSERT_TRUE(isPrinted("ready\n15\n2\n"));
     child->signal(SIGTERM);
-    EXPECT_EQ(child->waitForEnd(usualDeadline), (ProcessEnd{{}, SIGTERM}));
+    EXPECT_TRUE(isPrinted("ready\n15\n2\n15\n"));
+    EXPECT_TRUE(child->isRunning());
+}
+
+TEST_F(UnixSignalsTest, letASignalAfterThePatienceEndAProgramThatDoesNot)
+{
+    start({PLATFORM_PROCESS, "signals", "stubborn", "100"});
+    child->signal(SIGTERM);
+    ASSERT_TRUE(isPrinted("ready\n15\n"));
+    EXPECT_TRUE(eventually([&] {
+        child->signal(SIGINT);
+        return !child->isRunning();
+    }));
+    EXPECT_EQ(child->end(), (ProcessEnd{{}, SIGINT}));
 }
 
 TEST_F(UnixSignalsTest, leaveAnIgnoredSignalIgnored)
 {
-    start({"nohup", PLATFORM_PROCESS, "signals", "obedient"});
+    start({"nohup", PLATFORM_PROCESS, "signals", "obedient", "5000"});
     child->signal(SIGHUP);
     child->signal(SIGTERM);
     EXPECT_EQ(child->waitForEnd(usualDeadline), (ProcessEnd{3, {}}));
