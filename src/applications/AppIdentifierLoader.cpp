@@ -1,5 +1,6 @@
 #include "applications/AppIdentifierLoader.h"
 
+#include "applications/AppIconCache.h"
 #include "foundation/Text.h"
 
 namespace brindlex {
@@ -14,7 +15,11 @@ std::string nameOfFile(const std::filesystem::path& path)
 
 } // namespace
 
-AppIdentifierLoader::AppIdentifierLoader(const ApplicationBundles& bundles) : bundles_(bundles) { }
+AppIdentifierLoader::AppIdentifierLoader(
+    const ApplicationBundles& bundles, IconRendering& icons, AppGroupContainer& container)
+    : bundles_(bundles), icons_(icons), container_(container)
+{
+}
 
 Result<AppIdentifier, LoaderError> AppIdentifierLoader::load(
     const std::filesystem::path& bundlePath) const
@@ -29,8 +34,10 @@ Result<AppIdentifier, LoaderError> AppIdentifierLoader::load(
         app.displayName = *bundle->displayName;
     else
         app.displayName = bundle->name ? *bundle->name : nameOfFile(bundlePath);
-    if (bundle->iconFile)
-        app.iconPath = bundle->iconFile->string();
+    const auto cached
+        = AppIconCache(icons_, container_).iconOf(app.bundleID, bundlePath, bundle->iconFile);
+    if (const auto& icon = cached ? cached : bundle->iconFile)
+        app.iconPath = icon->string();
     return app;
 }
 

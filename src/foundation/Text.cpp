@@ -201,4 +201,10 @@ bool isNumber(char32_t scalar)
     return (U_GET_GC_MASK(static_cast<UChar32>(scalar)) & U_GC_N_MASK) != 0;
 }
 
+bool isAlphanumeric(char32_t scalar)
+{
+    constexpr auto categories = U_GC_L_MASK | U_GC_M_MASK | U_GC_N_MASK;
+    return (U_GET_GC_MASK(static_cast<UChar32>(scalar)) & categories) != 0;
+}
+
 } // namespace brindlex

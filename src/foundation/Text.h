@@ -49,4 +49,7 @@ bool isLetter(char32_t scalar);
 /// A number of any script: the general category N.
 bool isNumber(char32_t scalar);
 
+/// A letter, a mark or a number of any script: the general categories L, M and N.
+bool isAlphanumeric(char32_t scalar);
+
 } // namespace brindlex

@@ -20,6 +20,8 @@ InputMethodSwitchCoordinator& InputMethodSubsystem::switchCoordinator()
             .clock = platform_.clock,
             .applications = platform_.applications,
             .bundles = platform_.bundles,
+            .icons = platform_.icons,
+            .container = platform_.container,
             .inputSources = platform_.inputSources,
             .browserPages = platform_.browserPages,
         });

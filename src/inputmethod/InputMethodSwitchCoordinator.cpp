@@ -11,11 +11,12 @@ namespace {
 
 constexpr Seconds browserPollInterval = 0.8;
 
-AppIdentifier identifierOf(
-    const RunningApplication& application, const std::string& bundleID, ApplicationBundles& bundles)
+AppIdentifier identifierOf(const RunningApplication& application, const std::string& bundleID,
+    const SwitchAbilities& abilities)
 {
+    const AppIdentifierLoader loader(abilities.bundles, abilities.icons, abilities.container);
     if (application.bundlePath)
-        if (const auto loaded = AppIdentifierLoader(bundles).load(*application.bundlePath))
+        if (const auto loaded = loader.load(*application.bundlePath))
             return *loaded;
     return {application.bundleIdentifier.value_or(bundleID),
         application.localizedName.value_or(bundleID), {}};
@@ -165,10 +166,10 @@ std::optional<AppIdentifier> InputMethodSwitchCoordinator::appIdentifier(
         return {};
     const auto frontmost = abilities_.applications.frontmost();
     if (frontmost && frontmost->bundleIdentifier == bundleID)
-        return identifierOf(*frontmost, *bundleID, abilities_.bundles);
+        return identifierOf(*frontmost, *bundleID, abilities_);
     for (const auto& application : abilities_.applications.running())
         if (application.bundleIdentifier == bundleID)
-            return identifierOf(application, *bundleID, abilities_.bundles);
+            return identifierOf(application, *bundleID, abilities_);
     return AppIdentifier{*bundleID, *bundleID, {}};
 }
 

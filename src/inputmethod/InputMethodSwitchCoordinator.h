@@ -8,9 +8,11 @@
 #include "inputmethod/SwitchEnvironment.h"
 #include "inputmethod/SwitchEvent.h"
 #include "inputmethod/SwitchState.h"
+#include "platform/AppGroupContainer.h"
 #include "platform/ApplicationBundles.h"
 #include "platform/BrowserPageReading.h"
 #include "platform/Clock.h"
+#include "platform/IconRendering.h"
 #include "platform/KeyboardInputSources.h"
 #include "platform/MainThread.h"
 #include "platform/RunningApplications.h"
@@ -28,6 +30,8 @@ struct SwitchAbilities {
     Clock& clock;
     RunningApplications& applications;
     ApplicationBundles& bundles;
+    IconRendering& icons;
+    AppGroupContainer& container;
     KeyboardInputSources& inputSources;
     BrowserPageReading& browserPages;
 };

@@ -12,6 +12,7 @@
 #include "platform/EventPermissions.h"
 #include "platform/EventPosting.h"
 #include "platform/EventTap.h"
+#include "platform/IconRendering.h"
 #include "platform/KeyboardInputSources.h"
 #include "platform/MainThread.h"
 #include "platform/OverlayPanel.h"
@@ -36,6 +37,7 @@ struct Platform {
     ProgramInstances& instances;
     RunningApplications& applications;
     ApplicationBundles& bundles;
+    IconRendering& icons;
     KeyboardInputSources& inputSources;
     BrowserPageReading& browserPages;
     OverlayPanel& overlayPanel;

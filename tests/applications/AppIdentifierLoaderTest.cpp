@@ -1,6 +1,9 @@
 #include "applications/AppIdentifierLoader.h"
 
+#include "platform/simulated/SimulatedAppGroupContainer.h"
 #include "platform/simulated/SimulatedApplicationBundles.h"
+#include "platform/simulated/SimulatedIconRendering.h"
+#include "support/basics/TemporaryFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -16,7 +19,9 @@ protected:
     }
 
     SimulatedApplicationBundles bundles;
-    AppIdentifierLoader loader{bundles};
+    SimulatedIconRendering icons;
+    SimulatedAppGroupContainer container;
+    AppIdentifierLoader loader{bundles, icons, container};
 };
 
 TEST_F(AppIdentifierLoaderTest, takesTheDisplayNameFirst)
@@ -49,7 +54,7 @@ TEST_F(AppIdentifierLoaderTest, replacesBytesOfAFileNameThatAreNotText)
     EXPECT_EQ(loader.load("/apps/P\xFF.app").value().displayName, "P\uFFFD");
 }
 
-TEST_F(AppIdentifierLoaderTest, takesTheBundlesOwnIcon)
+TEST_F(AppIdentifierLoaderTest, takesTheBundlesOwnIconWhereNoneCanBeMade)
 {
     const auto app = load({.identifier = "org.example.Pad",
         .displayName = "Pad",
@@ -57,6 +62,28 @@ TEST_F(AppIdentifierLoaderTest, takesTheBundlesOwnIcon)
     ASSERT_TRUE(app);
     EXPECT_EQ(*app,
         (AppIdentifier{"org.example.Pad", "Pad", "/apps/Pad.app/Contents/Resources/Pad.icns"}));
+}
+
+TEST_F(AppIdentifierLoaderTest, makesAnIconThatTheFileManagerMayRead)
+{
+    const TemporaryFolder folder;
+    container.setFolder(folder.path());
+    icons.pictures["/apps/pad.icns"] = "64 by 64 of Pad";
+
+    const auto app
+        = load({.identifier = "org.example.Pad", .name = "Pad", .iconFile = "/apps/pad.icns"});
+
+    const auto icon = folder.path() / "Config/AppIcons/org.example.Pad.png";
+    EXPECT_EQ(app, (AppIdentifier{"org.example.Pad", "Pad", icon.string()}));
+    EXPECT_EQ(contentOf(icon), "64 by 64 of Pad");
+}
+
+TEST_F(AppIdentifierLoaderTest, hasNoIconWhereThereIsNoneAndNoneCanBeMade)
+{
+    const TemporaryFolder folder;
+    container.setFolder(folder.path());
+    EXPECT_EQ(load({.identifier = "org.example.Pad", .name = "Pad"}),
+        (AppIdentifier{"org.example.Pad", "Pad", std::nullopt}));
 }
 
 TEST_F(AppIdentifierLoaderTest, failsWithoutABundle)

@@ -158,6 +158,11 @@ TEST(Text, knowsWhiteSpaceLettersAndNumbersOfAnyScript)
         EXPECT_TRUE(isNumber(scalar)) << std::hex << static_cast<unsigned>(scalar);
     for (const char32_t scalar : {U'a', U'漢', U'.', U'🎛', char32_t{0x110000}})
         EXPECT_FALSE(isNumber(scalar)) << std::hex << static_cast<unsigned>(scalar);
+
+    for (const char32_t scalar : {U'a', U'漢', U'7', U'Ⅷ', U'\u0301', U'\u0903', U'\u20DD'})
+        EXPECT_TRUE(isAlphanumeric(scalar)) << std::hex << static_cast<unsigned>(scalar);
+    for (const char32_t scalar : {U' ', U'_', U'.', U'ⓐ', U'🎛', U'\0', char32_t{0x110000}})
+        EXPECT_FALSE(isAlphanumeric(scalar)) << std::hex << static_cast<unsigned>(scalar);
 }
 
 TEST(Text, isNothingInPlaceOfAnEmptyOne)

@@ -20,7 +20,7 @@ namespace brindlex {
 LinuxPlatform::LinuxPlatform(
     const SessionOffer& offer, LinuxSession& session, Clock& clock, AppGroupContainer& container)
     : session_(session), desktopEntries_(DesktopEntries::ofUser()), browserQueue_("Brindlex.AX"),
-      elementQueue_("Brindlex.Elem"), bundles_(desktopEntries_),
+      elementQueue_("Brindlex.Elem"), bundles_(desktopEntries_), icons_(desktopEntries_),
       processes_(session.mainThread), abilities_(choose(offer.hasX11, clock, container))
 {
 }
@@ -40,6 +40,7 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
         .applications
         = first.of<RunningApplications>({{hasX11, [&] { return x11Applications(); }}}),
         .bundles = bundles_,
+        .icons = icons_,
         .inputSources = first.of<KeyboardInputSources>({{hasX11,
             [&] {
                 return make_shared<DesktopInputSources>(x11().display, session_.bus.connection());

@@ -8,6 +8,7 @@
 #include "platform/Platform.h"
 #include "platform/linux/applications/DesktopApplicationBundles.h"
 #include "platform/linux/applications/DesktopEntries.h"
+#include "platform/linux/applications/QtIconRendering.h"
 #include "platform/linux/panels/QtProgramActivation.h"
 #include "platform/linux/system/PosixProcessLaunching.h"
 #include "platform/posix/SerialQueue.h"
@@ -43,6 +44,7 @@ private:
     SerialQueue browserQueue_;
     SerialQueue elementQueue_;
     DesktopApplicationBundles bundles_;
+    QtIconRendering icons_;
     QtProgramActivation activation_;
     PosixProcessLaunching processes_;
 

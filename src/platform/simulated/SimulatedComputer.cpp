@@ -26,6 +26,7 @@ Platform SimulatedComputer::platformWithInput(EventTapping& tapping, EventPostin
         .instances = instances,
         .applications = applications,
         .bundles = bundles,
+        .icons = icons,
         .inputSources = inputSources,
         .browserPages = browserPages,
         .overlayPanel = overlayPanel,

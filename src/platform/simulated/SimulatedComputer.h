@@ -11,6 +11,7 @@
 #include "platform/simulated/SimulatedCursor.h"
 #include "platform/simulated/SimulatedDisplayLink.h"
 #include "platform/simulated/SimulatedEventPermissions.h"
+#include "platform/simulated/SimulatedIconRendering.h"
 #include "platform/simulated/SimulatedInput.h"
 #include "platform/simulated/SimulatedInputSources.h"
 #include "platform/simulated/SimulatedJournal.h"
@@ -73,6 +74,7 @@ public:
     SimulatedProgramInstances instances;
     SimulatedApplications applications;
     SimulatedApplicationBundles bundles;
+    SimulatedIconRendering icons;
     SimulatedInputSources inputSources;
     SimulatedBrowserPages browserPages;
     SimulatedOverlayPanel overlayPanel;

@@ -13,4 +13,9 @@ namespace brindlex {
 std::optional<std::filesystem::path> iconFile(
     const std::string& icon, const std::vector<std::filesystem::path>& dataFolders);
 
+/// The file of an icon of that name in any theme, as a desktop with that theme would show it; for
+/// an application that brings no icon of its own. Nothing when no theme has it.
+std::optional<std::filesystem::path> themeIconFile(
+    const std::string& icon, const std::vector<std::filesystem::path>& dataFolders);
+
 } // namespace brindlex

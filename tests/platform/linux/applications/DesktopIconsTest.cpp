@@ -30,5 +30,26 @@ TEST(DesktopIcons, areFoundByPathAndByName)
         EXPECT_EQ(iconFile(icon, folders), std::nullopt) << icon;
 }
 
+TEST(DesktopIcons, areFoundInAnyTheme)
+{
+    const TemporaryFolder folder;
+    const auto bySize = folder.path() / "icons/Adwaita/48x48/apps";
+    const auto byKind = folder.path() / "icons/Breeze/apps/64";
+    const auto ofPrograms = folder.path() / "icons/Breeze/mimetypes/32";
+    for (const auto& path : {bySize, byKind, ofPrograms})
+        std::filesystem::create_directories(path);
+    write(bySize / "pad.png", "x");
+    write(byKind / "pad.svg", "x");
+    write(byKind / "tool.svg", "x");
+    write(ofPrograms / "any.svg", "x");
+
+    const std::vector folders{folder.path() / "missing", folder.path()};
+    EXPECT_EQ(themeIconFile("pad", folders), bySize / "pad.png");
+    EXPECT_EQ(themeIconFile("tool", folders), byKind / "tool.svg");
+    EXPECT_EQ(themeIconFile("any", folders), ofPrograms / "any.svg");
+    for (const auto* icon : {"", "missing", "../apps/pad", "/"})
+        EXPECT_EQ(themeIconFile(icon, folders), std::nullopt) << icon;
+}
+
 } // namespace
 } // namespace brindlex
