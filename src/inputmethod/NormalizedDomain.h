@@ -7,7 +7,7 @@
 namespace brindlex {
 
 /// The domain that a text names, in the one form in which domains are stored and compared: lower
-/// case, without a leading "www." and without trailing dots.
+/// case, without its first leading "www." and without trailing dots.
 ///
 /// Takes what a user types and what a browser reports: a domain or a URL. Scheme, user, port, path
 /// and query fall away. Nothing for a text with white space inside, for a name of a single label,
