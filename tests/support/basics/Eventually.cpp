@@ -1,5 +1,7 @@
 #include "support/basics/Eventually.h"
 
+#include "support/basics/StateReport.h"
+
 #include <thread>
 
 namespace brindlex {
@@ -24,7 +26,10 @@ bool askUntil(
 
 bool eventually(const std::function<bool()>& condition, std::chrono::milliseconds deadline)
 {
-    return askUntil(true, deadline, condition);
+    const bool isThere = askUntil(true, deadline, condition);
+    if (!isThere)
+        reportFailedWait(deadline);
+    return isThere;
 }
 
 bool throughout(std::chrono::milliseconds period, const std::function<bool()>& condition)

@@ -11,7 +11,8 @@ inline constexpr std::chrono::milliseconds usualDeadline{20'000};
 
 /// Asks again and again until the condition holds; whether it did so before the deadline.
 ///
-/// The deadline only bounds a failing test: one that passes goes on at the first success.
+/// The deadline only bounds a failing test: one that passes goes on at the first success. A long
+/// wait that fails prints what is there instead (`StateReport`).
 bool eventually(
     const std::function<bool()>& condition, std::chrono::milliseconds deadline = usualDeadline);
 

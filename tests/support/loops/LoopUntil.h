@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/basics/Eventually.h"
+#include "support/basics/StateReport.h"
 
 #include <QEventLoop>
 #include <QTimer>
@@ -24,7 +25,10 @@ inline bool loopUntil(
     });
     again.start(1);
     QTimer::singleShot(deadline, &loop, [&] { loop.exit(0); });
-    return loop.exec() == 1;
+    const bool isThere = loop.exec() == 1;
+    if (!isThere)
+        reportFailedWait(deadline);
+    return isThere;
 }
 
 /// Runs the Qt loop for the period; whether the condition held each of the many times it was asked.

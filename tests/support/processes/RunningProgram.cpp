@@ -65,6 +65,17 @@ std::vector<std::string> RunningProgram::messages() const
     return messages;
 }
 
+std::string RunningProgram::state() const
+{
+    constexpr std::size_t most = 20;
+    const auto lines = files_.logLines();
+    std::string text = "--- program " + std::to_string(process())
+        + (process_.isRunning() ? " runs" : " has ended") + "; the end of its log:\n";
+    for (auto line = lines.size() - std::min(most, lines.size()); line < lines.size(); ++line)
+        text += lines[line] + "\n";
+    return text;
+}
+
 std::string RunningProgram::report() const
 {
     std::string text = "--- log of the program\n";

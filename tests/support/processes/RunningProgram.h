@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/basics/StateReport.h"
 #include "support/processes/ChildProcess.h"
 #include "support/processes/ProgramFiles.h"
 #include "support/screen/VirtualDesktop.h"
@@ -38,10 +39,14 @@ public:
     std::string report() const;
 
 private:
+    /// Whether it runs, and the end of its log.
+    std::string state() const;
+
     const VirtualDesktop& desktop_;
     ProgramFiles files_;
     std::size_t linesBefore_;
     ChildProcess process_;
+    StateReport stateReport_{[this] { return state(); }};
 };
 
 /// The name under which the first instance is found on the session bus.

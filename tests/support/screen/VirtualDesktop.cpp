@@ -5,6 +5,7 @@
 #include "support/basics/Eventually.h"
 #include "support/processes/ProcessTable.h"
 #include "support/screen/DisplayServerCommand.h"
+#include "support/screen/ScreenState.h"
 #include "support/screen/XConnection.h"
 
 #include <csignal>
@@ -91,10 +92,12 @@ VirtualDesktop::VirtualDesktop(const Options& options) : home_(folder_.path() / 
         startWindowManager();
     if (options.accessibility)
         allowAccessibility();
+    screenReport_ = std::make_unique<StateReport>(screenState);
 }
 
 VirtualDesktop::~VirtualDesktop()
 {
+    screenReport_.reset();
     windowManager_.reset();
     sessionBus_.reset();
     displayServer_.reset();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "support/basics/ScopedEnvironment.h"
+#include "support/basics/StateReport.h"
 #include "support/basics/TemporaryFolder.h"
 #include "support/processes/ChildProcess.h"
 
@@ -93,6 +94,7 @@ private:
     std::unique_ptr<ChildProcess> displayServer_;
     std::unique_ptr<ChildProcess> sessionBus_;
     std::unique_ptr<ChildProcess> windowManager_;
+    std::unique_ptr<StateReport> screenReport_;
 };
 
 } // namespace brindlex
