@@ -1,7 +1,5 @@
 #include "MouseFigures.h"
 #include "MouseMeasuring.h"
-#include "mouse/ScrollMotion.h"
-#include "platform/linux/input/WheelTicks.h"
 #include "platform/linux/system/QtMainThread.h"
 #include "platform/linux/windows/RandRDisplayLink.h"
 #include "platform/posix/PosixClock.h"
@@ -12,7 +10,6 @@
 #include <cstdio>
 #include <stop_token>
 #include <thread>
-#include <utility>
 
 namespace brindlex {
 namespace {
@@ -30,26 +27,6 @@ double framesPerSecond()
     X11Connection connection;
     const RandRDisplayLink screen(connection, mainThread, clock);
     return std::min(60.0, screen.maximumFramesPerSecond().value_or(60));
-}
-
-/// How many notches the smooth motion of one turn posts in all, by its own arithmetic, when all
-/// frames come in time.
-double notchesPosted(double frameRate)
-{
-    const double duration = MouseScrollConfig{}.smoothDuration;
-    ScrollMotion motion;
-    double pixels = 0;
-    int turned = 0;
-    for (int frame = 1;; ++frame) {
-        const double now = frame / frameRate;
-        for (; turned < notchesOfTurn && turned * timeOfNotch < now; ++turned)
-            motion.add(0, {.vertical = WheelTicks::pixelsPerNotch});
-        const auto advance = motion.advance(now, duration);
-        if (advance.step)
-            pixels += std::round(advance.step->vertical);
-        if (advance.isDrained && turned == notchesOfTurn)
-            return pixels / WheelTicks::pixelsPerNotch;
-    }
 }
 
 /// When the notches of one quick turn came.
@@ -83,7 +60,7 @@ void measureScrolls(const std::string& name, const MouseDesk& desk, const Target
     std::vector<double> distances;
     for (int round = 0; round < 12; ++round) {
         const auto came = turnQuickly(desk, target);
-        distances.push_back(std::abs(static_cast<double>(came.size()) - notchesPosted(frameRate)));
+        distances.push_back(std::abs(static_cast<double>(came.size()) - notchesOfTurn));
         for (std::size_t index = 1; index < came.size(); ++index) {
             const double interval = milliseconds(came[index] - came[index - 1]);
             if (interval < sameFrame)
@@ -94,7 +71,7 @@ void measureScrolls(const std::string& name, const MouseDesk& desk, const Target
     }
     print(name + ": between steps, ms", distributionOf(std::move(intervals)));
     print(name + ": off the beat of the frames, ms", distributionOf(std::move(strays)));
-    print(name + ": arrived against posted, notches", distributionOf(std::move(distances)));
+    print(name + ": arrived against turned, notches", distributionOf(std::move(distances)));
 }
 
 } // namespace

@@ -4,6 +4,7 @@
 #include "mouse/MouseScrollConfig.h"
 #include "platform/Event.h"
 #include "platform/EventInterest.h"
+#include "platform/ScrollDistance.h"
 #include "platform/SyntheticEvent.h"
 
 #include <optional>
@@ -11,14 +12,6 @@
 #include <vector>
 
 namespace brindlex {
-
-/// Pixels to scroll, with the signs of the wheel: positive is up, and to the left.
-struct ScrollDistance {
-    double vertical = 0;
-    double horizontal = 0;
-
-    bool operator==(const ScrollDistance&) const = default;
-};
 
 /// The only events in which the scrolling takes an interest.
 inline constexpr EventMask mouseScrollEventMask = eventMask(EventType::scrollWheel);

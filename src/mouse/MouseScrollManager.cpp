@@ -14,7 +14,8 @@ MouseScrollManager::MouseScrollManager(const Observable<MouseConfig>& config,
       driver_(abilities.displayLink, environment.mainThread, abilities.clock),
       smoother_(
           driver_, [this] { return config_.value().scroll.smoothDuration; },
-          [this](std::uint64_t flags, ScrollDistance distance) { post(flags, distance); }),
+          [this](std::uint64_t flags, ScrollDistance distance) { post(flags, distance); },
+          [this] { abilities_.posting.finishScroll(); }),
       client_(environment,
           {.name = "MouseScroll",
               .start = [this] { start(); },
@@ -48,6 +49,8 @@ MouseScrollManager::MouseScrollManager(const Observable<MouseConfig>& config,
 
 void MouseScrollManager::reset()
 {
+    if (smoother_.isRunning())
+        abilities_.posting.finishScroll();
     smoother_.reset();
     accelerationCalculator_ = {};
 }
@@ -61,10 +64,14 @@ EventVerdict MouseScrollManager::receive(const Event& event)
         frontmostBundleID(), abilities_.clock.continuousTime());
     if (!distance)
         return EventVerdict::pass;
-    if (scroll.smoothEnabled)
+    abilities_.posting.announceScroll(event.flags, *distance);
+    if (scroll.smoothEnabled) {
         smoother_.add(event.flags, *distance);
-    else
-        post(event.flags, *distance);
+        return EventVerdict::swallow;
+    }
+    post(event.flags, *distance);
+    if (!smoother_.isRunning())
+        abilities_.posting.finishScroll();
     return EventVerdict::swallow;
 }
 

@@ -16,8 +16,12 @@ class ScrollSmoother {
 public:
     using Post = std::function<void(std::uint64_t flags, ScrollDistance distance)>;
 
-    /// `smoothDuration` is asked for at each frame.
-    ScrollSmoother(FrameDriver& driver, std::function<Seconds()> smoothDuration, Post post);
+    /// `smoothDuration` is asked for at each frame; `drained` notifies that nothing more is posted
+    /// until the next `add`.
+    ScrollSmoother(FrameDriver& driver, std::function<Seconds()> smoothDuration, Post post,
+        std::function<void()> drained);
+
+    bool isRunning() const { return driver_.source() != FrameDriver::Source::idle; }
 
     void add(std::uint64_t flags, ScrollDistance change);
 
@@ -35,6 +39,7 @@ private:
     FrameDriver& driver_;
     std::function<Seconds()> smoothDuration_;
     Post post_;
+    std::function<void()> drained_;
     ScrollMotion motion_;
 };
 

@@ -59,7 +59,22 @@ void ExpectedArrivals::turnWheel(
     turn(horizontal, wheelLeft, wheelRight);
 }
 
-void ExpectedArrivals::post(const SyntheticEvent& event, std::uint64_t heldFlags, Seconds now)
+void ExpectedArrivals::post(
+    const RecordedInput::Posted& posted, std::uint64_t heldFlags, Seconds now)
+{
+    match(
+        posted, [&](const SyntheticEvent& event) { postEvent(event, heldFlags); },
+        [&](const RecordedInput::AnnouncedScroll& scroll) {
+            scrollFlags_ = scroll.flags;
+            turnWheel(vertical_.announce(scroll.distance.vertical, now),
+                horizontal_.announce(scroll.distance.horizontal, now), scrollFlags_);
+        },
+        [&](RecordedInput::FinishedScroll) {
+            turnWheel(vertical_.finish(), horizontal_.finish(), scrollFlags_);
+        });
+}
+
+void ExpectedArrivals::postEvent(const SyntheticEvent& event, std::uint64_t heldFlags)
 {
     const auto flags = event.flags.value_or(heldFlags);
     if (isMouseDown(event.type) || isMouseUp(event.type)) {
@@ -68,7 +83,7 @@ void ExpectedArrivals::post(const SyntheticEvent& event, std::uint64_t heldFlags
     } else if (event.type == EventType::keyDown || event.type == EventType::keyUp) {
         postKey(event, flags);
     } else if (event.type == EventType::scrollWheel) {
-        postScroll(event, flags, now);
+        postScroll(event, flags);
     }
 }
 
@@ -83,12 +98,12 @@ void ExpectedArrivals::postKey(const SyntheticEvent& event, std::uint64_t flags)
         "key " + key + (event.type == EventType::keyDown ? " down" : " up"), keystroke.flags));
 }
 
-void ExpectedArrivals::postScroll(const SyntheticEvent& event, std::uint64_t flags, Seconds now)
+void ExpectedArrivals::postScroll(const SyntheticEvent& event, std::uint64_t flags)
 {
     const auto pixels
         = [&](EventField field) { return static_cast<double>(event.fields.value(field)); };
-    turnWheel(vertical_.add(pixels(EventField::scrollWheelEventPointDeltaAxis1), now),
-        horizontal_.add(pixels(EventField::scrollWheelEventPointDeltaAxis2), now), flags);
+    turnWheel(vertical_.post(pixels(EventField::scrollWheelEventPointDeltaAxis1)),
+        horizontal_.post(pixels(EventField::scrollWheelEventPointDeltaAxis2)), flags);
 }
 
 } // namespace brindlex

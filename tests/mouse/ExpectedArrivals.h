@@ -1,8 +1,7 @@
 #pragma once
 
-#include "platform/EventTap.h"
-#include "platform/SyntheticEvent.h"
 #include "platform/linux/input/WheelTicks.h"
+#include "platform/simulated/RecordedInput.h"
 
 #include <cstdint>
 #include <map>
@@ -23,19 +22,21 @@ public:
     void turnWheel(std::int64_t vertical, std::int64_t horizontal, std::uint64_t flags);
 
     /// An event that was posted at the time.
-    void post(const SyntheticEvent& event, std::uint64_t heldFlags, Seconds now);
+    void post(const RecordedInput::Posted& posted, std::uint64_t heldFlags, Seconds now);
 
     /// All so far; begins afresh.
     std::vector<std::string> take() { return std::exchange(lines_, {}); }
 
 private:
+    void postEvent(const SyntheticEvent& event, std::uint64_t heldFlags);
     void postKey(const SyntheticEvent& event, std::uint64_t flags);
-    void postScroll(const SyntheticEvent& event, std::uint64_t flags, Seconds now);
+    void postScroll(const SyntheticEvent& event, std::uint64_t flags);
 
     std::vector<std::string> lines_;
     std::map<std::pair<int, std::int64_t>, bool> pressesThatArrived_;
     WheelTicks vertical_;
     WheelTicks horizontal_;
+    std::uint64_t scrollFlags_ = 0;
 };
 
 } // namespace brindlex

@@ -199,8 +199,9 @@ Lines HardwareMouseExecutor::takePosted(bool isWheel)
     const auto cursor = session_->desktop.window.pointer();
     for (const auto& posted : session_->input.takePosted()) {
         expected_.post(posted, heldFlags_, session_->clock.continuousTime());
-        events.push_back(posted.asPosted(
-            {static_cast<double>(cursor.x), static_cast<double>(cursor.y)}, heldFlags_));
+        if (const auto* event = std::get_if<SyntheticEvent>(&posted))
+            events.push_back(event->asPosted(
+                {static_cast<double>(cursor.x), static_cast<double>(cursor.y)}, heldFlags_));
     }
     if (isWheel)
         joinScrolls(events);

@@ -1,6 +1,8 @@
 #include "mouse/MouseScrollManager.h"
 
 #include "mouse/MouseSession.h"
+#include "platform/simulated/RecordedInput.h"
+#include "platform/simulated/SimulatedMouse.h"
 
 #include <gtest/gtest.h>
 
@@ -189,6 +191,42 @@ TEST_F(MouseScrollManagerTest, leavesTheWheelToADisabledApplication)
     game.bundleIdentifier = "com.example.Game";
     applications.bringToFront(game);
     EXPECT_EQ(mouse.scroll(1), EventVerdict::pass);
+}
+
+TEST(MouseScrollManager, announcesWhatTheHandAskedFor)
+{
+    SimulatedInput input;
+    SimulatedMouse mouse(input);
+    RecordedInput recorded(input, input);
+    MouseConfig config;
+    config.scroll.speedMultiplier = 1.25;
+    MouseSession session(recorded, recorded, config);
+    session.scrolling.start();
+    using Announced = RecordedInput::AnnouncedScroll;
+
+    mouse.scroll(-1);
+    auto posted = recorded.takePosted();
+    ASSERT_EQ(posted.size(), 3u);
+    EXPECT_EQ(posted[0], RecordedInput::Posted(Announced{0, {-12.5, 0}}));
+    EXPECT_TRUE(std::holds_alternative<SyntheticEvent>(posted[1]));
+    EXPECT_EQ(posted[2], RecordedInput::Posted(RecordedInput::FinishedScroll{}));
+
+    session.edit([](MouseConfig& value) {
+        value.scroll.smoothEnabled = true;
+        value.scroll.smoothDuration = 0.4;
+    });
+    mouse.scroll(-1);
+    for (int frame = 0; session.displayLink.isRunning(); ++frame)
+        session.displayLink.frame(500 + frame / 60.0);
+    posted = recorded.takePosted();
+    EXPECT_EQ(posted.front(), RecordedInput::Posted(Announced{0, {-12.5, 0}}));
+    EXPECT_EQ(posted.back(), RecordedInput::Posted(RecordedInput::FinishedScroll{}));
+
+    mouse.scroll(-1);
+    recorded.takePosted();
+    session.scrolling.tearDown();
+    EXPECT_EQ(
+        recorded.takePosted(), std::vector<RecordedInput::Posted>{RecordedInput::FinishedScroll{}});
 }
 
 TEST_F(MouseScrollManagerTest, dropsANotchWhoseEventCannotBeMade)

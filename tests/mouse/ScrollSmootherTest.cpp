@@ -25,7 +25,9 @@ protected:
     std::vector<std::pair<std::uint64_t, ScrollDistance>> posts;
     ScrollSmoother smoother{driver, [this] { return smoothDuration; },
         [this](
-            std::uint64_t flags, ScrollDistance distance) { posts.emplace_back(flags, distance); }};
+            std::uint64_t flags, ScrollDistance distance) { posts.emplace_back(flags, distance); },
+        [this] { ++timesDrained; }};
+    int timesDrained = 0;
 };
 
 TEST_F(ScrollSmootherTest, runsWithTheScreenUntilItIsDrained)
@@ -36,9 +38,12 @@ TEST_F(ScrollSmootherTest, runsWithTheScreenUntilItIsDrained)
     EXPECT_TRUE(posts.empty());
 
     int frames = 0;
-    for (; displayLink.isRunning(); ++frames)
+    for (; displayLink.isRunning(); ++frames) {
+        EXPECT_EQ(timesDrained, 0);
         displayLink.frame(500 + frames / 60.0);
+    }
 
+    EXPECT_EQ(timesDrained, 1);
     EXPECT_EQ(driver.source(), Source::idle);
     EXPECT_EQ(posts.front().first, eventFlag::option);
     EXPECT_NEAR(posts.front().second.vertical, 8.843519709167577360, 1e-12);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/Cases.h"
 #include "platform/EventPosting.h"
 #include "platform/EventTap.h"
 
@@ -16,6 +17,17 @@ public:
         Event event{};
         EventVerdict verdict{};
     };
+
+    struct AnnouncedScroll {
+        std::uint64_t flags = 0;
+        ScrollDistance distance{};
+
+        bool operator==(const AnnouncedScroll&) const = default;
+    };
+    struct FinishedScroll {
+        bool operator==(const FinishedScroll&) const = default;
+    };
+    using Posted = Cases<SyntheticEvent, AnnouncedScroll, FinishedScroll>;
 
     RecordedInput(EventTapping& tapping, EventPosting& posting)
         : tapping_(tapping), posting_(posting)
@@ -41,15 +53,26 @@ public:
         return true;
     }
 
+    void announceScroll(std::uint64_t flags, ScrollDistance distance) override
+    {
+        posting_.announceScroll(flags, distance);
+        posted_.push_back(AnnouncedScroll{flags, distance});
+    }
+    void finishScroll() override
+    {
+        posting_.finishScroll();
+        posted_.push_back(FinishedScroll{});
+    }
+
     /// In order; begin afresh.
     std::vector<Decision> takeDecisions() { return std::exchange(decisions_, {}); }
-    std::vector<SyntheticEvent> takePosted() { return std::exchange(posted_, {}); }
+    std::vector<Posted> takePosted() { return std::exchange(posted_, {}); }
 
 private:
     EventTapping& tapping_;
     EventPosting& posting_;
     std::vector<Decision> decisions_;
-    std::vector<SyntheticEvent> posted_;
+    std::vector<Posted> posted_;
 };
 
 } // namespace brindlex

@@ -37,6 +37,9 @@ public:
     std::unique_ptr<EventTap> createTap(
         EventMask mask, std::vector<EventInterest> interests, Handler handler) override;
     bool post(const SyntheticEvent& event) override;
+    /// Applications scroll by pixels here.
+    void announceScroll(std::uint64_t, ScrollDistance) override { }
+    void finishScroll() override { }
 
     /// An event of the hardware. The verdict of the tap, or what the place of the tap made of it.
     EventVerdict send(PressLedger::DeviceIdentifier device, const Event& event);

@@ -19,9 +19,17 @@ public:
         return true;
     }
 
+    void announceScroll(std::uint64_t, ScrollDistance distance) override
+    {
+        announced.push_back(distance);
+    }
+    void finishScroll() override { ++scrollsFinished; }
+
     std::vector<SyntheticEvent> takePosted() { return std::exchange(posted, {}); }
 
     std::vector<SyntheticEvent> posted{};
+    std::vector<ScrollDistance> announced{};
+    int scrollsFinished = 0;
     /// Which events the system cannot make; none when empty.
     std::function<bool(const SyntheticEvent&)> cannotMake{};
 };

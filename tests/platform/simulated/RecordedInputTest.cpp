@@ -44,9 +44,23 @@ TEST_F(RecordedInputTest, hasWhatWasPostedButNotWhatWasRefused)
     EXPECT_TRUE(recorded.post(key));
     EXPECT_FALSE(recorded.post(wheel));
 
-    EXPECT_EQ(recorded.takePosted(), std::vector{key});
+    EXPECT_EQ(recorded.takePosted(), std::vector<RecordedInput::Posted>{key});
     EXPECT_EQ(input.delivered().size(), 1U);
     EXPECT_TRUE(recorded.takePosted().empty());
+}
+
+TEST_F(RecordedInputTest, hasTheScrollsAmongWhatWasPosted)
+{
+    const SyntheticEvent wheel{.type = EventType::scrollWheel};
+
+    recorded.announceScroll(eventFlag::option, {.vertical = 12.5, .horizontal = -3});
+    EXPECT_TRUE(recorded.post(wheel));
+    recorded.finishScroll();
+
+    EXPECT_EQ(recorded.takePosted(),
+        (std::vector<RecordedInput::Posted>{
+            RecordedInput::AnnouncedScroll{eventFlag::option, {12.5, -3}}, wheel,
+            RecordedInput::FinishedScroll{}}));
 }
 
 } // namespace

@@ -4,26 +4,37 @@
 
 namespace brindlex {
 
-/// Turns the pixels of a scroll along one axis into notches of a wheel, which is all that
+/// Shares the pixels of a scroll along one axis out into notches of a wheel, which is all that
 /// applications take here.
 ///
-/// After each call as many notches have been given as come closest to all the pixels so far, so
-/// that over a whole scroll nothing is lost and nothing invented, and the first notch comes
-/// halfway. What is left over ends with the scroll: with the first pixel in the other direction, or
-/// with a pause.
+///     free ──announce──▶ following ──finish──▶ free
+///
+/// What is announced decides how many notches are given, to the nearest: the first at once unless
+/// the wheel is being spun, the others when the pixels that are posted reach them, and with the end
+/// those that no pixel has reached. Free, the pixels count for themselves. Less than a notch that
+/// is left over waits for the next scroll, but only for one in the same direction.
 class WheelTicks {
 public:
     static constexpr double pixelsPerNotch = 10;
-    /// Two scrolls that lie further apart have nothing to do with each other.
-    static constexpr Seconds pause = 0.3;
+    /// What is announced within this time of the last belongs to one spin of the wheel.
+    static constexpr Seconds spin = 0.1;
 
-    /// How many notches to turn now, with the sign of the pixels.
-    int add(double pixels, Seconds now);
+    /// Each returns how many notches to turn now, with the sign of the pixels.
+    int announce(double pixels, Seconds now);
+    int post(double pixels);
+    int finish();
 
 private:
-    double pending_ = 0;
-    double lastDirection_ = 0;
-    Seconds lastTime_ = 0;
+    bool ask(double pixels);
+    int give(double most);
+
+    bool isFollowing_ = false;
+    double direction_ = 0;
+    Seconds lastAnnounced_ = 0;
+    /// In notches, counted in the direction: asked for and not given, and how many of them the
+    /// pixels have reached.
+    double owed_ = 0;
+    double reached_ = 0;
 };
 
 } // namespace brindlex

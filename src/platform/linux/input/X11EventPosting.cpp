@@ -62,6 +62,31 @@ bool X11EventPosting::post(const SyntheticEvent& event)
     return true;
 }
 
+void X11EventPosting::announceScroll(std::uint64_t flags, ScrollDistance distance)
+{
+    stream_.inTurn([this, flags, distance] {
+        const auto now = clock_.continuousTime();
+        scrollFlags_ = flags;
+        turnAnnounced(vertical_.announce(distance.vertical, now),
+            horizontal_.announce(distance.horizontal, now));
+    });
+}
+
+void X11EventPosting::finishScroll()
+{
+    stream_.inTurn([this] { turnAnnounced(vertical_.finish(), horizontal_.finish()); });
+}
+
+void X11EventPosting::turnAnnounced(int up, int left)
+{
+    auto* session = stream_.session();
+    if (!session || (up == 0 && left == 0))
+        return;
+    forgetEarlierSession();
+    turnWheel(*session, {.type = EventType::scrollWheel, .flags = scrollFlags_}, up, left);
+    xcb_flush(session->connection().get());
+}
+
 void X11EventPosting::deliver(const SyntheticEvent& event)
 {
     auto* session = stream_.session();
@@ -151,13 +176,16 @@ void X11EventPosting::playKey(X11TapSession& session, const SyntheticEvent& even
 
 void X11EventPosting::playScroll(X11TapSession& session, const SyntheticEvent& event)
 {
-    const auto now = clock_.continuousTime();
-    const int up = vertical_.add(pixelsOf(event, EventField::scrollWheelEventPointDeltaAxis1,
-                                     EventField::scrollWheelEventDeltaAxis1),
-        now);
-    const int left = horizontal_.add(pixelsOf(event, EventField::scrollWheelEventPointDeltaAxis2,
-                                         EventField::scrollWheelEventDeltaAxis2),
-        now);
+    turnWheel(session, event,
+        vertical_.post(pixelsOf(event, EventField::scrollWheelEventPointDeltaAxis1,
+            EventField::scrollWheelEventDeltaAxis1)),
+        horizontal_.post(pixelsOf(event, EventField::scrollWheelEventPointDeltaAxis2,
+            EventField::scrollWheelEventDeltaAxis2)));
+}
+
+void X11EventPosting::turnWheel(
+    X11TapSession& session, const SyntheticEvent& event, int up, int left)
+{
     if (up == 0 && left == 0)
         return;
     moveTo(session, event);

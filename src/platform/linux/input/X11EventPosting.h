@@ -21,6 +21,8 @@ public:
     }
 
     bool post(const SyntheticEvent& event) override;
+    void announceScroll(std::uint64_t flags, ScrollDistance distance) override;
+    void finishScroll() override;
 
 private:
     void deliver(const SyntheticEvent& event);
@@ -30,6 +32,8 @@ private:
     void playButton(X11TapSession& session, const SyntheticEvent& event);
     void playKey(X11TapSession& session, const SyntheticEvent& event);
     void playScroll(X11TapSession& session, const SyntheticEvent& event);
+    void turnAnnounced(int up, int left);
+    void turnWheel(X11TapSession& session, const SyntheticEvent& event, int up, int left);
     void moveTo(X11TapSession& session, const SyntheticEvent& event);
     void holdExactly(X11TapSession& session, const SyntheticEvent& event);
     void restoreSoon();
@@ -43,6 +47,8 @@ private:
     int sessionNumber_ = 0;
     WheelTicks vertical_;
     WheelTicks horizontal_;
+    /// Those with which the scroll was announced.
+    std::uint64_t scrollFlags_ = 0;
     DockSwipeReader dock_;
     Subscription nextRestore_;
 };

@@ -182,6 +182,21 @@ TEST_F(X11EventPostingContract, turnsPixelsIntoNotches)
         "release 5", "press 5", "release 5"}));
 }
 
+TEST_F(X11EventPostingContract, turnsTheNotchesOfAnAnnouncedScroll)
+{
+    using Lines = std::vector<std::string>;
+    const Lines first{"key 64 down", "press 4 (alt)", "release 4 (alt)", "key 64 up (alt)"};
+    desktop_.posting.announceScroll(eventFlag::option, {.vertical = 30, .horizontal = 0});
+    EXPECT_TRUE(desktop_.receives(first));
+    desktop_.window.forget();
+
+    desktop_.posting.post(scroll(4, 0));
+    desktop_.posting.finishScroll();
+
+    EXPECT_TRUE(desktop_.receives({"key 64 down", "press 4 (alt)", "release 4 (alt)",
+        "press 4 (alt)", "release 4 (alt)", "key 64 up (alt)"}));
+}
+
 TEST_F(X11EventPostingContract, refusesWhatCannotBeMade)
 {
     EXPECT_FALSE(desktop_.posting.post(key(EventType::keyDown, 52, 0)));
