@@ -193,10 +193,12 @@ EventMask eventMask(bool enabled, const std::vector<MouseGestureBinding>& bindin
 EventTriggers eventTriggers(const MouseGestureConfig& config)
 {
     EventTriggers triggers;
-    for (const auto button : allCases<MouseButton>())
-        if (std::ranges::any_of(config.bindings,
-                [&](const MouseGestureBinding& binding) { return binding.button == button; }))
-            triggers.buttons.push_back({storedValue(button), {}});
+    for (const auto& binding : config.bindings) {
+        const EventTriggers::Button press{
+            storedValue(binding.button), binding.modifiers.eventFlags()};
+        if (std::ranges::find(triggers.buttons, press) == triggers.buttons.end())
+            triggers.buttons.push_back(press);
+    }
     return triggers;
 }
 

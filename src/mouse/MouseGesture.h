@@ -80,7 +80,7 @@ MouseGestureOutcome reduceMouseGesture(const Event& event, MouseGestureState& st
 /// The types of event that the bindings need; 0 when they need none.
 EventMask eventMask(bool enabled, const std::vector<MouseGestureBinding>& bindings);
 
-/// The presses that the bindings are about.
+/// The presses that the bindings are about, each once, in the order of the bindings.
 EventTriggers eventTriggers(const MouseGestureConfig& config);
 
 /// The down and the up of a click that is given back to the application under the cursor.

@@ -33,15 +33,17 @@ TEST(eventMask, isZeroWhenGesturesAreOff)
         0u);
 }
 
-TEST(eventTriggers, ofGesturesAreTheirButtonsWithAnyModifiers)
+TEST(eventTriggers, ofGesturesAreTheirButtonsWithTheirModifiers)
 {
     MouseGestureConfig config;
     config.bindings = {{{}, MouseButton::button5, ModifierSet::shift, MouseDirection::up,
                            MouseAction::Plain::back},
         {{}, MouseButton::left, {}, MouseDirection::up, MouseAction::Plain::back},
-        {{}, MouseButton::button5, {}, MouseDirection::up, MouseAction::Plain::back}};
+        {{}, MouseButton::button5, {}, MouseDirection::up, MouseAction::Plain::back},
+        {{}, MouseButton::button5, {}, MouseDirection::down, MouseAction::Plain::forward}};
 
-    EXPECT_EQ(eventTriggers(config), (EventTriggers{{{0, {}}, {4, {}}}, {}, false}));
+    EXPECT_EQ(
+        eventTriggers(config), (EventTriggers{{{4, eventFlag::shift}, {0, 0}, {4, 0}}, {}, false}));
 }
 
 } // namespace

@@ -27,14 +27,17 @@ std::uint8_t grabTypeOf(const X11InputDevice& device)
     return device.kind == Kind::keyboard ? XCB_INPUT_GRAB_TYPE_KEYCODE : XCB_INPUT_GRAB_TYPE_BUTTON;
 }
 
-/// The modifiers, each also with Caps Lock and Num Lock, of which no trigger knows.
+/// The modifiers with every set of those of which no trigger knows: the locks, and what chooses
+/// another level of the keyboard.
 std::vector<std::uint32_t> modifierSets(const TapDemand::Trigger& trigger)
 {
     if (!trigger.second)
         return {XCB_INPUT_MODIFIER_MASK_ANY};
-    const auto mask = modifiersOfFlags(*trigger.second);
-    return {mask, mask | XCB_MOD_MASK_LOCK, mask | XCB_MOD_MASK_2,
-        mask | XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2};
+    std::vector<std::uint32_t> sets{modifiersOfFlags(*trigger.second)};
+    for (const auto other : {XCB_MOD_MASK_LOCK, XCB_MOD_MASK_2, XCB_MOD_MASK_3, XCB_MOD_MASK_5})
+        for (std::size_t index = sets.size(); index > 0; --index)
+            sets.push_back(sets[index - 1] | other);
+    return sets;
 }
 
 } // namespace

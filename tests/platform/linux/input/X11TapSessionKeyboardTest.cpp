@@ -2,6 +2,9 @@
 
 #include "support/hardware/KeyboardGroup.h"
 
+#include <array>
+#include <cstdint>
+
 namespace brindlex {
 namespace {
 
@@ -27,6 +30,36 @@ TEST_F(X11TapSessionTest, knowsAHotkeyUnderCapsLockAndNumLock)
 
     EXPECT_TRUE(desktop_.receives({}));
     EXPECT_EQ(typesSeen(), (std::vector{EventType::keyDown, EventType::keyUp}));
+}
+
+TEST_F(X11TapSessionTest, knowsItsTriggersUnderEverySetOfLocks)
+{
+    constexpr std::array locks{XCB_MOD_MASK_LOCK, XCB_MOD_MASK_2, XCB_MOD_MASK_3, XCB_MOD_MASK_5};
+    tap({mouseButtonMask | keyMask,
+            EventTriggers{.buttons = {{2, eventFlag::control}},
+                .keys = {{virtualKey::a, eventFlag::control}}}},
+        EventVerdict::swallow);
+    desktop_.keyboard.press(keycode::control);
+    for (unsigned set = 0; set < 1U << locks.size(); ++set) {
+        unsigned modifiers = 0;
+        for (std::size_t lock = 0; lock < locks.size(); ++lock)
+            if ((set >> lock & 1U) != 0)
+                modifiers |= locks[lock];
+        lockModifiers(server_, static_cast<std::uint8_t>(modifiers));
+        desktop_.settle();
+        desktop_.window.forget();
+        seen_.clear();
+
+        desktop_.keyboard.stroke(keycode::a);
+        desktop_.mouse.press(2);
+        desktop_.mouse.release(2);
+        desktop_.settle();
+
+        EXPECT_TRUE(desktop_.receives({})) << set;
+        EXPECT_EQ(seen_.size(), 4u) << set;
+    }
+    lockModifiers(server_, 0);
+    desktop_.keyboard.release(keycode::control);
 }
 
 TEST_F(X11TapSessionTest, showsTheRepeatsOfAHeldKeyAndLetsTheServerRepeatIt)
