@@ -1,5 +1,7 @@
 #include "inputmethod/SmartInputMethodAppStats.h"
 
+#include "platform/InputSourceIdentifiers.h"
+
 #include <algorithm>
 #include <cmath>
 #include <string_view>
@@ -16,8 +18,9 @@ std::vector<Group> grouped(const std::vector<SmartInputMethodSample>& samples)
 {
     std::vector<Group> groups;
     for (const auto& sample : samples) {
-        const auto isItsGroup
-            = [&](const Group& group) { return group.inputSourceID == sample.inputSourceID; };
+        const auto isItsGroup = [&](const Group& group) {
+            return isSameSource(group.inputSourceID, sample.inputSourceID);
+        };
         auto group = std::find_if(groups.begin(), groups.end(), isItsGroup);
         if (group == groups.end())
             group = groups.insert(groups.end(), {sample.inputSourceID, 0});
@@ -48,7 +51,7 @@ std::int64_t SmartInputMethodAppStats::sharePercent(
     if (!inputSourceID || samples.empty())
         return 0;
     const auto agreeing = std::count_if(samples.begin(), samples.end(),
-        [&](const auto& sample) { return sample.inputSourceID == *inputSourceID; });
+        [&](const auto& sample) { return isSameSource(sample.inputSourceID, *inputSourceID); });
     const double share = static_cast<double>(agreeing) / static_cast<double>(samples.size());
     return static_cast<std::int64_t>(std::floor(share * 100.0));
 }

@@ -1,7 +1,9 @@
 #include "inputmethod/SwitchDecision.h"
 
 #include "foundation/Text.h"
+#include "foundation/UnicodeDomain.h"
 #include "inputmethod/NormalizedDomain.h"
+#include "platform/InputSourceIdentifiers.h"
 
 #include <algorithm>
 #include <array>
@@ -104,7 +106,7 @@ std::optional<InputMethodSwitchDecision> resolveSwitchDecision(
         auto decision = place.decisionBy(source);
         if (!decision)
             continue;
-        if (decision->inputSourceID == currentInputSourceID)
+        if (currentInputSourceID && isSameSource(decision->inputSourceID, *currentInputSourceID))
             return {};
         return decision;
     }
@@ -135,15 +137,18 @@ std::optional<DomainInputMethodRule> matchingDomainRule(
 {
     if (!config.domainRulesEnabled || !host || config.domainRules.empty())
         return {};
-    const auto domain = normalizedDomain(*host);
-    if (!domain)
+    const auto normalized = normalizedDomain(*host);
+    if (!normalized)
         return {};
+    // Browsers show the one form and report the other.
+    const auto domain = unicodeDomain(*normalized);
     const DomainInputMethodRule* best = nullptr;
     std::size_t longest = 0;
     for (const auto& rule : config.domainRules) {
-        if (!liesUnder(*domain, rule.domainSuffix))
+        const auto suffix = unicodeDomain(rule.domainSuffix);
+        if (!liesUnder(domain, suffix))
             continue;
-        const auto length = characters(rule.domainSuffix).size();
+        const auto length = characters(suffix).size();
         if (best && length <= longest)
             continue;
         best = &rule;

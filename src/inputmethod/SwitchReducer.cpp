@@ -2,6 +2,7 @@
 
 #include "inputmethod/SwitchDecision.h"
 #include "inputmethod/TruncatedHUDLabel.h"
+#include "platform/InputSourceIdentifiers.h"
 
 #include <utility>
 
@@ -130,7 +131,8 @@ private:
     /// too late to count as one, closes the window; a change to another source leaves it open.
     bool takeEcho(const std::string& current)
     {
-        if (state_.ignoreWindow.inputSourceID != current)
+        if (!state_.ignoreWindow.inputSourceID
+            || !isSameSource(*state_.ignoreWindow.inputSourceID, current))
             return false;
         const auto deadline = std::exchange(state_.ignoreWindow, {}).deadline;
         return deadline && environment_.now() <= *deadline;
@@ -138,8 +140,10 @@ private:
 
     void learn(const std::string& current)
     {
-        if (!smartConfig_.learningEnabled || !state_.learning
-            || state_.learning->lastObservedInputSourceID == current)
+        if (!smartConfig_.learningEnabled || !state_.learning)
+            return;
+        const auto& lastObserved = state_.learning->lastObservedInputSourceID;
+        if (lastObserved && isSameSource(*lastObserved, current))
             return;
         const auto time = environment_.systemTime();
         smartConfig_.recordSample(current, state_.learning->app, time);
@@ -186,7 +190,7 @@ private:
     {
         return state_.override.lastAutomaticContext == context
             && state_.override.lastAutomaticInputSourceID == decision.inputSourceID && current
-            && current != decision.inputSourceID;
+            && !isSameSource(*current, decision.inputSourceID);
     }
 
     static SwitchEffect::LogWarning failureWarning(const InputMethodSwitchDecision& decision)

@@ -69,6 +69,14 @@ std::string canonicalSourceID(std::string_view id)
     return xkbSourceID(*layout, id.substr(id.rfind(':') + 1));
 }
 
+bool isSameSource(std::string_view id, std::string_view other)
+{
+    if (id == other)
+        return true;
+    const auto layout = layoutOfSource(id);
+    return layout && layout == layoutOfSource(other);
+}
+
 std::string sourceIDOfIBusEngine(std::string_view engine)
 {
     if (layoutOfSource(engine))

@@ -22,9 +22,13 @@ std::string xkbSourceID(const XkbLayout& layout, std::string_view language);
 /// The layout that an identifier of that form names; nothing for any other text.
 std::optional<XkbLayout> layoutOfSource(std::string_view id);
 
-/// The one form of an identifier, so that a rule survives a change between input methods that write
-/// the same source differently: "xkb:de::ger" becomes "xkb:de::deu".
+/// The one form of an identifier: "xkb:de::ger" becomes "xkb:de::deu".
 std::string canonicalSourceID(std::string_view id);
+
+/// Whether two identifiers name the same source. Of a layout the language is for show: input
+/// methods and the X server name different ones for hundreds of layouts, and a rule survives a
+/// change between them.
+bool isSameSource(std::string_view id, std::string_view other);
 
 /// The identifier of an IBus engine: its layouts are "xkb:" sources, all else is "ibus:" and the
 /// name.

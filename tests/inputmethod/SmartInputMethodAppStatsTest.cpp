@@ -59,6 +59,13 @@ TEST(SmartInputMethodAppStats, recommendsNothingOnATie)
     EXPECT_EQ(statsWith({{2, "A"}, {2, "B"}, {3, "C"}}).dominantInputSourceID(), "C");
 }
 
+TEST(SmartInputMethodAppStats, countsALayoutOnceWhateverItsLanguage)
+{
+    const auto stats = statsWith({{5, "xkb:de::ger"}, {3, "xkb:de::deu"}, {2, "xkb:us::eng"}});
+    EXPECT_EQ(refreshed(stats), with(stats, "xkb:de::ger", 80, true));
+    EXPECT_EQ(stats.sharePercent("xkb:de::"), 80);
+}
+
 TEST(SmartInputMethodAppStats, recommendsBeforeTheWindowIsFull)
 {
     const auto stats = statsWith({{3, "A"}});

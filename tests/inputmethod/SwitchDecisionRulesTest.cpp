@@ -75,6 +75,18 @@ TEST(MatchingDomainRule, comparesOtherScripts)
     EXPECT_EQ(matchingDomainRule("https://shop.BÜCHER.example/", websites({rule})), rule);
 }
 
+TEST(MatchingDomainRule, isTheSameInUnicodeAndInPunycode)
+{
+    const auto readable = websiteRule("bücher.example", "german");
+    const auto encoded = websiteRule("xn--bcher-kva.example", "german");
+    for (const auto& rule : {readable, encoded})
+        for (const auto* page : {"https://www.bücher.example/", "https://xn--bcher-kva.example",
+                 "shop.XN--BCHER-KVA.example", "bücher.example"})
+            EXPECT_EQ(matchingDomainRule(page, websites({rule})), rule) << page;
+    EXPECT_EQ(matchingDomainRule("bucher.example", websites({encoded})), std::nullopt);
+    EXPECT_EQ(matchingDomainRule("bücher.example", websites({encoded, readable})), encoded);
+}
+
 TEST(MatchingAppRule, isTheFirstForTheApplication)
 {
     const auto first = appRule("a", "german");

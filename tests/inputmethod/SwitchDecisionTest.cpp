@@ -161,6 +161,15 @@ TEST_F(SwitchDecision, isNothingWhereTheSystemStandsAlready)
     EXPECT_EQ(decide(), Decision());
 }
 
+TEST_F(SwitchDecision, isNothingWhereTheSameLayoutHasAnotherLanguage)
+{
+    config.domainRules = {websiteRule("example.com", "xkb:in:eng:eng")};
+    current = "xkb:in:eng:hin";
+    EXPECT_EQ(decide(), Decision());
+    current = "xkb:in::hin";
+    EXPECT_NE(decide(), Decision());
+}
+
 TEST_F(SwitchDecision, isMadeWhileTheCurrentSourceIsUnknown)
 {
     current.reset();

@@ -40,6 +40,24 @@ TEST_F(SwitchReducer, takesTheEchoOfItsOwnSelectionForNoChange)
     EXPECT_EQ(state.lastInputSourceID, german);
 }
 
+TEST_F(SwitchReducer, knowsALayoutAgainThatIsReportedWithAnotherLanguage)
+{
+    config.rules = {appRule(editor, "xkb:in:eng:eng")};
+    begin();
+    activate(editor);
+    computer.inputSourceID = "xkb:in:eng:hin";
+    echo();
+    EXPECT_EQ(smartConfig, SmartInputMethodConfig{});
+    EXPECT_EQ(state.ignoreWindow, SwitchState::IgnoreWindow{});
+
+    computer.inputSourceID = "xkb:in:eng:san";
+    echo();
+    EXPECT_EQ(smartConfig, SmartInputMethodConfig{}) << "another input method, the same layout";
+    activate(mail);
+    activate(editor);
+    EXPECT_EQ(computer.selections, Texts{});
+}
+
 TEST_F(SwitchReducer, takesAnEchoUpToOneSecond)
 {
     begin();

@@ -41,6 +41,20 @@ TEST(InputSourceIdentifiers, readsTheLayoutOfAnIdentifier)
     EXPECT_EQ(layoutOfSource("ibus:libpinyin"), std::nullopt);
 }
 
+TEST(InputSourceIdentifiers, areTheSameForTheSameLayoutWhateverItsLanguage)
+{
+    EXPECT_TRUE(isSameSource("xkb:in:eng:eng", "xkb:in:eng:hin"));
+    EXPECT_TRUE(isSameSource("xkb:de::ger", "xkb:de::deu"));
+    EXPECT_TRUE(isSameSource("xkb:custom::", "xkb:custom::eng"));
+    EXPECT_TRUE(isSameSource("ibus:libpinyin", "ibus:libpinyin"));
+    EXPECT_FALSE(isSameSource("xkb:us:intl:eng", "xkb:us::eng"));
+    EXPECT_FALSE(isSameSource("xkb:us::eng", "xkb:gb::eng"));
+    EXPECT_FALSE(isSameSource("ibus:libpinyin", "fcitx5:libpinyin"));
+    EXPECT_FALSE(isSameSource("xkb:de", "xkb:de::deu"));
+    EXPECT_FALSE(isSameSource("", "xkb:de::deu"));
+    EXPECT_TRUE(isSameSource("", ""));
+}
+
 TEST(InputSourceIdentifiers, namesIBusEngines)
 {
     EXPECT_EQ(sourceIDOfIBusEngine("xkb:de::ger"), "xkb:de::deu");

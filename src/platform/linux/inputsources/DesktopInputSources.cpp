@@ -29,7 +29,7 @@ InputSourceProperties propertiesOf(const InputSource& source)
 
 bool matches(const InputSourceFilter& filter, const InputSource& source)
 {
-    return (!filter.id || canonicalSourceID(*filter.id) == source.id)
+    return (!filter.id || isSameSource(*filter.id, source.id))
         && (!filter.category || *filter.category == keyboardInputSourceCategory)
         && filter.isSelectCapable != false && filter.isEnabled != false;
 }
@@ -100,7 +100,7 @@ std::optional<std::vector<InputSourceProperties>> DesktopInputSources::list(
 
 int DesktopInputSources::select(const InputSourceProperties& source)
 {
-    const auto status = backend_->select(canonicalSourceID(source.id.value_or("")));
+    const auto status = backend_->select(source.id.value_or(""));
     settleSoon_.start();
     return static_cast<int>(status);
 }

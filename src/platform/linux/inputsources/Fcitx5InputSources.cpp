@@ -89,7 +89,7 @@ SelectionStatus Fcitx5InputSources::select(const std::string& id)
     if (!isUsable())
         return SelectionStatus::notConnected;
     const auto found = std::find_if(sources_.begin(), sources_.end(),
-        [&](const InputSource& source) { return source.id == id; });
+        [&](const InputSource& source) { return isSameSource(source.id, id); });
     if (found == sources_.end())
         return SelectionStatus::unknownSource;
     const auto method = methods_[static_cast<std::size_t>(found - sources_.begin())];

@@ -86,8 +86,10 @@ SelectionStatus IBusInputSources::select(const std::string& id)
 {
     if (!isUsable())
         return SelectionStatus::notConnected;
-    const auto found = std::find_if(engines_.begin(), engines_.end(),
-        [&](const IBusEngine& engine) { return sourceIDOfIBusEngine(engine.name) == id; });
+    const auto found
+        = std::find_if(engines_.begin(), engines_.end(), [&](const IBusEngine& engine) {
+              return isSameSource(sourceIDOfIBusEngine(engine.name), id);
+          });
     if (found == engines_.end())
         return SelectionStatus::unknownSource;
 

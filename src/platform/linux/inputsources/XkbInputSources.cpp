@@ -79,8 +79,8 @@ SelectionStatus XkbInputSources::select(const std::string& id)
     if (!isUsable())
         return SelectionStatus::notConnected;
     const auto& all = sources();
-    const auto found = std::find_if(
-        all.begin(), all.end(), [&](const InputSource& source) { return source.id == id; });
+    const auto found = std::find_if(all.begin(), all.end(),
+        [&](const InputSource& source) { return isSameSource(source.id, id); });
     if (found == all.end())
         return SelectionStatus::unknownSource;
     if (!lockGroup(static_cast<int>(found - all.begin())))
