@@ -86,8 +86,12 @@ std::shared_ptr<RunningApplications> LinuxPlatform::x11Applications()
 
 std::shared_ptr<BrowserPageReading> LinuxPlatform::accessiblePages(const Clock& clock)
 {
-    return std::make_shared<AccessibleBrowserPages>(
-        session_.mainThread, clock, browserQueue_, [this] { return x11().activeWindow.current(); });
+    auto& active = x11().activeWindow;
+    return std::make_shared<AccessibleBrowserPages>(session_.mainThread, clock, browserQueue_,
+        AccessibleBrowserPages::Front{[&active] { return active.current(); },
+            [&active](std::function<void()> handler) {
+                return active.observeTitle(std::move(handler));
+            }});
 }
 
 std::shared_ptr<ApplicationOpening> LinuxPlatform::x11Opening()

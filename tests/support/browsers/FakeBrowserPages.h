@@ -31,7 +31,14 @@ struct FakeBrowserPages {
     SimulatedClock clock{};
     SimulatedMainThread mainThread{clock};
     SerialQueue queue{"pages"};
-    AccessibleBrowserPages pages{mainThread, clock, queue, [this] { return active; }, limits};
+    Subscribers<std::function<void()>> titles{};
+    AccessibleBrowserPages pages{mainThread, clock, queue, front(), limits};
+
+    AccessibleBrowserPages::Front front()
+    {
+        return {[this] { return active; },
+            [this](std::function<void()> handler) { return titles.add(std::move(handler)); }};
+    }
 
     std::optional<std::string> ask() { return pages.currentURL("org.chromium.Chromium", ""); }
 

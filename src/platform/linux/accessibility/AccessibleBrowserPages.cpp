@@ -1,20 +1,29 @@
 #include "platform/linux/accessibility/AccessibleBrowserPages.h"
 
 #include "platform/linux/accessibility/AccessiblePageReader.h"
+#include "platform/linux/accessibility/TitlePace.h"
 
+#include <array>
 #include <utility>
 
 namespace brindlex {
+namespace {
+
+/// When to look again at a page that is still the one from before its title changed.
+constexpr std::array<Seconds, 3> delaysAfterTitle{0.03, 0.07, 0.2};
+
+} // namespace
 
 /// What is asked and what was read. Lives on the main thread; the work on the queue and its way
 /// back hold it weakly.
 class AccessibleBrowserPages::Reading : public std::enable_shared_from_this<Reading> {
 public:
-    Reading(MainThread& mainThread, const Clock& clock, BackgroundQueue& queue,
-        ActiveWindowQuery activeWindow, const AccessibilityLimits& limits)
+    Reading(MainThread& mainThread, const Clock& clock, BackgroundQueue& queue, Front front,
+        const AccessibilityLimits& limits)
         : mainThread_(mainThread), clock_(clock), queue_(queue),
-          activeWindow_(std::move(activeWindow)),
-          reader_(std::make_shared<AccessiblePageReader>(limits))
+          activeWindow_(std::move(front.activeWindow)),
+          reader_(std::make_shared<AccessiblePageReader>(limits)),
+          titles_(front.observeTitle([this] { lookForTitle(); }))
     {
     }
 
@@ -60,6 +69,33 @@ private:
         return page_ && page_->window == window.window && page_->bundleID == askedFor_;
     }
 
+    void lookForTitle()
+    {
+        if (observers.isEmpty() || !titlePace_.takes(clock_.continuousTime()))
+            return;
+        pageBeforeTitle_ = lastReturned_;
+        lookAgain(0);
+    }
+
+    void lookAgain(std::size_t attempt)
+    {
+        const auto window = activeWindow_();
+        if (!window)
+            return;
+        const Request request{askedFor_, *window};
+        // What is being read may be the page from before.
+        if (beingRead_)
+            next_ = request;
+        else
+            read(request);
+        if (attempt == delaysAfterTitle.size())
+            return;
+        nextLook_ = mainThread_.after(delaysAfterTitle[attempt], [this, attempt] {
+            if (lastReturned_ == pageBeforeTitle_)
+                lookAgain(attempt + 1);
+        });
+    }
+
     void want(Request request)
     {
         if (!beingRead_)
@@ -98,7 +134,7 @@ private:
     MainThread& mainThread_;
     const Clock& clock_;
     BackgroundQueue& queue_;
-    ActiveWindowQuery activeWindow_;
+    std::function<std::optional<ActiveWindow>()> activeWindow_;
     std::shared_ptr<AccessiblePageReader> reader_;
 
     std::string askedFor_;
@@ -106,12 +142,16 @@ private:
     std::optional<Page> page_;
     std::optional<Request> beingRead_;
     std::optional<Request> next_;
+
+    TitlePace titlePace_;
+    std::optional<std::string> pageBeforeTitle_;
+    Subscription nextLook_;
+    Subscription titles_;
 };
 
 AccessibleBrowserPages::AccessibleBrowserPages(MainThread& mainThread, const Clock& clock,
-    BackgroundQueue& queue, ActiveWindowQuery activeWindow, const AccessibilityLimits& limits)
-    : reading_(
-        std::make_shared<Reading>(mainThread, clock, queue, std::move(activeWindow), limits)),
+    BackgroundQueue& queue, Front front, const AccessibilityLimits& limits)
+    : reading_(std::make_shared<Reading>(mainThread, clock, queue, std::move(front), limits)),
       queue_(queue)
 {
 }

@@ -13,7 +13,9 @@ constexpr int noneLastsMilliseconds = 50;
 
 } // namespace
 
-X11ActiveWindow::X11ActiveWindow(X11Connection& connection) : connection_(connection)
+X11ActiveWindow::X11ActiveWindow(X11Connection& connection)
+    : connection_(connection), active_(connection.atom("_NET_ACTIVE_WINDOW")),
+      managed_(connection.atom("_NET_CLIENT_LIST")), title_(connection.atom("_NET_WM_NAME"))
 {
     believeNone_.setSingleShot(true);
     believeNone_.setTimerType(Qt::PreciseTimer);
@@ -21,18 +23,9 @@ X11ActiveWindow::X11ActiveWindow(X11Connection& connection) : connection_(connec
     QObject::connect(&believeNone_, &QTimer::timeout, &believeNone_, [this] { decide(); });
 
     connection_.listenToRoot(XCB_EVENT_MASK_PROPERTY_CHANGE);
-    const auto active = connection_.atom("_NET_ACTIVE_WINDOW");
-    const auto managed = connection_.atom("_NET_CLIENT_LIST");
-    events_ = connection_.observeEvents([this, active, managed](const xcb_generic_event_t& event) {
-        if ((event.response_type & 0x7f) != XCB_PROPERTY_NOTIFY)
-            return;
-        const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
-        if (change.window != connection_.root())
-            return;
-        if (change.atom == active)
-            read();
-        else if (change.atom == managed)
-            doubtUnlessManaged();
+    events_ = connection_.observeEvents([this](const xcb_generic_event_t& event) {
+        if ((event.response_type & 0x7f) == XCB_PROPERTY_NOTIFY)
+            notifyOf(reinterpret_cast<const xcb_property_notify_event_t&>(event));
     });
     become(activeWindow(connection_));
 }
@@ -51,6 +44,23 @@ std::optional<ActiveWindow> X11ActiveWindow::current() const
 Subscription X11ActiveWindow::observe(std::function<void()> handler)
 {
     return observers_.add(std::move(handler));
+}
+
+Subscription X11ActiveWindow::observeTitle(std::function<void()> handler)
+{
+    return titleObservers_.add(std::move(handler));
+}
+
+void X11ActiveWindow::notifyOf(const xcb_property_notify_event_t& change)
+{
+    if (change.window == window_ && change.atom == title_)
+        titleObservers_.notify();
+    if (change.window != connection_.root())
+        return;
+    if (change.atom == active_)
+        read();
+    else if (change.atom == managed_)
+        doubtUnlessManaged();
 }
 
 void X11ActiveWindow::read()
@@ -90,13 +100,20 @@ bool X11ActiveWindow::isManaged(xcb_window_t window) const
 void X11ActiveWindow::become(xcb_window_t window)
 {
     believeNone_.stop();
-    if (std::exchange(window_, window) == window)
+    const auto before = std::exchange(window_, window);
+    if (before == window)
         return;
-    const std::uint32_t properties = XCB_EVENT_MASK_PROPERTY_CHANGE;
-    if (window != 0)
-        xcb_change_window_attributes(connection_.get(), window, XCB_CW_EVENT_MASK, &properties);
+    // A window that goes on changing behind others must not wake the program.
+    listenTo(before, XCB_EVENT_MASK_NO_EVENT);
+    listenTo(window, XCB_EVENT_MASK_PROPERTY_CHANGE);
     xcb_flush(connection_.get());
     observers_.notify();
+}
+
+void X11ActiveWindow::listenTo(xcb_window_t window, std::uint32_t events)
+{
+    if (window != 0)
+        xcb_change_window_attributes(connection_.get(), window, XCB_CW_EVENT_MASK, &events);
 }
 
 } // namespace brindlex

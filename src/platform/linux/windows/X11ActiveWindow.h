@@ -7,6 +7,7 @@
 
 #include <QTimer>
 
+#include <cstdint>
 #include <functional>
 #include <optional>
 
@@ -16,7 +17,7 @@ namespace brindlex {
 ///
 /// Between two windows a window manager may name none for a moment: that none is active is believed
 /// only when it has lasted 50 ms, while a window is believed at once. The connection gets the
-/// property changes of every window from the time when it was first active. Main thread only.
+/// property changes of the active window, and of no other. Main thread only.
 class X11ActiveWindow {
 public:
     explicit X11ActiveWindow(X11Connection& connection);
@@ -30,7 +31,12 @@ public:
     /// The callback runs from the loop each time `window` has changed.
     Subscription observe(std::function<void()> handler);
 
+    /// The callback runs from the loop each time the active window has changed its title.
+    Subscription observeTitle(std::function<void()> handler);
+
 private:
+    void notifyOf(const xcb_property_notify_event_t& change);
+    void listenTo(xcb_window_t window, std::uint32_t events);
     void read();
     void doubt();
     void doubtUnlessManaged();
@@ -39,8 +45,12 @@ private:
     void become(xcb_window_t window);
 
     X11Connection& connection_;
+    xcb_atom_t active_;
+    xcb_atom_t managed_;
+    xcb_atom_t title_;
     xcb_window_t window_ = 0;
     Subscribers<std::function<void()>> observers_;
+    Subscribers<std::function<void()>> titleObservers_;
     QTimer believeNone_;
     Subscription events_;
 };

@@ -273,13 +273,58 @@ TEST_F(AccessibleBrowserPagesTest, survivesABrowserThatEndsInTheMiddleOfAReading
     EXPECT_EQ(on.read(), std::nullopt);
 }
 
+TEST_F(AccessibleBrowserPagesTest, readsThePageOfANewTitleAtOnce)
+{
+    on.browser.offer({{.name = "Page - Browser", .url = "https://example.com/"}});
+    on.read();
+    notifications = 0;
+    on.browser.offer({{.name = "Next - Browser", .url = "https://example.org/"}});
+    on.active->title = "Next - Browser";
+    on.titles.notify();
+    on.settle();
+
+    EXPECT_EQ(notifications, 1);
+    EXPECT_EQ(on.ask(), "https://example.org/");
+}
+
+TEST_F(AccessibleBrowserPagesTest, looksAgainForAPageThatComesAfterItsTitle)
+{
+    on.browser.offer({{.name = "Page - Browser", .url = "https://example.com/"}});
+    on.read();
+    notifications = 0;
+    on.titles.notify();
+    on.settle();
+    EXPECT_EQ(notifications, 0);
+
+    on.browser.offer({{.name = "Page - Browser", .url = "https://example.org/"}});
+    on.mainThread.advance(0.03);
+    on.settle();
+    EXPECT_EQ(notifications, 1);
+    EXPECT_EQ(on.ask(), "https://example.org/");
+
+    on.mainThread.advance(10);
+    EXPECT_EQ(on.mainThread.timers(), 0u);
+}
+
+TEST_F(AccessibleBrowserPagesTest, readsNothingForATitleWhileNobodyObserves)
+{
+    on.browser.offer({{.name = "Page - Browser", .url = "https://example.com/"}});
+    on.read();
+    observation.reset();
+    on.browser.offer({{.name = "Page - Browser", .url = "https://example.org/"}});
+    on.titles.notify();
+    on.settle();
+
+    EXPECT_EQ(on.ask(), "https://example.com/");
+    EXPECT_EQ(on.mainThread.timers(), 0u);
+}
+
 TEST_F(AccessibleBrowserPagesTest, mayGoWhileAPageIsRead)
 {
     on.browser.offer({{.name = "Page - Browser", .url = "https://example.com/"}});
     int heard = 0;
     {
-        AccessibleBrowserPages pages(
-            on.mainThread, on.clock, on.queue, [this] { return on.active; });
+        AccessibleBrowserPages pages(on.mainThread, on.clock, on.queue, on.front());
         const auto hearing = pages.observeChanges([&] { ++heard; });
         pages.currentURL("org.chromium.Chromium", "");
     }
