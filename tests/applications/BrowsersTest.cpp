@@ -15,7 +15,7 @@ TEST(Browsers, haveOneRowEach)
     std::set<std::string_view> identifiers;
     for (const auto& browser : browsers())
         EXPECT_TRUE(identifiers.insert(browser.bundleID).second) << browser.bundleID;
-    EXPECT_EQ(identifiers.size(), 12U);
+    EXPECT_EQ(identifiers.size(), 17U);
 }
 
 TEST(Browsers, shareNoNameOnLinuxAndWriteItInLowerCase)
@@ -29,7 +29,7 @@ TEST(Browsers, shareNoNameOnLinuxAndWriteItInLowerCase)
             EXPECT_EQ(lowercased(name), name);
         }
     }
-    EXPECT_EQ(names.size(), 31U);
+    EXPECT_EQ(names.size(), 48U);
 }
 
 } // namespace

@@ -67,7 +67,7 @@ end tell)");
 TEST(BrowserURLProvider, knowsNoOtherApplication)
 {
     for (const auto* bundleID : {"", "com.apple.TextEdit", "com.apple.safari", "com.apple.Safari ",
-             "com.google.Chrome.beta", "com.google", "org.mozilla.firefox\"", "firefox"}) {
+             "com.google.Chrome.other", "com.google", "org.mozilla.firefox\"", "firefox"}) {
         EXPECT_FALSE(BrowserURLProvider::isSupported(bundleID)) << bundleID;
         EXPECT_EQ(BrowserURLProvider::script(bundleID), std::nullopt) << bundleID;
     }

@@ -120,7 +120,10 @@ std::optional<QString> AccessibilityBus::address()
             QDBus::Block, static_cast<int>(timeForAddress.count()));
     const auto flag = unpacked(isEnabled.arguments().value(0));
     if (flag.metaType() == QMetaType::fromType<bool>() && !flag.toBool())
-        logOnce(isDisabledLogged_, std::string("Accessibility is off: ") + loss_.whileOff);
+        logOnce(isDisabledLogged_,
+            std::string("Accessibility is off: ") + loss_.whileOff
+                + "; it is switched on by \"gsettings set org.gnome.desktop.interface "
+                  "toolkit-accessibility true\", before they are started");
     QDBusConnection::disconnectFromBus(sessionConnectionName_);
     return *found;
 }

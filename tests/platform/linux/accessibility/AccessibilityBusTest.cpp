@@ -106,7 +106,9 @@ TEST(AccessibilityBus, saysOnceThatProgramsOfferNothingWhileItIsOff)
     const auto lines = log.lines();
     EXPECT_EQ(std::count(lines.begin(), lines.end(),
                   "INFO [input-method] Accessibility is off: the pages of browsers started "
-                  "meanwhile are unknown"),
+                  "meanwhile are unknown; it is switched on by \"gsettings set "
+                  "org.gnome.desktop.interface toolkit-accessibility true\", before they are "
+                  "started"),
         1)
         << testing::PrintToString(lines);
 }
