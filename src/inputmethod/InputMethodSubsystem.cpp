@@ -29,9 +29,10 @@ InputMethodSwitchCoordinator& InputMethodSubsystem::switchCoordinator()
 
 void InputMethodSubsystem::reload()
 {
-    if (auto* store = configStore_.ifMade())
-        store->reload();
+    // What was learned comes first: rules that are switched on or off write it back at once.
     if (auto* store = smartConfigStore_.ifMade())
+        store->reload();
+    if (auto* store = configStore_.ifMade())
         store->reload();
 }
 

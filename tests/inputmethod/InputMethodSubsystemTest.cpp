@@ -65,6 +65,23 @@ TEST_F(InputMethodSubsystemTest, takesOverWhatAnotherProcessHasWrittenOfTheLearn
     EXPECT_EQ(subsystem.smartConfigStore().config().value(), config);
 }
 
+TEST_F(InputMethodSubsystemTest, keepsWhatAnotherProcessHasLearnedWhenItSwitchesTheRulesOff)
+{
+    subsystem.switchCoordinator();
+    SmartInputMethodConfig learned;
+    learned.enabled = true;
+    InputMethodConfig config;
+    config.enabled = false;
+    writePreference(computer.defaults, InputMethodPreferenceKeys{}.smartInputMethodConfig, learned);
+    writePreference(computer.defaults, InputMethodPreferenceKeys{}.inputMethodConfig, config);
+
+    subsystem.reload();
+
+    EXPECT_EQ(subsystem.smartConfigStore().config().value(), learned);
+    EXPECT_EQ(readPreference(computer.defaults, InputMethodPreferenceKeys{}.smartInputMethodConfig),
+        learned);
+}
+
 TEST_F(InputMethodSubsystemTest, reloadsNothingThatIsNotUsed)
 {
     computer.defaults.set("inputMethodConfig", PreferenceValue("damaged"));
