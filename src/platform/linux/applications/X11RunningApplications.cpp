@@ -105,7 +105,9 @@ RunningApplication X11RunningApplications::identify(const X11WindowDescription& 
         application.localizedName
             = unlessEmpty(entry->localizedName.empty() ? entry->identifier : entry->localizedName);
     } else {
-        application.bundleIdentifier = identifierWithoutEntry(origin);
+        application.bundleIdentifier = identifierWithoutEntry(origin).value_or("unnamed:" + session_
+            + ":" + std::to_string(description.nameless) + ":"
+            + std::to_string(description.processIdentifier));
         application.localizedName
             = unlessEmpty(origin.className.empty() ? origin.program : origin.className);
     }

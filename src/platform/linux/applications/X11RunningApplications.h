@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Subscribers.h"
+#include "foundation/Uuid.h"
 #include "platform/RunningApplications.h"
 #include "platform/linux/applications/DesktopEntries.h"
 #include "platform/linux/windows/X11ActiveWindow.h"
@@ -8,6 +9,7 @@
 
 #include <map>
 #include <optional>
+#include <string>
 
 namespace brindlex {
 
@@ -15,7 +17,8 @@ namespace brindlex {
 ///
 /// Windows of this process count as none: while one of them is active there is no frontmost
 /// application, and of the one that follows observers are notified, even if it is the one from
-/// before. A process identifier of 0 means that the window names none of this machine.
+/// before. A process identifier of 0 means that the window names none of this machine. A window of
+/// which nothing is known is an application of its own, whose identifier nobody has again.
 class X11RunningApplications final : public RunningApplications {
 public:
     X11RunningApplications(
@@ -38,6 +41,8 @@ private:
     DesktopEntries& entries_;
     std::optional<RunningApplication> frontmost_;
     std::optional<RunningApplication> lastNotified_;
+    /// What the identifiers of applications without a name have that those of other times have not.
+    std::string session_ = Uuid::random().text();
     mutable std::map<X11WindowDescription, RunningApplication> identified_;
     Subscribers<ActivationHandler> observers_;
     Subscription windowChanges_;

@@ -57,7 +57,7 @@ std::optional<X11WindowAtPoint> windowAt(X11Connection& connection, Point point)
     if (!connection.isAlive())
         return {};
     const auto windows = windowsAt(connection, point);
-    const auto descriptions = describe(connection, windows);
+    const auto descriptions = claimsOf(connection, windows);
     for (std::size_t index = 0; index < windows.size(); ++index) {
         if (!descriptions[index] || descriptions[index]->processIdentifier == 0)
             continue;

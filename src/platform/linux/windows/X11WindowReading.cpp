@@ -1,6 +1,7 @@
 #include "platform/linux/windows/X11WindowReading.h"
 
 #include "foundation/Text.h"
+#include "platform/linux/windows/X11ClientProcess.h"
 #include "platform/linux/x11/X11Properties.h"
 
 #include <limits>
@@ -38,19 +39,25 @@ bool isThisMachine(const std::string& name)
 }
 
 struct DescriptionRequest {
+    X11Connection& connection;
+    xcb_window_t window;
     X11PropertyRequest classes;
     X11PropertyRequest process;
     X11PropertyRequest machine;
 
-    DescriptionRequest(X11Connection& connection, xcb_window_t window)
-        : classes(connection, window, "WM_CLASS", classLimit),
+    DescriptionRequest(X11Connection& connection_, xcb_window_t window_)
+        : connection(connection_), window(window_),
+          classes(connection, window, "WM_CLASS", classLimit),
           process(connection, window, "_NET_WM_PID", 4),
           machine(connection, window, "WM_CLIENT_MACHINE", machineLimit)
     {
     }
 };
 
-std::optional<X11WindowDescription> description(DescriptionRequest& request)
+/// Who a window belongs to that says nothing of itself.
+enum class Nameless { isUnknown, isAsked };
+
+std::optional<X11WindowDescription> description(DescriptionRequest& request, Nameless nameless)
 {
     const auto classes = request.classes.bytes().value_or("");
     if (request.classes.windowHasGone())
@@ -66,8 +73,17 @@ std::optional<X11WindowDescription> description(DescriptionRequest& request)
     const auto machine = request.machine.bytes();
     const bool isNamed = process && !process->empty()
         && process->front() <= static_cast<std::uint32_t>(std::numeric_limits<pid_t>::max());
-    if (isNamed && isThisMachine(upToNull(machine.value_or(""))))
+    const bool isHere = isThisMachine(upToNull(machine.value_or("")));
+    if (isNamed && isHere)
         result.processIdentifier = process->front();
+    const bool saysNothing
+        = result.instance.empty() && result.className.empty() && result.processIdentifier == 0;
+    if (!saysNothing || nameless == Nameless::isUnknown)
+        return result;
+    if (isHere)
+        result.processIdentifier = clientProcess(request.connection, request.window);
+    if (result.processIdentifier == 0)
+        result.nameless = request.window;
     return result;
 }
 
@@ -89,6 +105,20 @@ std::string title(TitleRequest& request)
     return wellFormed(upToNull(modern && !modern->empty() ? *modern : old.value_or("")));
 }
 
+std::vector<std::optional<X11WindowDescription>> described(
+    X11Connection& connection, const std::vector<xcb_window_t>& windows, Nameless nameless)
+{
+    std::vector<DescriptionRequest> requests;
+    requests.reserve(windows.size());
+    for (const auto window : windows)
+        requests.emplace_back(connection, window);
+    std::vector<std::optional<X11WindowDescription>> descriptions;
+    descriptions.reserve(windows.size());
+    for (auto& request : requests)
+        descriptions.push_back(description(request, nameless));
+    return descriptions;
+}
+
 } // namespace
 
 xcb_window_t activeWindow(X11Connection& connection)
@@ -108,15 +138,13 @@ std::vector<xcb_window_t> managedWindows(X11Connection& connection)
 std::vector<std::optional<X11WindowDescription>> describe(
     X11Connection& connection, const std::vector<xcb_window_t>& windows)
 {
-    std::vector<DescriptionRequest> requests;
-    requests.reserve(windows.size());
-    for (const auto window : windows)
-        requests.emplace_back(connection, window);
-    std::vector<std::optional<X11WindowDescription>> descriptions;
-    descriptions.reserve(windows.size());
-    for (auto& request : requests)
-        descriptions.push_back(description(request));
-    return descriptions;
+    return described(connection, windows, Nameless::isAsked);
+}
+
+std::vector<std::optional<X11WindowDescription>> claimsOf(
+    X11Connection& connection, const std::vector<xcb_window_t>& windows)
+{
+    return described(connection, windows, Nameless::isUnknown);
 }
 
 std::string windowTitle(X11Connection& connection, xcb_window_t window)

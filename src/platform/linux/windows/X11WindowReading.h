@@ -15,8 +15,11 @@ struct X11WindowDescription {
     /// The two parts of WM_CLASS.
     std::string instance{};
     std::string className{};
-    /// 0 when the window names none that can be one of this machine.
+    /// 0 when the window names none that can be one of this machine. That of a window without class
+    /// and process is the one of which the server knows.
     std::int64_t processIdentifier = 0;
+    /// The window itself when there is neither class nor process; 0 otherwise.
+    xcb_window_t nameless = 0;
 
     bool operator==(const X11WindowDescription&) const = default;
     auto operator<=>(const X11WindowDescription&) const = default;
@@ -28,9 +31,14 @@ xcb_window_t activeWindow(X11Connection& connection);
 /// The windows that the window manager manages, oldest first.
 std::vector<xcb_window_t> managedWindows(X11Connection& connection);
 
-/// The descriptions of the windows, in their order, at the price of one round trip for all; nothing
-/// for a window that has gone.
+/// The descriptions of the windows, in their order, at the price of one round trip for all and one
+/// more for each without class and process; nothing for a window that has gone.
 std::vector<std::optional<X11WindowDescription>> describe(
+    X11Connection& connection, const std::vector<xcb_window_t>& windows);
+
+/// Only what the windows say themselves, at the price of one round trip for all: a frame that a
+/// window manager has put around a window says nothing.
+std::vector<std::optional<X11WindowDescription>> claimsOf(
     X11Connection& connection, const std::vector<xcb_window_t>& windows);
 
 /// The title of the window; empty when it has none or has gone.

@@ -87,6 +87,26 @@ TEST_F(X11RunningApplicationsTest, doesNotBelieveThatAClosedWindowIsActive)
     EXPECT_TRUE(loopUntil([&] { return !applications.frontmost(); }));
 }
 
+TEST_F(X11RunningApplicationsTest, takesEachWindowOfWhichNothingIsKnownForAnApplicationOfItsOwn)
+{
+    ApplicationWindow one(server, {});
+    ApplicationWindow other(server, {});
+    for (auto* window : {&one, &other})
+        window->setText("WM_CLIENT_MACHINE", "STRING", "elsewhere");
+
+    for (const auto* window : {&one, &other, &one}) {
+        announceActive(window->id());
+        loopUntil([&] { return activeWindow.window() == window->id(); });
+    }
+
+    ASSERT_EQ(notified.size(), 3u);
+    EXPECT_TRUE(notified[0].value_or("").starts_with("unnamed:"));
+    EXPECT_NE(notified[0], notified[1]);
+    EXPECT_EQ(notified[0], notified[2]);
+    const X11RunningApplications ofAnotherTime(connection, activeWindow, entries);
+    EXPECT_NE(ofAnotherTime.frontmost()->bundleIdentifier, notified[0]);
+}
+
 TEST_F(X11RunningApplicationsTest, survivesWindowsThatVanish)
 {
     announceActive(0x7f00001);
@@ -128,14 +148,6 @@ TEST_F(X11RunningApplicationsTest, namesAWindowWithoutAClassByItsProgram)
     const ApplicationWindow window(server, {.process = process()});
     announceActive(window.id());
     EXPECT_TRUE(reaches("exe:sleep"));
-}
-
-TEST_F(X11RunningApplicationsTest, knowsAWindowThatSaysNothingOnlyAsOne)
-{
-    const ApplicationWindow window(server, {});
-    announceActive(window.id());
-    ASSERT_TRUE(loopUntil([&] { return applications.frontmost().has_value(); }));
-    EXPECT_EQ(applications.frontmost(), RunningApplication());
 }
 
 TEST_F(X11RunningApplicationsTest, doesNotTakeAProcessOfAnotherMachineForOneOfThis)

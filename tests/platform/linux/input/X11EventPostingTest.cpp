@@ -184,7 +184,6 @@ TEST_F(X11EventPostingContract, turnsPixelsIntoNotches)
 
 TEST_F(X11EventPostingContract, turnsTheNotchesOfAnAnnouncedScroll)
 {
-    using Lines = std::vector<std::string>;
     const Lines first{"key 64 down", "press 4 (alt)", "release 4 (alt)", "key 64 up (alt)"};
     desktop_.posting.announceScroll(eventFlag::option, {.vertical = 30, .horizontal = 0});
     EXPECT_TRUE(desktop_.receives(first));

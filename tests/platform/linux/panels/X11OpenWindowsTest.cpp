@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <memory>
 
 namespace brindlex {
@@ -63,11 +64,12 @@ TEST_F(X11OpenWindowsTest, leavesOutWhatWantsToBeInNoTaskBar)
     EXPECT_EQ(listed(), (std::vector<OpenWindow>{{window.window(), "Letter", "Editor"}}));
 }
 
-TEST_F(X11OpenWindowsTest, namesAWindowThatSaysNothingOfItself)
+TEST_F(X11OpenWindowsTest, namesAWindowThatSaysNothingOfItselfByItsProgram)
 {
     const PlainWindow window(server, {});
+    const auto program = std::filesystem::read_symlink("/proc/self/exe").filename().string();
 
-    EXPECT_EQ(listed(), (std::vector<OpenWindow>{{window.window(), "", ""}}));
+    EXPECT_EQ(listed(), (std::vector<OpenWindow>{{window.window(), "", program}}));
 }
 
 TEST_F(X11OpenWindowsTest, namesTwoHundred)
