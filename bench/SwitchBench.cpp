@@ -68,6 +68,7 @@ SwitchEnvironment environment(const std::string& frontmost)
             },
         .currentBrowserHost = [](const std::optional<std::string>&) { return std::nullopt; },
         .systemTime = [] { return now; },
+        .whyUndone = [] { return std::string(); },
     };
 }
 

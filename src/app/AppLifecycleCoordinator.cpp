@@ -79,6 +79,7 @@ void AppLifecycleCoordinator::startInputSwitching()
     switching.onSwitch = [this](const std::string& label) {
         shared_.overlayHUDController().show(label, overlayDuration);
     };
+    switching.onSwitchUndone = [this] { shared_.overlayHUDController().hide(); };
     switching.dispatch(SwitchEvent::Start{});
 }
 

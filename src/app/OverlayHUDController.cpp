@@ -14,4 +14,10 @@ void OverlayHUDController::show(const std::string& text, Seconds duration)
     hideWorkItem_ = mainThread_.after(duration, [this] { panel_.fadeOut(); });
 }
 
+void OverlayHUDController::hide()
+{
+    hideWorkItem_.reset();
+    panel_.fadeOut();
+}
+
 } // namespace brindlex

@@ -20,6 +20,9 @@ public:
     /// Shows the text now and lets it fade out after `duration`.
     void show(const std::string& text, Seconds duration);
 
+    /// Lets what is shown fade out now.
+    void hide();
+
 private:
     OverlayPanel& panel_;
     MainThread& mainThread_;

@@ -1,6 +1,7 @@
 #include "inputmethod/InputMethodSwitchCoordinator.h"
 
 #include "applications/AppIdentifierLoader.h"
+#include "foundation/FatalError.h"
 #include "inputmethod/BrowserURLProvider.h"
 #include "inputmethod/SwitchReducer.h"
 #include "inputmethod/TextInputSourceService.h"
@@ -10,6 +11,19 @@ namespace brindlex {
 namespace {
 
 constexpr Seconds browserPollInterval = 0.8;
+
+SwitchEvent::Any eventOf(SelectionCause cause)
+{
+    switch (cause) {
+    case SelectionCause::choice:
+        return SwitchEvent::InputSourceChanged{};
+    case SelectionCause::place:
+        return SwitchEvent::PlaceChangedInputSource{};
+    case SelectionCause::undoing:
+        return SwitchEvent::SelectionUndone{};
+    }
+    fatalError("A change of the input source without a cause");
+}
 
 AppIdentifier identifierOf(const RunningApplication& application, const std::string& bundleID,
     const SwitchAbilities& abilities)
@@ -80,7 +94,11 @@ void InputMethodSwitchCoordinator::carryOut(const SwitchEffect::Any& effect)
         [this](const SwitchEffect::InstallObservers&) { installObservers(); },
         [this](const SwitchEffect::RemoveObservers&) { removeObservers(); },
         [this](const SwitchEffect::StartBrowserPolling&) { startBrowserPolling(); },
-        [this](const SwitchEffect::StopBrowserPolling&) { stopBrowserPolling(); });
+        [this](const SwitchEffect::StopBrowserPolling&) { stopBrowserPolling(); },
+        [this](const SwitchEffect::WithdrawHUD&) {
+            if (onSwitchUndone)
+                onSwitchUndone();
+        });
 }
 
 void InputMethodSwitchCoordinator::installObservers()
@@ -93,11 +111,11 @@ void InputMethodSwitchCoordinator::installObservers()
             });
     if (!inputSourceChangeToken_.isActive())
         inputSourceChangeToken_ = abilities_.inputSources.observeSelectionChanges(
-            [this] { dispatch(SwitchEvent::InputSourceChanged{}); });
+            [this](SelectionCause cause) { dispatch(eventOf(cause)); });
     // An input method that starts later than the application in front may be what its rule is for.
     if (!enabledSourcesToken_.isActive())
         enabledSourcesToken_ = abilities_.inputSources.observeEnabledSourcesChanges(
-            [this] { dispatch(SwitchEvent::Start{}); });
+            [this] { dispatch(SwitchEvent::EnabledSourcesChanged{}); });
 }
 
 void InputMethodSwitchCoordinator::removeObservers()
@@ -156,6 +174,7 @@ SwitchEnvironment InputMethodSwitchCoordinator::environment()
     environment.currentBrowserHost
         = [this](const std::optional<std::string>& bundleID) { return browserHost(bundleID); };
     environment.systemTime = [this] { return abilities_.clock.now(); };
+    environment.whyUndone = [this] { return abilities_.inputSources.whyUndone(); };
     return environment;
 }
 

@@ -50,6 +50,9 @@ public:
     /// Called with the label to show when a switch has happened.
     std::function<void(const std::string& label)> onSwitch;
 
+    /// Called when a switch that was shown turns out not to hold.
+    std::function<void()> onSwitchUndone;
+
     /// Handles the event, or queues it while another one is being handled; events raised by effects
     /// or by subscribers of the stores so stay in order.
     void dispatch(const SwitchEvent::Any& event);

@@ -19,6 +19,10 @@ struct SwitchEffect {
         std::string target{};
         bool operator==(const LogWarning&) const = default;
     };
+    /// Take the overlay back: what it says does not hold.
+    struct WithdrawHUD {
+        bool operator==(const WithdrawHUD&) const = default;
+    };
     struct InstallObservers {
         bool operator==(const InstallObservers&) const = default;
     };
@@ -33,7 +37,7 @@ struct SwitchEffect {
     };
 
     using Any = Cases<FireHUD, LogWarning, InstallObservers, RemoveObservers, StartBrowserPolling,
-        StopBrowserPolling>;
+        StopBrowserPolling, WithdrawHUD>;
 };
 
 } // namespace brindlex

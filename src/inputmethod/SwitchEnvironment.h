@@ -28,6 +28,8 @@ struct SwitchEnvironment {
         currentBrowserHost{};
     /// The time by which learned data is dated and ages: the system clock, whatever `now` is.
     std::function<Date()> systemTime{};
+    /// Why selections are undone here, and what helps; empty when nothing is known.
+    std::function<std::string()> whyUndone{};
 };
 
 } // namespace brindlex

@@ -31,13 +31,26 @@ struct SwitchEvent {
     struct DomainRulesEnabledChanged {
         bool operator==(const DomainRulesEnabledChanged&) const = default;
     };
-    /// The selected input source changed, whoever changed it.
+    /// The selected input source changed, by a person or by this program.
     struct InputSourceChanged {
         bool operator==(const InputSourceChanged&) const = default;
     };
+    /// The place that was reached brought an input source of its own, which nobody chose.
+    struct PlaceChangedInputSource {
+        bool operator==(const PlaceChangedInputSource&) const = default;
+    };
+    /// The desktop did not let the last selection stand.
+    struct SelectionUndone {
+        bool operator==(const SelectionUndone&) const = default;
+    };
+    /// Other input sources can be selected now.
+    struct EnabledSourcesChanged {
+        bool operator==(const EnabledSourcesChanged&) const = default;
+    };
 
     using Any = Cases<AppActivated, BrowserContextTick, Start, Stop, ConfigEnabledChanged,
-        DomainRulesEnabledChanged, InputSourceChanged>;
+        DomainRulesEnabledChanged, InputSourceChanged, PlaceChangedInputSource, SelectionUndone,
+        EnabledSourcesChanged>;
 };
 
 } // namespace brindlex

@@ -1,7 +1,6 @@
 #include "inputmethod/SwitchReducer.h"
 
-#include "inputmethod/SwitchDecision.h"
-#include "inputmethod/TruncatedHUDLabel.h"
+#include "inputmethod/SwitchAttempt.h"
 #include "platform/InputSourceIdentifiers.h"
 
 #include <utility>
@@ -11,8 +10,6 @@ namespace {
 
 using Effects = std::vector<SwitchEffect::Any>;
 using Lifecycle = SwitchState::Lifecycle;
-
-constexpr Seconds echoTime = 1.0;
 
 /// One step of the machine: a function for each event, and the switch attempt that they share.
 class Step {
@@ -33,14 +30,9 @@ public:
             stopPolling();
             return;
         }
+        beginVisit();
         beginLearning(bundleID);
-        if (config_.domainRulesEnabled && environment_.isSupportedBrowser(bundleID)) {
-            startPolling();
-            browserContextTick(bundleID ? environment_.currentBrowserHost(bundleID) : std::nullopt);
-        } else {
-            stopPolling();
-            attemptSwitch(bundleID, std::nullopt, true);
-        }
+        applyRules(bundleID);
     }
 
     /// While the page of a browser is not known, no rule speaks, not even one for the browser: it
@@ -91,12 +83,106 @@ public:
             if (state_.learning)
                 state_.learning->lastObservedInputSourceID = current;
         } else {
+            state_.standing.isChosenHere = true;
+            state_.standing.isChosenSinceSwitch = true;
             learn(*current);
         }
         state_.lastInputSourceID = current;
     }
 
+    /// What the place brought is where learning goes on from. The rules get their say, unless a
+    /// person has chosen in this place, or has chosen what has come back.
+    void placeChangedInputSource()
+    {
+        if (!observeAnew())
+            return;
+        if (!state_.standing.isChosenSinceSwitch)
+            forgetSwitch();
+        if (!state_.standing.isChosenHere)
+            applyRules(state_.frontmostBundleID);
+    }
+
+    /// The rules are applied once more. What is undone twice is left so until the next activation:
+    /// the memory of the switch keeps looks at the browser's page from trying it again.
+    void selectionUndone()
+    {
+        if (!observeAnew() || state_.standing.isChosenHere)
+            return;
+        if (++state_.standing.timesUndone == 1) {
+            forgetSwitch();
+            applyRules(state_.frontmostBundleID);
+        } else {
+            giveUp();
+        }
+    }
+
+    void enabledSourcesChanged()
+    {
+        if (!config_.enabled)
+            return;
+        if (state_.standing.isChosenHere) {
+            observeAnew();
+            return;
+        }
+        state_.lastInputSourceID = environment_.currentInputSourceID();
+        appActivated(environment_.currentFrontmostBundleID());
+    }
+
 private:
+    void beginVisit()
+    {
+        auto& standing = state_.standing;
+        if (standing.timesUndone > 0 && !standing.isChosenSinceSwitch)
+            forgetSwitch();
+        standing.timesUndone = 0;
+        standing.isChosenHere = false;
+    }
+
+    void applyRules(const std::optional<std::string>& bundleID)
+    {
+        if (config_.domainRulesEnabled && environment_.isSupportedBrowser(bundleID)) {
+            startPolling();
+            browserContextTick(bundleID ? environment_.currentBrowserHost(bundleID) : std::nullopt);
+        } else {
+            stopPolling();
+            attemptSwitch(bundleID, std::nullopt, true);
+        }
+    }
+
+    /// Takes what is selected for what has been so all along; whether that is anything.
+    bool observeAnew()
+    {
+        const auto current = config_.enabled ? environment_.currentInputSourceID() : std::nullopt;
+        if (!current)
+            return false;
+        state_.ignoreWindow = {};
+        if (state_.learning)
+            state_.learning->lastObservedInputSourceID = current;
+        state_.lastInputSourceID = current;
+        return true;
+    }
+
+    void forgetSwitch()
+    {
+        state_.override.lastAutomaticContext.reset();
+        state_.override.lastAutomaticInputSourceID.reset();
+    }
+
+    void giveUp()
+    {
+        const auto lost = state_.override.lastAutomaticInputSourceID;
+        if (!lost)
+            return;
+        if (config_.showHUD)
+            effects.emplace_back(SwitchEffect::WithdrawHUD{});
+        if (std::exchange(state_.standing.isUndoingReported, true))
+            return;
+        const auto reason = environment_.whyUndone();
+        effects.emplace_back(SwitchEffect::LogWarning{
+            "The desktop undoes the selection of " + *lost + (reason.empty() ? "" : ": " + reason),
+            "input-method"});
+    }
+
     void startPolling()
     {
         if (state_.lifecycle == Lifecycle::observingWithBrowserPolling)
@@ -154,50 +240,10 @@ private:
     void attemptSwitch(const std::optional<std::string>& bundleID,
         const std::optional<std::string>& host, bool allowsAppRules)
     {
-        const auto current = environment_.currentInputSourceID();
-        const auto decision = resolveSwitchDecision(bundleID, host, current, config_, &smartConfig_,
-            allowsAppRules, environment_.systemTime());
-        if (!decision)
-            return;
-        const auto context = autoSwitchContext(*decision);
-        noteVisit(context);
-        if (isOverridden(context, *decision, current))
-            return;
-        // The notification of the change may arrive at any time from the selection on.
-        state_.ignoreWindow = {decision->inputSourceID, environment_.now() + echoTime};
-        if (!environment_.selectInputSource(decision->inputSourceID)) {
-            state_.ignoreWindow = {};
-            effects.emplace_back(failureWarning(*decision));
-            return;
-        }
-        state_.override = {context, context, decision->inputSourceID};
-        if (config_.showHUD)
-            effects.emplace_back(SwitchEffect::FireHUD{truncatedHUDLabel(
-                environment_.currentInputSourceLocalizedName().value_or(decision->inputSourceID))});
-    }
-
-    void noteVisit(const InputMethodAutoSwitchContext::Any& context)
-    {
-        if (state_.override.lastVisitedContext == context)
-            return;
-        state_.override = {context, std::nullopt, std::nullopt};
-    }
-
-    /// Whether the program has moved this place to the decided source before: as another one is
-    /// selected now, the user has changed it since.
-    bool isOverridden(const InputMethodAutoSwitchContext::Any& context,
-        const InputMethodSwitchDecision& decision, const std::optional<std::string>& current) const
-    {
-        return state_.override.lastAutomaticContext == context
-            && state_.override.lastAutomaticInputSourceID == decision.inputSourceID && current
-            && !isSameSource(*current, decision.inputSourceID);
-    }
-
-    static SwitchEffect::LogWarning failureWarning(const InputMethodSwitchDecision& decision)
-    {
-        const auto place
-            = decision.matchedDomainSuffix.value_or(decision.bundleID.value_or("unknown"));
-        return {"Failed to select " + decision.inputSourceID + " for " + place, "input-method"};
+        const auto effect = brindlex::attemptSwitch(
+            {bundleID, host, allowsAppRules}, state_, smartConfig_, config_, environment_);
+        if (effect)
+            effects.push_back(*effect);
     }
 
     SwitchState& state_;
@@ -221,7 +267,10 @@ std::vector<SwitchEffect::Any> reduce(const SwitchEvent::Any& event, SwitchState
         [&](const SwitchEvent::Stop&) { step.stop(); },
         [&](const SwitchEvent::ConfigEnabledChanged&) { step.start(); },
         [&](const SwitchEvent::DomainRulesEnabledChanged&) { step.domainRulesEnabledChanged(); },
-        [&](const SwitchEvent::InputSourceChanged&) { step.inputSourceChanged(); });
+        [&](const SwitchEvent::InputSourceChanged&) { step.inputSourceChanged(); },
+        [&](const SwitchEvent::PlaceChangedInputSource&) { step.placeChangedInputSource(); },
+        [&](const SwitchEvent::SelectionUndone&) { step.selectionUndone(); },
+        [&](const SwitchEvent::EnabledSourcesChanged&) { step.enabledSourcesChanged(); });
     return std::move(step.effects);
 }
 

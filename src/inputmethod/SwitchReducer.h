@@ -25,6 +25,11 @@ namespace brindlex {
 /// alone until another place had an automatic switch. A change of the source that is not the echo
 /// of an own selection, one second long, is the user's, and is learned from.
 ///
+/// What the desktop changes by itself is not the user's: it is neither learned from nor does it
+/// keep rules from applying. Rules apply to it as to an activation, unless the user has chosen in
+/// the application since it came to the front. A selection that the desktop undoes is made once
+/// more; undone again, it is let be until the next activation, and the overlay is taken back.
+///
 /// Changes `state` and, for a manual change, `smartConfig`; selects at most one source, through the
 /// environment. The effects are to be carried out in the order of the list: first those on
 /// observers and polling, last the overlay or the warning. Events come one at a time.

@@ -38,6 +38,20 @@ struct SwitchState {
         bool operator==(const LearningSession&) const = default;
     };
 
+    /// Who has had a hand in the selected source, as far as rules depend on it.
+    struct Standing {
+        /// A person has chosen since the last activation.
+        bool isChosenHere = false;
+        /// A person has chosen since the last automatic switch.
+        bool isChosenSinceSwitch = false;
+        /// How often the desktop has undone a selection since the last activation.
+        int timesUndone = 0;
+        /// The log has said that selections are undone.
+        bool isUndoingReported = false;
+
+        bool operator==(const Standing&) const = default;
+    };
+
     Lifecycle lifecycle = Lifecycle::stopped;
     /// The application last reported as active.
     std::optional<std::string> frontmostBundleID{};
@@ -46,6 +60,7 @@ struct SwitchState {
     IgnoreWindow ignoreWindow{};
     InputMethodAutoSwitchOverrideState override{};
     std::optional<LearningSession> learning{};
+    Standing standing{};
 
     bool operator==(const SwitchState&) const = default;
 };

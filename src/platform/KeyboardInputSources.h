@@ -34,6 +34,17 @@ struct InputSourceFilter {
     bool operator==(const InputSourceFilter&) const = default;
 };
 
+/// Whose doing a change of the selected source was.
+enum class SelectionCause {
+    /// A person's, or this program's own.
+    choice,
+    /// Nobody's: a window or a field that keeps a source of its own has got the keyboard, or the
+    /// sources have become others.
+    place,
+    /// The system's, which did not let a selection of this program stand.
+    undoing,
+};
+
 /// The keyboard input sources of the system. Main thread only; no call waits for another program
 /// longer than 100 ms.
 class KeyboardInputSources {
@@ -48,17 +59,24 @@ public:
     virtual std::optional<std::vector<InputSourceProperties>> list(const InputSourceFilter& filter)
         = 0;
 
+    using SelectionHandler = std::function<void(SelectionCause cause)>;
+
     /// Selects a source that `list` gave. 0 on success, the system's status otherwise.
     virtual int select(const InputSourceProperties& source) = 0;
 
     /// Notifies the observer, never from inside `select`, that the selected source has changed,
-    /// whoever changed it.
-    virtual Subscription observeSelectionChanges(std::function<void()> handler) = 0;
+    /// whoever changed it. A selection of this program that is undone before anybody was notified
+    /// of it is notified as undone alone.
+    virtual Subscription observeSelectionChanges(SelectionHandler handler) = 0;
 
     /// Notifies the observer that other sources can be selected now: one was added or removed, or
     /// an input method has started or ended. Comes before the notification of a selection that
     /// came of it.
     virtual Subscription observeEnabledSourcesChanges(std::function<void()> handler) = 0;
+
+    /// What is likely to undo the selections of this program and what helps against it, as a
+    /// sentence for the log; empty when nothing is known.
+    virtual std::string whyUndone() = 0;
 };
 
 } // namespace brindlex

@@ -37,6 +37,20 @@ TEST_F(AppLifecycleCoordinatorInputSwitching, beginsWithAStartThatShowsItsSwitch
     EXPECT_EQ(computer.overlayPanel.calls(), std::vector<std::string>{"show German"});
 }
 
+TEST_F(AppLifecycleCoordinatorInputSwitching, takesTheLabelOfASwitchBackThatDoesNotHold)
+{
+    lifecycle.start();
+    computer.applications.bringToFront({ProcessIdentity{1}, "editor", {}, "Editor"});
+    computer.mainThread.runUntilIdle();
+    for (int time = 0; time < 2; ++time) {
+        computer.inputSources.undoWith(us);
+        computer.mainThread.runUntilIdle();
+    }
+
+    EXPECT_EQ(computer.overlayPanel.calls(),
+        (std::vector<std::string>{"show German", "show German", "fadeOut"}));
+}
+
 TEST_F(AppLifecycleCoordinatorInputSwitching, switchesInSilenceWhereTheFirstLookFindsTheRule)
 {
     computer.applications.bringToFront({ProcessIdentity{1}, "editor", {}, "Editor"});

@@ -45,6 +45,15 @@ TEST_F(OverlayHUDControllerTest, fadesOutAfterTheDurationAndNotBefore)
     EXPECT_EQ(panel.text(), std::nullopt);
 }
 
+TEST_F(OverlayHUDControllerTest, hidesBeforeItsTimeWhenItIsTakenBack)
+{
+    controller.show("U.S.", 0.8);
+    controller.hide();
+    EXPECT_EQ(panel.calls(), (Calls{"show U.S.", "fadeOut"}));
+    mainThread.advance(10);
+    EXPECT_EQ(panel.calls(), (Calls{"show U.S.", "fadeOut"})) << "only once";
+}
+
 TEST_F(OverlayHUDControllerTest, replacesTheTextAndStartsItsTimeAgain)
 {
     controller.show("U.S.", 0.8);

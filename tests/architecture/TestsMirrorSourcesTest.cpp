@@ -35,6 +35,7 @@ const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheir
     {"DBusNotificationsTest and DBusProgramInstancesTest, on a real bus",
         {"DBusReply", "DBusSignal", "SessionBus"}},
     {"PreferenceFileTest", {"FolderLock"}},
+    {"SwitchReducerSelectionTest and its neighbours", {"SwitchAttempt"}},
     {"UserDefaultPreferenceKeysTest and the tests of the stores",
         {"InputMethodPreferenceKeys", "MousePreferenceKeys"}},
     {"AppLifecycleCoordinatorTest", {"SharedInstances"}},

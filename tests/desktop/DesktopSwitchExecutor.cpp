@@ -17,6 +17,7 @@ using namespace std::chrono_literals;
 using Step = SwitchScenarioStep;
 
 constexpr auto timeAtRest = 60ms;
+constexpr auto reactionTime = 300ms;
 
 /// The layout in an identifier such as `xkb:de::deu`.
 std::string layoutOf(const std::string& inputSourceID)
@@ -102,12 +103,22 @@ void DesktopSwitchExecutor::carryOut(const SwitchScenarioStep::Any& step)
         [&](const Step::Activate& activation) { activate(activation.bundleID.value_or("")); },
         [&](const Step::UserSelects& selection) {
             group_ = groupOf(selection.inputSourceID.value_or(""));
-            selectKeyboardGroup(desk_->server, group_);
+            chooseKeyboardGroup(desk_->server, group_);
         },
+        [&](const Step::PlaceBrings& place) { selectWithoutHand(place.inputSourceID); },
+        [&](const Step::DesktopUndoes& undoing) { selectWithoutHand(undoing.inputSourceID); },
         [&](const Step::Set& change) { set(change.setting); },
         [&](const Step::ShowPage&) { refuse(); }, [&](const Step::Tick&) { refuse(); },
         [&](const Step::SourceChanged&) { refuse(); }, [&](const Step::Refuse&) { refuse(); },
         [&](const Step::Accept&) { refuse(); });
+}
+
+void DesktopSwitchExecutor::selectWithoutHand(const std::string& inputSourceID)
+{
+    group_ = groupOf(inputSourceID);
+    selectKeyboardGroup(desk_->server, group_);
+    // The program sleeps until the desktop has come to rest, too.
+    eventually([&] { return keyboardGroup(desk_->server) != group_; }, reactionTime);
 }
 
 void DesktopSwitchExecutor::start()

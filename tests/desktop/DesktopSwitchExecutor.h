@@ -36,6 +36,7 @@ private:
 
     void waitFor(Seconds time);
     void carryOut(const SwitchScenarioStep::Any& step);
+    void selectWithoutHand(const std::string& inputSourceID);
     void start();
     void activate(const std::string& application);
     void set(ScenarioWords setting);

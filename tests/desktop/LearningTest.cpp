@@ -1,3 +1,4 @@
+#include "desktop/LearnedSamples.h"
 #include "desktop/ProgramDesk.h"
 
 #include <gtest/gtest.h>
@@ -5,32 +6,16 @@
 namespace brindlex {
 namespace {
 
-using nlohmann::json;
 using namespace std::chrono_literals;
-
-/// The sources that were learned for an application, oldest first.
-std::vector<std::string> samples(const ProgramFiles& files, const std::string& application)
-{
-    std::vector<std::string> sources;
-    const auto record = files.readRecord("smartInputMethodConfig");
-    if (!record.is_object())
-        return sources;
-    for (const auto& statistics : record.value("appStats", json::array()))
-        if (statistics["app"]["bundleID"] == application)
-            for (const auto& sample : statistics["samples"])
-                sources.push_back(sample["inputSourceID"]);
-    return sources;
-}
 
 /// Changes the layout in the application in front as a user does, and waits until that is learned.
 testing::AssertionResult teaches(
     const ProgramDesk& desk, const std::string& className, int group, std::size_t sample)
 {
-    selectKeyboardGroup(desk.server, group);
-    const auto application = identifierOf(className);
-    if (eventually([&] { return samples(desk.files, application).size() == sample; }))
+    chooseKeyboardGroup(desk.server, group);
+    if (eventually([&] { return samples(desk.files, className).size() == sample; }))
         return testing::AssertionSuccess();
-    return testing::AssertionFailure() << samples(desk.files, application).size() << " samples";
+    return testing::AssertionFailure() << samples(desk.files, className).size() << " samples";
 }
 
 TEST(Learning, actsAfterTenEqualChoices)
@@ -57,7 +42,7 @@ TEST(Learning, actsAfterTenEqualChoices)
     EXPECT_TRUE(desk.usesGroup(germanGroup)) << program.report();
     desk.input.type("z");
     EXPECT_TRUE(alpha.receives("y")) << alpha.text();
-    EXPECT_EQ(samples(desk.files, identifierOf("Alpha")).size(), 10u);
+    EXPECT_EQ(samples(desk.files, "Alpha").size(), 10u);
 }
 
 TEST(Learning, doesNotTakeItsOwnChangesForTheUsers)
@@ -77,8 +62,8 @@ TEST(Learning, doesNotTakeItsOwnChangesForTheUsers)
     }
 
     EXPECT_TRUE(throughout(300ms, [&] {
-        return samples(desk.files, identifierOf("Alpha")).empty()
-            && samples(desk.files, identifierOf("Beta")).empty();
+        return samples(desk.files, "Alpha").empty()
+            && samples(desk.files, "Beta").empty();
     }));
 }
 
@@ -95,14 +80,14 @@ TEST(Learning, outlivesBeingKilled)
         ASSERT_TRUE(program.launches()) << program.report();
         ASSERT_TRUE(teaches(desk, "Alpha", 1 + round % 2, ++learned)) << program.report();
         // The next choice may be lost; the file and what it holds may not.
-        selectKeyboardGroup(desk.server, usGroup);
+        chooseKeyboardGroup(desk.server, usGroup);
         throughout(std::chrono::milliseconds{round}, [] { return true; });
         program.kill();
-        const auto kept = samples(desk.files, identifierOf("Alpha")).size();
+        const auto kept = samples(desk.files, "Alpha").size();
         ASSERT_GE(kept, learned) << contentOf(desk.files.preferences());
         ASSERT_LE(kept, learned + 1);
         learned = kept;
-        selectKeyboardGroup(desk.server, usGroup);
+        chooseKeyboardGroup(desk.server, usGroup);
     }
 }
 
@@ -115,11 +100,11 @@ TEST(LearningInTime, isOnDiskWithinATenthOfASecond)
     RunningProgram program(desk.desktop);
     ASSERT_TRUE(program.launches()) << program.report();
 
-    selectKeyboardGroup(desk.server, germanGroup);
+    chooseKeyboardGroup(desk.server, germanGroup);
     eventually([] { return false; }, 100ms);
     program.kill();
 
-    EXPECT_EQ(samples(desk.files, identifierOf("Alpha")), std::vector<std::string>{german})
+    EXPECT_EQ(samples(desk.files, "Alpha"), std::vector<std::string>{german})
         << program.report();
 }
 

@@ -59,7 +59,7 @@ TEST(Switching, letsTheUsersChoiceStandUntilTheContextChanges)
     ASSERT_TRUE(desk.windows.activate(alpha.window()));
     ASSERT_TRUE(desk.usesGroup(germanGroup)) << program.report();
 
-    selectKeyboardGroup(desk.server, usGroup);
+    chooseKeyboardGroup(desk.server, usGroup);
     EXPECT_TRUE(desk.keepsGroup(usGroup));
     ASSERT_TRUE(desk.windows.activate(gamma.window()));
     ASSERT_TRUE(desk.keepsGroup(usGroup));

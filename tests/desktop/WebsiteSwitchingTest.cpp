@@ -49,7 +49,7 @@ TEST(WebsiteSwitching, letsTheUsersChoiceStandOnOneSite)
     ChromiumBrowser browser(desk.desktop, desk.windows, web, "www.example.org");
     ASSERT_TRUE(desk.usesGroup(russianGroup)) << program.report();
 
-    selectKeyboardGroup(desk.server, usGroup);
+    chooseKeyboardGroup(desk.server, usGroup);
     ASSERT_TRUE(browser.open("deep.example.org"));
 
     // Longer than it takes to ask the browser for its page again.

@@ -48,6 +48,20 @@ TEST_F(InputMethodSwitchCoordinatorSources, leavesTheUsersChoiceAlone)
     EXPECT_EQ(stats()[0].samples.size(), 1u);
 }
 
+TEST_F(InputMethodSwitchCoordinatorSources, leavesTheUsersChoiceWhereNoRuleHadToActAlone)
+{
+    inputMethodStarts();
+    computer.inputSources.userSelects(pinyin);
+    start();
+    computer.inputSources.userSelects(german);
+    computer.mainThread.runUntilIdle();
+
+    computer.inputSources.install(SimulatedInputSources::keyboard("xkb:ru::rus", "Russian"));
+    computer.mainThread.runUntilIdle();
+
+    EXPECT_EQ(selected(), german);
+}
+
 TEST_F(InputMethodSwitchCoordinatorSources, learnsNothingFromAnInputMethodThatEnds)
 {
     inputMethodStarts();

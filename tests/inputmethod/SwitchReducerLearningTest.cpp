@@ -269,7 +269,7 @@ TEST_F(SwitchReducer, notesTheSourceThatItFindsAtAnActivation)
     EXPECT_EQ(state.learning->lastObservedInputSourceID, french);
 }
 
-TEST_F(SwitchReducer, changesNothingOnAChangeButWhatItLearned)
+TEST_F(SwitchReducer, changesNothingOnAChangeButWhatItLearnedAndThatItWasAChoice)
 {
     begin();
     activate(mail);
@@ -277,6 +277,8 @@ TEST_F(SwitchReducer, changesNothingOnAChangeButWhatItLearned)
     userSelects(german);
     expected.lastInputSourceID = german;
     expected.learning->lastObservedInputSourceID = german;
+    expected.standing.isChosenHere = true;
+    expected.standing.isChosenSinceSwitch = true;
     EXPECT_EQ(state, expected);
 }
 

@@ -19,6 +19,14 @@ std::ptrdiff_t count(const Effects& effects)
         [](const auto& effect) { return std::holds_alternative<Effect>(effect); });
 }
 
+/// Whether it is an event of the desktop, which may find nothing to do and leave all as it is.
+bool isOfTheDesktop(const SwitchEvent::Any& event)
+{
+    return std::holds_alternative<SwitchEvent::PlaceChangedInputSource>(event)
+        || std::holds_alternative<SwitchEvent::SelectionUndone>(event)
+        || std::holds_alternative<SwitchEvent::EnabledSourcesChanged>(event);
+}
+
 /// At most one selection, never of the source that is selected, and reported exactly once.
 void checkSelections(const SwitchStep& step)
 {
@@ -26,7 +34,9 @@ void checkSelections(const SwitchStep& step)
     const auto warnings = count<SwitchEffect::LogWarning>(step.effects);
     ASSERT_LE(step.computer.selections.size(), 1u);
     if (step.computer.selections.empty()) {
-        EXPECT_EQ(hud + warnings, 0);
+        EXPECT_EQ(hud, 0);
+        EXPECT_LE(
+            warnings, std::holds_alternative<SwitchEvent::SelectionUndone>(step.event) ? 1 : 0);
         return;
     }
     const auto& selected = step.computer.selections[0];
@@ -67,7 +77,8 @@ void checkLifecycle(const SwitchStep& step)
             (step.after.lifecycle != Lifecycle::stopped)
                 - (step.before.lifecycle != Lifecycle::stopped));
     }
-    if (polls(step.after.lifecycle) && !changesNothing) {
+    const bool isLeft = changesNothing || (isOfTheDesktop(step.event) && step.effects.empty());
+    if (polls(step.after.lifecycle) && !isLeft) {
         EXPECT_TRUE(step.config.enabled && step.config.domainRulesEnabled);
         EXPECT_EQ(step.after.frontmostBundleID, "browser");
     }
@@ -92,7 +103,8 @@ void checkWindow(const SwitchStep& step)
     } else if (step.before.ignoreWindow.inputSourceID) {
         const bool mayClose = !step.computer.selections.empty()
             || step.after.lifecycle == Lifecycle::stopped
-            || std::holds_alternative<SwitchEvent::InputSourceChanged>(step.event);
+            || std::holds_alternative<SwitchEvent::InputSourceChanged>(step.event)
+            || isOfTheDesktop(step.event);
         EXPECT_TRUE(mayClose);
     }
 }

@@ -115,7 +115,7 @@ private:
     SwitchEvent::Any anyEvent()
     {
         const bool isDeaf = isOrderly_ && state_.lifecycle == Lifecycle::stopped;
-        switch (isDeaf ? 10 + below(3) : below(13)) {
+        switch (isDeaf ? 13 + below(3) : below(16)) {
         case 0:
         case 1:
         case 2:
@@ -131,8 +131,14 @@ private:
         case 9:
             return SwitchEvent::DomainRulesEnabledChanged{};
         case 10:
-            return SwitchEvent::Start{};
+            return SwitchEvent::PlaceChangedInputSource{};
         case 11:
+            return SwitchEvent::SelectionUndone{};
+        case 12:
+            return SwitchEvent::EnabledSourcesChanged{};
+        case 13:
+            return SwitchEvent::Start{};
+        case 14:
             return SwitchEvent::ConfigEnabledChanged{};
         default:
             return SwitchEvent::Stop{};

@@ -34,6 +34,7 @@ public:
 
     KeyboardInputSources& sources() { return sources_; }
     void userSelects(const std::string& id) { sources_.userSelects(id); }
+    void systemUndoesWith(const std::string& id) { sources_.undoWith(id); }
     void run() { mainThread_.runUntilIdle(); }
 
 private:
@@ -49,14 +50,16 @@ public:
     const std::vector<std::string> ids{"xkb:us::eng", "xkb:de::deu", "xkb:ru::rus"};
 
     KeyboardInputSources& sources() { return sources_; }
-    void userSelects(const std::string& id)
-    {
-        selectKeyboardGroup(
-            server_, static_cast<int>(std::find(ids.begin(), ids.end(), id) - ids.begin()));
-    }
+    void userSelects(const std::string& id) { chooseKeyboardGroup(server_, groupOf(id)); }
+    void systemUndoesWith(const std::string& id) { selectKeyboardGroup(server_, groupOf(id)); }
     void run() { }
 
 private:
+    int groupOf(const std::string& id) const
+    {
+        return static_cast<int>(std::find(ids.begin(), ids.end(), id) - ids.begin());
+    }
+
     VirtualDesktop desktop_{{.keyboardLayouts = "us,de,ru"}};
     XConnection server_;
     SessionBus bus_;
@@ -78,16 +81,16 @@ public:
     }
 
     KeyboardInputSources& sources() { return sources_; }
-    void userSelects(const std::string& id)
-    {
-        const auto engine = id == "ibus:libpinyin" ? "libpinyin"
-            : id == ids[1]                         ? "xkb:de::deu"
-                                                   : id;
-        EXPECT_TRUE(daemon_.select(engine));
-    }
+    void userSelects(const std::string& id) { EXPECT_TRUE(daemon_.select(engineOf(id))); }
+    void systemUndoesWith(const std::string& id) { EXPECT_TRUE(daemon_.change(engineOf(id))); }
     void run() { }
 
 private:
+    static std::string engineOf(const std::string& id)
+    {
+        return id == "ibus:libpinyin" ? "libpinyin" : id;
+    }
+
     VirtualDesktop desktop_;
     IBusDaemon daemon_{desktop_, {"xkb:us::eng", "xkb:de::deu", "libpinyin"}};
     SessionBus bus_;
@@ -109,15 +112,16 @@ public:
     }
 
     KeyboardInputSources& sources() { return sources_; }
-    void userSelects(const std::string& id)
-    {
-        EXPECT_TRUE(daemon_.select(id == "fcitx5:pinyin" ? "pinyin"
-                : id == ids[1]                           ? "keyboard-de"
-                                                         : "keyboard-us"));
-    }
+    void userSelects(const std::string& id) { EXPECT_TRUE(daemon_.select(methodOf(id))); }
+    void systemUndoesWith(const std::string& id) { EXPECT_TRUE(daemon_.change(methodOf(id))); }
     void run() { }
 
 private:
+    std::string methodOf(const std::string& id) const
+    {
+        return id == "fcitx5:pinyin" ? "pinyin" : id == ids[1] ? "keyboard-de" : "keyboard-us";
+    }
+
     VirtualDesktop desktop_;
     FcitxDaemon daemon_{desktop_, {"keyboard-us", "keyboard-de", "pinyin"}};
     XConnection server_;
@@ -135,7 +139,8 @@ protected:
     {
         // Everybody begins with the first source, after the notifications of all that led there.
         std::optional<std::string> seen;
-        const auto subscription = sources().observeSelectionChanges([&] { seen = currentID(); });
+        const auto subscription
+            = sources().observeSelectionChanges([&](SelectionCause) { seen = currentID(); });
         for (const auto& id : {ids()[1], ids()[0]}) {
             desk.userSelects(id);
             EXPECT_TRUE(until([&] { return seen == id; }));
@@ -225,7 +230,7 @@ TYPED_TEST(KeyboardInputSourcesContract, notifiesOfASelectionOnceAndNotFromInsid
 {
     int notified = 0;
     std::optional<std::string> seen;
-    const auto subscription = this->sources().observeSelectionChanges([&] {
+    const auto subscription = this->sources().observeSelectionChanges([&](SelectionCause) {
         ++notified;
         seen = this->currentID();
     });
@@ -242,7 +247,8 @@ TYPED_TEST(KeyboardInputSourcesContract, notifiesOfASelectionOnceAndNotFromInsid
 TYPED_TEST(KeyboardInputSourcesContract, notifiesOnceOfWhatTheUserSelects)
 {
     int notified = 0;
-    const auto subscription = this->sources().observeSelectionChanges([&] { ++notified; });
+    const auto subscription
+        = this->sources().observeSelectionChanges([&](SelectionCause) { ++notified; });
     this->desk.userSelects(this->ids()[2]);
     EXPECT_TRUE(this->until([&] { return notified == 1; }));
     EXPECT_EQ(this->currentID(), this->ids()[2]);
@@ -252,10 +258,35 @@ TYPED_TEST(KeyboardInputSourcesContract, notifiesOnceOfWhatTheUserSelects)
     EXPECT_TRUE(this->throughout(400ms, [&] { return notified == 2; })) << notified;
 }
 
+TYPED_TEST(KeyboardInputSourcesContract, takesASelectionByTheUserForAChoice)
+{
+    std::vector<SelectionCause> causes;
+    const auto subscription = this->sources().observeSelectionChanges(
+        [&](SelectionCause cause) { causes.push_back(cause); });
+    ASSERT_EQ(this->sources().select(this->source(this->ids()[2])), 0);
+    ASSERT_TRUE(this->until([&] { return causes.size() == 1; }));
+    this->desk.userSelects(this->ids()[1]);
+    EXPECT_TRUE(this->until([&] { return causes.size() == 2; }));
+    EXPECT_EQ(causes, (std::vector{SelectionCause::choice, SelectionCause::choice}));
+}
+
+TYPED_TEST(KeyboardInputSourcesContract, seesThatTheSystemUndoesASelection)
+{
+    std::vector<SelectionCause> causes;
+    const auto subscription = this->sources().observeSelectionChanges(
+        [&](SelectionCause cause) { causes.push_back(cause); });
+    ASSERT_EQ(this->sources().select(this->source(this->ids()[2])), 0);
+    this->desk.systemUndoesWith(this->ids()[0]);
+    EXPECT_TRUE(this->until(
+        [&] { return !causes.empty() && causes.back() == SelectionCause::undoing; }));
+    EXPECT_EQ(this->currentID(), this->ids()[0]);
+}
+
 TYPED_TEST(KeyboardInputSourcesContract, doesNotNotifyWhenTheSelectedSourceIsSelected)
 {
     int notified = 0;
-    const auto subscription = this->sources().observeSelectionChanges([&] { ++notified; });
+    const auto subscription
+        = this->sources().observeSelectionChanges([&](SelectionCause) { ++notified; });
     EXPECT_EQ(this->sources().select(this->source(this->ids()[0])), 0);
     EXPECT_TRUE(this->throughout(300ms, [&] { return notified == 0; }));
     EXPECT_EQ(this->currentID(), this->ids()[0]);
@@ -272,7 +303,8 @@ TYPED_TEST(KeyboardInputSourcesContract, refusesASourceThatItDoesNotHave)
 TYPED_TEST(KeyboardInputSourcesContract, notifiesNobodyWhoHasGone)
 {
     int notified = 0;
-    auto subscription = this->sources().observeSelectionChanges([&] { ++notified; });
+    auto subscription
+        = this->sources().observeSelectionChanges([&](SelectionCause) { ++notified; });
     subscription.reset();
     this->desk.userSelects(this->ids()[1]);
     EXPECT_TRUE(this->until([&] { return this->currentID() == this->ids()[1]; }));

@@ -53,11 +53,11 @@ int SimulatedInputSources::select(const InputSourceProperties& source)
     if (!responds_ || !installed || installed->isSelectCapable == false
         || installed->isEnabled == false)
         return invalidSource;
-    become(id);
+    become(id, SelectionCause::choice);
     return 0;
 }
 
-Subscription SimulatedInputSources::observeSelectionChanges(std::function<void()> handler)
+Subscription SimulatedInputSources::observeSelectionChanges(SelectionHandler handler)
 {
     return journal_.addObservation("selection", selectionObservers_.add(std::move(handler)));
 }
@@ -87,13 +87,25 @@ void SimulatedInputSources::remove(const std::string& id)
     std::erase_if(sources_, [&](const InputSourceProperties& source) { return source.id == id; });
     notifyOfSources();
     if (selected_ == id && !sources_.empty() && sources_.front().id)
-        become(*sources_.front().id);
+        become(*sources_.front().id, SelectionCause::place);
 }
 
 void SimulatedInputSources::userSelects(const std::string& id)
 {
     if (find(id))
-        become(id);
+        become(id, SelectionCause::choice);
+}
+
+void SimulatedInputSources::placeBrings(const std::string& id)
+{
+    if (find(id))
+        become(id, SelectionCause::place);
+}
+
+void SimulatedInputSources::undoWith(const std::string& id)
+{
+    if (find(id))
+        become(id, SelectionCause::undoing);
 }
 
 void SimulatedInputSources::failSelections(int count, int status)
@@ -116,11 +128,11 @@ void SimulatedInputSources::notifyOfSources()
         mainThread_.post([this] { enabledSourcesObservers_.notify(); });
 }
 
-void SimulatedInputSources::become(const std::string& id)
+void SimulatedInputSources::become(const std::string& id, SelectionCause cause)
 {
     if (std::exchange(selected_, id) == id)
         return;
-    const auto notify = [this] { selectionObservers_.notify(); };
+    const auto notify = [this, cause] { selectionObservers_.notify(cause); };
     if (delay_ > 0)
         delayed_.push_back(mainThread_.after(delay_, notify));
     else

@@ -26,8 +26,9 @@ public:
     std::optional<std::vector<InputSourceProperties>> list(
         const InputSourceFilter& filter) override;
     int select(const InputSourceProperties& source) override;
-    Subscription observeSelectionChanges(std::function<void()> handler) override;
+    Subscription observeSelectionChanges(SelectionHandler handler) override;
     Subscription observeEnabledSourcesChanges(std::function<void()> handler) override;
+    std::string whyUndone() override { return whyUndone_; }
 
     /// A keyboard layout that can be selected.
     static InputSourceProperties keyboard(const std::string& id, const std::string& name);
@@ -40,6 +41,12 @@ public:
 
     /// Selects a source as the user does, whatever it is.
     void userSelects(const std::string& id);
+    /// Selects a source as a desktop does that keeps one for each window.
+    void placeBrings(const std::string& id);
+    /// Selects a source instead of the one that the program has selected.
+    void undoWith(const std::string& id);
+    /// Gives the reason for which selections are undone here.
+    void setWhyUndone(const std::string& reason) { whyUndone_ = reason; }
 
     /// Makes the next selections by the program fail with the status.
     void failSelections(int count, int status);
@@ -56,7 +63,7 @@ public:
 private:
     const InputSourceProperties* find(const std::string& id) const;
     void notifyOfSources();
-    void become(const std::string& id);
+    void become(const std::string& id, SelectionCause cause);
 
     MainThread& mainThread_;
     SimulatedJournal::Writer journal_;
@@ -67,7 +74,8 @@ private:
     int failureStatus_ = 0;
     Seconds delay_ = 0;
     bool responds_ = true;
-    Subscribers<std::function<void()>> selectionObservers_;
+    std::string whyUndone_;
+    Subscribers<SelectionHandler> selectionObservers_;
     Subscribers<std::function<void()>> enabledSourcesObservers_;
     std::vector<Subscription> delayed_;
 };

@@ -70,7 +70,7 @@ TEST(SimulatedComputer, hasInOneJournalWhatIsAskedOfAllAbilities)
     SimulatedJournal journal;
     SimulatedComputer computer({.journal = &journal});
     auto& platform = computer.platform();
-    const auto nothing = [] {};
+    const auto nothing = [](const auto&...) {};
 
     platform.defaults.set("key", PreferenceValue(true));
     platform.defaults.set("key", std::nullopt);

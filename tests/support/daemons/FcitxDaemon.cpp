@@ -3,6 +3,7 @@
 #include "foundation/FatalError.h"
 #include "support/basics/Eventually.h"
 #include "support/bus/BusConnection.h"
+#include "support/hardware/PlayedInput.h"
 #include "support/windows/XInputMethodServer.h"
 
 #include <csignal>
@@ -75,6 +76,13 @@ std::string FcitxDaemon::context() const
 }
 
 bool FcitxDaemon::select(const std::string& inputMethod)
+{
+    const XConnection server;
+    PlayedInput(server).showHand();
+    return change(inputMethod);
+}
+
+bool FcitxDaemon::change(const std::string& inputMethod)
 {
     // While no window has the keyboard yet, the daemon says yes and does nothing.
     return eventually([&] {

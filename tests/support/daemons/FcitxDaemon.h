@@ -23,6 +23,8 @@ public:
     /// Selects an input method, as the user does in the daemon's menu, again while nothing comes of
     /// it; false when nothing did.
     bool select(const std::string& inputMethod);
+    /// The same without a hand of the user's.
+    bool change(const std::string& inputMethod);
 
     /// Starts the daemon that was stopped.
     void start();

@@ -3,6 +3,7 @@
 #include "foundation/FatalError.h"
 #include "support/basics/Eventually.h"
 #include "support/bus/BusConnection.h"
+#include "support/hardware/PlayedInput.h"
 #include "support/windows/XInputMethodServer.h"
 
 #include <csignal>
@@ -15,25 +16,47 @@ using namespace std::chrono_literals;
 constexpr auto name = "org.freedesktop.IBus";
 constexpr auto path = "/org/freedesktop/IBus";
 
+void set(const VirtualDesktop& desktop, const std::string& key, const std::string& value)
+{
+    const ChildProcess::Start write{
+        .command = {"dconf", "write", key, value},
+        .output = desktop.outputFolder() / "dconf",
+    };
+    if (run(write, 60s) != ProcessEnd{0, {}})
+        fatalError("A setting could not be written.\n" + contentOf(write.output));
+}
+
 } // namespace
 
 IBusDaemon::IBusDaemon(VirtualDesktop& desktop, const std::vector<std::string>& engines)
-    : desktop_(desktop)
+    : IBusDaemon(desktop)
 {
     std::string list;
     for (const auto& engine : engines)
         list += (list.empty() ? "'" : ", '") + engine + "'";
     // The daemon reads its settings itself, whatever place programs are told to keep theirs.
-    const ChildProcess::Start enable{
-        .command = {"dconf", "write", "/desktop/ibus/general/preload-engines", "[" + list + "]"},
-        .output = desktop.outputFolder() / "dconf",
-    };
-    if (run(enable, 60s) != ProcessEnd{0, {}})
-        fatalError("The engines could not be enabled.\n" + contentOf(enable.output));
+    set(desktop, "/desktop/ibus/general/preload-engines", "[" + list + "]");
+    start();
+}
+
+std::unique_ptr<IBusDaemon> IBusDaemon::inGnome(VirtualDesktop& desktop, const std::string& sources)
+{
+    enableInGnome(desktop, sources);
+    auto daemon = std::unique_ptr<IBusDaemon>(new IBusDaemon(desktop));
+    daemon->start();
+    return daemon;
+}
+
+void IBusDaemon::enableInGnome(const VirtualDesktop& desktop, const std::string& sources)
+{
+    set(desktop, "/org/gnome/desktop/input-sources/sources", sources);
+}
+
+IBusDaemon::IBusDaemon(VirtualDesktop& desktop) : desktop_(desktop)
+{
     for (const auto variable : {"GTK_IM_MODULE", "QT_IM_MODULE"})
         desktop.setVariable(variable, "ibus");
     desktop.setVariable("XMODIFIERS", "@im=ibus");
-    start();
 }
 
 void IBusDaemon::start()
@@ -91,6 +114,13 @@ std::string IBusDaemon::current() const
 }
 
 bool IBusDaemon::select(const std::string& engine)
+{
+    const XConnection server;
+    PlayedInput(server).showHand();
+    return change(engine);
+}
+
+bool IBusDaemon::change(const std::string& engine)
 {
     // While the daemon has much to do, an engine may not start in its time.
     return eventually([&] {

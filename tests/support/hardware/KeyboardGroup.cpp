@@ -1,6 +1,7 @@
 #include "support/hardware/KeyboardGroup.h"
 
 #include "platform/linux/x11/XkbProtocol.h"
+#include "support/hardware/PlayedInput.h"
 
 namespace brindlex {
 namespace {
@@ -37,6 +38,12 @@ void lockModifiers(const XConnection& server, std::uint8_t modifiers)
     xcb_xkb_latch_lock_state(
         server.get(), XCB_XKB_ID_USE_CORE_KBD, all, modifiers, false, 0, 0, false, 0);
     server.sync();
+}
+
+void chooseKeyboardGroup(const XConnection& server, int group)
+{
+    PlayedInput(server).showHand();
+    selectKeyboardGroup(server, group);
 }
 
 } // namespace brindlex

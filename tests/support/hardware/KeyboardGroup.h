@@ -7,10 +7,13 @@ namespace brindlex {
 /// The group, counted from 0, of the server's keyboard layouts that keys are read with.
 int keyboardGroup(const XConnection& server);
 
-/// Selects a group, as a user does with the layout key.
+/// Selects a group, as a program does by itself.
 void selectKeyboardGroup(const XConnection& server, int group);
 
 /// Locks exactly these modifiers, a mask of the core protocol's.
 void lockModifiers(const XConnection& server, std::uint8_t modifiers);
+
+/// Selects a group, as a user does with the layout key.
+void chooseKeyboardGroup(const XConnection& server, int group);
 
 } // namespace brindlex

@@ -29,6 +29,7 @@ inline constexpr std::uint8_t up = KEY_UP + 8;
 inline constexpr std::uint8_t right = KEY_RIGHT + 8;
 inline constexpr std::uint8_t end = KEY_END + 8;
 inline constexpr std::uint8_t down = KEY_DOWN + 8;
+inline constexpr std::uint8_t pause = KEY_PAUSE + 8;
 inline constexpr std::uint8_t super = KEY_LEFTMETA + 8;
 
 } // namespace keycode

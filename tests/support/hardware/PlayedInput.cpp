@@ -57,6 +57,12 @@ void PlayedInput::pressKey(std::uint8_t key) const { play(XCB_KEY_PRESS, key); }
 
 void PlayedInput::releaseKey(std::uint8_t key) const { play(XCB_KEY_RELEASE, key); }
 
+void PlayedInput::showHand() const
+{
+    pressKey(keycode::pause);
+    releaseKey(keycode::pause);
+}
+
 void PlayedInput::movePointer(int x, int y) const
 {
     xcb_test_fake_input(server_.get(), XCB_MOTION_NOTIFY, 0, XCB_CURRENT_TIME, server_.root(),

@@ -22,6 +22,9 @@ public:
     void pressKey(std::uint8_t key) const;
     void releaseKey(std::uint8_t key) const;
 
+    /// Presses and releases a key that types nothing: the hand of whoever chooses something.
+    void showHand() const;
+
     void movePointer(int x, int y) const;
     /// Moves there and presses and releases a button, 1 being the left one.
     void click(int x, int y, std::uint8_t button = 1) const;

@@ -59,6 +59,14 @@ void MemorySwitchExecutor::carryOut(const SwitchScenarioStep::Any& step)
             computer_.inputSourceID = selection.inputSourceID;
             dispatch(SwitchEvent::InputSourceChanged{});
         },
+        [&](const Step::PlaceBrings& place) {
+            computer_.inputSourceID = place.inputSourceID;
+            dispatch(SwitchEvent::PlaceChangedInputSource{});
+        },
+        [&](const Step::DesktopUndoes& undoing) {
+            computer_.inputSourceID = undoing.inputSourceID;
+            dispatch(SwitchEvent::SelectionUndone{});
+        },
         [&](const Step::ShowPage& page) { computer_.page = page.host; },
         [&](const Step::Tick&) { dispatch(SwitchEvent::BrowserContextTick{computer_.page}); },
         [&](const Step::SourceChanged&) { dispatch(SwitchEvent::InputSourceChanged{}); },

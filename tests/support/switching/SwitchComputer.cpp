@@ -58,6 +58,11 @@ SwitchEnvironment SwitchComputer::environment()
                 calls.push_back("systemTime");
                 return systemTime;
             },
+        .whyUndone =
+            [this] {
+                calls.push_back("whyUndone");
+                return whyUndone;
+            },
     };
 }
 

@@ -25,6 +25,8 @@ struct SwitchComputer {
     std::optional<std::string> frontmostBundleID{};
     std::optional<std::string> page{};
 
+    std::string whyUndone{};
+
     /// Every selection asked for, oldest first.
     std::vector<std::string> selections{};
     /// The names of the functions called, oldest first.

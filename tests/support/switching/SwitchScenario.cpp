@@ -79,6 +79,10 @@ SwitchVerbs::Step SwitchVerbs::step(ScenarioWords& words)
         return SwitchScenarioStep::Activate{known(words.word())};
     if (words.take("user selects"))
         return SwitchScenarioStep::UserSelects{known(words.word())};
+    if (words.take("place brings"))
+        return SwitchScenarioStep::PlaceBrings{words.word()};
+    if (words.take("desktop undoes with"))
+        return SwitchScenarioStep::DesktopUndoes{words.word()};
     if (words.take("page"))
         return SwitchScenarioStep::ShowPage{known(words.word())};
     if (words.take("tick"))

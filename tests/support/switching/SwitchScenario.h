@@ -28,6 +28,14 @@ struct SwitchScenarioStep {
     struct UserSelects {
         std::optional<std::string> inputSourceID{};
     };
+    /// The application in front brings a source of its own with it.
+    struct PlaceBrings {
+        std::string inputSourceID{};
+    };
+    /// The desktop selects a source instead of the one that the program has selected.
+    struct DesktopUndoes {
+        std::string inputSourceID{};
+    };
     /// The browser shows another page; it is read at the next tick or activation.
     struct ShowPage {
         std::optional<std::string> host{};
@@ -50,7 +58,7 @@ struct SwitchScenarioStep {
     struct Wait { };
 
     using Any = Cases<Wait, Start, Stop, Activate, UserSelects, ShowPage, Tick, SourceChanged, Set,
-        Refuse, Accept>;
+        Refuse, Accept, PlaceBrings, DesktopUndoes>;
 };
 
 /// The verbs of the scenarios in `tests/inputmethod/scenarios`.

@@ -30,7 +30,10 @@ std::string text(const SwitchEvent::Any& event)
         [](const SwitchEvent::DomainRulesEnabledChanged&) {
             return std::string("website rules turned on or off");
         },
-        [](const SwitchEvent::InputSourceChanged&) { return std::string("source changed"); });
+        [](const SwitchEvent::InputSourceChanged&) { return std::string("source changed"); },
+        [](const SwitchEvent::PlaceChangedInputSource&) { return std::string("place brought"); },
+        [](const SwitchEvent::SelectionUndone&) { return std::string("selection undone"); },
+        [](const SwitchEvent::EnabledSourcesChanged&) { return std::string("sources changed"); });
 }
 
 std::string text(const SwitchEffect::Any& effect)
@@ -43,7 +46,8 @@ std::string text(const SwitchEffect::Any& effect)
         [](const SwitchEffect::InstallObservers&) { return std::string("install observers"); },
         [](const SwitchEffect::RemoveObservers&) { return std::string("remove observers"); },
         [](const SwitchEffect::StartBrowserPolling&) { return std::string("start polling"); },
-        [](const SwitchEffect::StopBrowserPolling&) { return std::string("stop polling"); });
+        [](const SwitchEffect::StopBrowserPolling&) { return std::string("stop polling"); },
+        [](const SwitchEffect::WithdrawHUD&) { return std::string("withdraw hud"); });
 }
 
 std::string text(const InputMethodAutoSwitchContext::Any& context)
@@ -84,7 +88,14 @@ std::string text(const SwitchState& state)
     if (state.learning)
         result += "\nlearning " + state.learning->app.bundleID + " from "
             + orNone(state.learning->lastObservedInputSourceID);
-    return result + "\n";
+    result += "\nstanding";
+    if (state.standing.isChosenHere)
+        result += " chosen-here";
+    if (state.standing.isChosenSinceSwitch)
+        result += " chosen-since-switch";
+    if (state.standing.isUndoingReported)
+        result += " reported";
+    return result + " undone " + std::to_string(state.standing.timesUndone) + "\n";
 }
 
 std::string text(const InputMethodSwitchDecision& decision)

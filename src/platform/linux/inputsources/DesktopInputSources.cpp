@@ -2,6 +2,8 @@
 
 #include "log/Log.h"
 #include "platform/InputSourceIdentifiers.h"
+#include "platform/linux/inputsources/UndoingReason.h"
+#include "platform/linux/windows/X11WindowReading.h"
 
 #include <algorithm>
 #include <array>
@@ -19,6 +21,8 @@ constexpr auto busName = "org.freedesktop.DBus";
 constexpr auto busPath = "/org/freedesktop/DBus";
 constexpr int callLimitMilliseconds = 5000;
 constexpr auto startWait = 100ms;
+/// A program that keeps a layout for each window may set it twice for one change of the window.
+constexpr auto calmTime = 100ms;
 /// When to try a daemon again that runs and could not be used: it may still be starting.
 constexpr std::array retryDelays{250ms, 500ms, 1000ms, 2000ms, 4000ms, 8000ms};
 
@@ -38,17 +42,25 @@ bool matches(const InputSourceFilter& filter, const InputSource& source)
 
 DesktopInputSources::DesktopInputSources(X11Connection& connection, QDBusConnection sessionBus)
     : connection_(connection), bus_(std::move(sessionBus)), xkb_(connection, registry_),
-      backend_(&xkb_)
+      backend_(&xkb_), presses_(connection, [this] { causes_.pressed(); })
 {
     settleSoon_.setSingleShot(true);
     settleSoon_.setInterval(0);
     QObject::connect(&settleSoon_, &QTimer::timeout, &context_, [this] { settle(); });
+    calm_.setSingleShot(true);
+    calm_.setInterval(calmTime);
+    QObject::connect(&calm_, &QTimer::timeout, &context_,
+        [this] { selectionObservers_.notify(std::exchange(unnotified_, SelectionCause::choice)); });
     retry_.setSingleShot(true);
     QObject::connect(&retry_, &QTimer::timeout, &context_, [this] {
         takeFcitx(isFcitxRunning_, doNotWait);
         takeIBus(isIBusRunning_, doNotWait);
     });
-    xkbChanges_ = xkb_.observe([this] { settleSoon_.start(); });
+    xkbChanges_ = xkb_.observe([this](SelectionCause hint) { changed(hint); });
+    activations_ = observeActiveWindow(connection_, [this] {
+        causes_.windowCameToFront(std::chrono::steady_clock::now());
+        presses_.await();
+    });
 
     if (bus_.isConnected()) {
         for (const auto* daemon : {fcitxName, ibusName})
@@ -100,15 +112,22 @@ std::optional<std::vector<InputSourceProperties>> DesktopInputSources::list(
 
 int DesktopInputSources::select(const InputSourceProperties& source)
 {
-    const auto status = backend_->select(source.id.value_or(""));
+    const auto id = source.id.value_or("");
+    const auto status = backend_->select(id);
+    if (status == SelectionStatus::done) {
+        causes_.selected(id, std::chrono::steady_clock::now());
+        presses_.await();
+    }
     settleSoon_.start();
     return static_cast<int>(status);
 }
 
-Subscription DesktopInputSources::observeSelectionChanges(std::function<void()> handler)
+Subscription DesktopInputSources::observeSelectionChanges(SelectionHandler handler)
 {
     return selectionObservers_.add(std::move(handler));
 }
+
+std::string DesktopInputSources::whyUndone() { return undoingReason(connection_); }
 
 Subscription DesktopInputSources::observeEnabledSourcesChanges(std::function<void()> handler)
 {
@@ -147,7 +166,7 @@ void DesktopInputSources::takeFcitx(bool isRunning, DBusDeadline deadline)
     } else if (!fcitx_ || !fcitx_->hasReplied()) {
         dropFcitx();
         fcitx_ = std::make_unique<Fcitx5InputSources>(bus_, connection_, registry_, deadline);
-        fcitxChanges_ = fcitx_->observe([this] { settleSoon_.start(); });
+        fcitxChanges_ = fcitx_->observe([this](SelectionCause hint) { changed(hint); });
     }
     settleSoon_.start();
 }
@@ -160,7 +179,7 @@ void DesktopInputSources::takeIBus(bool isRunning, DBusDeadline deadline)
     } else if (!ibus_ || !ibus_->hasReplied()) {
         dropIBus();
         ibus_ = std::make_unique<IBusInputSources>(xkb_, deadline);
-        ibusChanges_ = ibus_->observe([this] { settleSoon_.start(); });
+        ibusChanges_ = ibus_->observe([this](SelectionCause hint) { changed(hint); });
     }
     settleSoon_.start();
 }
@@ -213,6 +232,15 @@ void DesktopInputSources::tryAgainLater()
     ++retries_;
 }
 
+void DesktopInputSources::changed(SelectionCause hint)
+{
+    if (hint != SelectionCause::choice)
+        hint_ = hint;
+    // What a daemon notifies of may have come of a press that has arrived meanwhile.
+    presses_.catchUp();
+    settleSoon_.start();
+}
+
 void DesktopInputSources::settle()
 {
     // Its connection may end before the bus notifies that its name has no owner any more.
@@ -220,8 +248,12 @@ void DesktopInputSources::settle()
         leave(ibus_.get());
     announce(bestBackend());
     tryAgainLater();
-    notifyOfSources();
-    notifyOfSelection();
+    const bool areOthers = hasOtherSources();
+    if (areOthers) {
+        notifiedSources_ = backend_->sources();
+        enabledSourcesObservers_.notify();
+    }
+    notifyOfSelection(areOthers ? SelectionCause::place : SelectionCause::choice);
 }
 
 void DesktopInputSources::announce(InputSourceBackend& backend)
@@ -232,21 +264,35 @@ void DesktopInputSources::announce(InputSourceBackend& backend)
             "Input sources come from " + std::string(backend.name()), logCategory::inputMethod);
 }
 
-void DesktopInputSources::notifyOfSources()
+bool DesktopInputSources::hasOtherSources() const
 {
-    if (!backend_->isUsable() || backend_->sources() == notifiedSources_)
-        return;
-    notifiedSources_ = backend_->sources();
-    enabledSourcesObservers_.notify();
+    return backend_->isUsable() && backend_->sources() != notifiedSources_;
 }
 
-void DesktopInputSources::notifyOfSelection()
+void DesktopInputSources::notifyOfSelection(SelectionCause hint)
 {
-    auto now = backend_->current();
-    if (!now || now == notifiedSelection_)
+    const auto current = backend_->current();
+    // The backend may just have learned more.
+    const auto known = std::exchange(hint_, SelectionCause::choice);
+    if (!current || (current == notifiedSelection_ && !causes_.isLost(*current)))
         return;
-    notifiedSelection_ = std::move(now);
-    selectionObservers_.notify();
+    notifiedSelection_ = current;
+    const auto cause = causes_.changed(
+        *current, known == SelectionCause::choice ? hint : known, std::chrono::steady_clock::now());
+    if (cause != SelectionCause::choice) {
+        notifyOnceCalm(cause);
+        return;
+    }
+    calm_.stop();
+    unnotified_ = SelectionCause::choice;
+    selectionObservers_.notify(cause);
+}
+
+void DesktopInputSources::notifyOnceCalm(SelectionCause cause)
+{
+    if (unnotified_ != SelectionCause::undoing)
+        unnotified_ = cause;
+    calm_.start();
 }
 
 } // namespace brindlex

@@ -2,6 +2,7 @@
 
 #include "foundation/Subscribers.h"
 #include "foundation/Subscription.h"
+#include "platform/KeyboardInputSources.h"
 
 #include <functional>
 #include <optional>
@@ -52,17 +53,18 @@ public:
     /// Selects one of `sources`.
     virtual SelectionStatus select(const std::string& id) = 0;
 
-    /// Notifies that anything above may return something else now, also from inside calls.
-    Subscription observe(std::function<void()> handler)
+    /// Notifies that anything above may return something else now, also from inside calls. The
+    /// cause is `choice` unless the backend knows that the source in force was nobody's choice.
+    Subscription observe(std::function<void(SelectionCause hint)> handler)
     {
         return observers_.add(std::move(handler));
     }
 
 protected:
-    void notify() const { observers_.notify(); }
+    void notify(SelectionCause hint = SelectionCause::choice) const { observers_.notify(hint); }
 
 private:
-    Subscribers<std::function<void()>> observers_;
+    Subscribers<std::function<void(SelectionCause hint)>> observers_;
 };
 
 } // namespace brindlex

@@ -6,6 +6,7 @@
 
 #include <limits>
 #include <unistd.h>
+#include <utility>
 
 namespace brindlex {
 namespace {
@@ -126,6 +127,21 @@ xcb_window_t activeWindow(X11Connection& connection)
     const auto window
         = X11PropertyRequest(connection, connection.root(), "_NET_ACTIVE_WINDOW", 4).values();
     return window && !window->empty() ? window->front() : xcb_window_t{XCB_WINDOW_NONE};
+}
+
+Subscription observeActiveWindow(X11Connection& connection, std::function<void()> handler)
+{
+    connection.listenToRoot(XCB_EVENT_MASK_PROPERTY_CHANGE);
+    const auto active = connection.atom("_NET_ACTIVE_WINDOW");
+    return connection.observeEvents(
+        [root = connection.root(), active, handler = std::move(handler)](
+            const xcb_generic_event_t& event) {
+            if ((event.response_type & 0x7f) != XCB_PROPERTY_NOTIFY)
+                return;
+            const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(event);
+            if (change.window == root && change.atom == active)
+                handler();
+        });
 }
 
 std::vector<xcb_window_t> managedWindows(X11Connection& connection)

@@ -4,6 +4,7 @@
 
 #include <compare>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -27,6 +28,10 @@ struct X11WindowDescription {
 
 /// The window that the window manager calls active; 0 when it names none.
 xcb_window_t activeWindow(X11Connection& connection);
+
+/// Calls the handler from the loop each time the window manager names an active window, be it the
+/// same.
+Subscription observeActiveWindow(X11Connection& connection, std::function<void()> handler);
 
 /// The windows that the window manager manages, oldest first.
 std::vector<xcb_window_t> managedWindows(X11Connection& connection);

@@ -123,8 +123,8 @@ TEST_F(InputSourcesOfFcitx, giveTheSelectionToAWindowThatGetsTheKeyboardLate)
     keyboardApartFrom(slowKeyboard);
     EXPECT_TRUE(comesTo("xkb:us::eng"));
     std::vector<std::string> notified;
-    const auto subscription
-        = sources_.observeSelectionChanges([&] { notified.push_back(currentID(sources_)); });
+    const auto subscription = sources_.observeSelectionChanges(
+        [&](SelectionCause) { notified.push_back(currentID(sources_)); });
 
     ::kill(slow.process(), SIGSTOP);
     EXPECT_TRUE(windows_.activate(slow.window()));

@@ -22,7 +22,8 @@ TEST(DesktopInputSources, followsLayoutsThatAreSetWhileItRuns)
     DesktopInputSources sources(connection, bus.get());
     EXPECT_EQ(idsOf(sources), (std::vector<std::string>{"xkb:us::eng", "xkb:de::deu"}));
     int notifications = 0;
-    const auto subscription = sources.observeSelectionChanges([&] { ++notifications; });
+    const auto subscription
+        = sources.observeSelectionChanges([&](SelectionCause) { ++notifications; });
     desktop.setKeyboardLayouts("fr,us,ru,de");
     EXPECT_TRUE(
         loopUntil([&] { return currentID(sources) == "xkb:fr::fra" && notifications == 1; }));

@@ -1,0 +1,116 @@
+#include "desktop/LearnedSamples.h"
+#include "desktop/ProgramDesk.h"
+#include "support/hardware/LayoutGuard.h"
+#include "support/hardware/LayoutKeeper.h"
+#include "support/windows/PlainWindow.h"
+
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+using namespace std::chrono_literals;
+using Sources = std::vector<std::string>;
+
+/// A desk with a program that keeps a layout for each window, as kbdd and the plugin of Xfce do.
+class LayoutsOfWindows : public testing::Test {
+protected:
+    LayoutsOfWindows() { desk_.applyRules({{"Alpha", german}}); }
+
+    bool comesToRestIn(int group) const
+    {
+        return eventually([&] { return desk_.keepsGroup(group); });
+    }
+
+    ProgramDesk desk_;
+    LayoutKeeper keeper_{50ms};
+};
+
+TEST_F(LayoutsOfWindows, areNotLearnedAndGiveWayToRules)
+{
+    const TypingWindow alpha(desk_.windows, "Alpha");
+    const TypingWindow gamma(desk_.windows, "Gamma");
+    const RunningProgram program(desk_.desktop);
+    ASSERT_TRUE(program.launches()) << program.report();
+    ASSERT_TRUE(desk_.windows.activate(gamma.window()));
+    ASSERT_TRUE(comesToRestIn(usGroup));
+    chooseKeyboardGroup(desk_.server, russianGroup);
+    ASSERT_TRUE(eventually([&] { return samples(desk_.files, "Gamma") == Sources{russian}; }))
+        << program.report();
+
+    for (int walk = 0; walk < 3; ++walk) {
+        ASSERT_TRUE(desk_.windows.activate(alpha.window()));
+        EXPECT_TRUE(comesToRestIn(germanGroup)) << program.report();
+        ASSERT_TRUE(desk_.windows.activate(gamma.window()));
+        EXPECT_TRUE(comesToRestIn(russianGroup)) << program.report();
+    }
+
+    EXPECT_EQ(samples(desk_.files, "Alpha"), Sources());
+    EXPECT_EQ(samples(desk_.files, "Gamma"), Sources{russian});
+}
+
+TEST_F(LayoutsOfWindows, leaveAUsersOverrideInForce)
+{
+    const TypingWindow alpha(desk_.windows, "Alpha");
+    const TypingWindow gamma(desk_.windows, "Gamma");
+    const RunningProgram program(desk_.desktop);
+    ASSERT_TRUE(program.launches()) << program.report();
+    ASSERT_TRUE(desk_.windows.activate(alpha.window()));
+    ASSERT_TRUE(comesToRestIn(germanGroup)) << program.report();
+
+    chooseKeyboardGroup(desk_.server, russianGroup);
+    ASSERT_TRUE(eventually([&] { return samples(desk_.files, "Alpha") == Sources{russian}; }))
+        << program.report();
+    ASSERT_TRUE(desk_.windows.activate(gamma.window()));
+    ASSERT_TRUE(desk_.windows.activate(alpha.window()));
+
+    EXPECT_TRUE(comesToRestIn(russianGroup)) << program.report();
+}
+
+TEST(LearningFromPeople, learnsForAWindowThatSaysNothingAndNotForTheOneBefore)
+{
+    ProgramDesk desk;
+    desk.applyRules({});
+    const PlainWindow alpha(desk.server, {.wmClass = wmClass("Alpha"), .title = "Alpha"});
+    const PlainWindow nameless(desk.server, {});
+    ASSERT_TRUE(desk.windows.activate(alpha.window()));
+    const RunningProgram program(desk.desktop);
+    ASSERT_TRUE(program.launches()) << program.report();
+
+    ASSERT_TRUE(desk.windows.activate(nameless.window()));
+    chooseKeyboardGroup(desk.server, germanGroup);
+
+    EXPECT_TRUE(eventually([&] {
+        return samplesOf(desk.files, "exe:brindlex_desktop_tests") == Sources{german};
+    })) << program.report();
+    EXPECT_EQ(samples(desk.files, "Alpha"), Sources());
+}
+
+TEST(UndoneSelections, areNeitherShownNorLearnedAndTriedAgainLater)
+{
+    ProgramDesk desk;
+    desk.applyRules({{"Alpha", german}});
+    const PlainWindow alpha(desk.server, {.wmClass = wmClass("Alpha"), .title = "Alpha"});
+    const PlainWindow gamma(desk.server, {.wmClass = wmClass("Gamma"), .title = "Gamma"});
+    ASSERT_TRUE(desk.windows.activate(gamma.window()));
+    const RunningProgram program(desk.desktop);
+    ASSERT_TRUE(program.launches()) << program.report();
+    const LayoutGuard shell(usGroup, 200ms);
+
+    ASSERT_TRUE(desk.windows.activate(alpha.window()));
+    EXPECT_TRUE(program.logs("The desktop undoes the selection of xkb:de::deu"))
+        << program.report();
+    EXPECT_EQ(shell.timesUndone(), 2);
+    EXPECT_TRUE(
+        eventually([&] { return desk.windows.unmanagedOf(program.process()).empty(); }, 600ms))
+        << "An overlay would stay for 800 ms.";
+    EXPECT_TRUE(desk.keepsGroup(usGroup));
+    EXPECT_EQ(samples(desk.files, "Alpha"), Sources());
+
+    ASSERT_TRUE(desk.windows.activate(gamma.window()));
+    ASSERT_TRUE(desk.windows.activate(alpha.window()));
+    EXPECT_TRUE(eventually([&] { return shell.timesUndone() == 4; })) << program.report();
+}
+
+} // namespace
+} // namespace brindlex
