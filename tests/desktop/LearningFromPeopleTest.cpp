@@ -1,5 +1,6 @@
 #include "desktop/LearnedSamples.h"
 #include "desktop/ProgramDesk.h"
+#include "support/daemons/FcitxDaemon.h"
 #include "support/hardware/LayoutGuard.h"
 #include "support/hardware/LayoutKeeper.h"
 #include "support/windows/PlainWindow.h"
@@ -11,6 +12,37 @@ namespace {
 
 using namespace std::chrono_literals;
 using Sources = std::vector<std::string>;
+
+/// Fcitx 5 as it is installed: each window has a method of its own.
+TEST(LearningFromPeople, learnsNothingFromWindowsWithMethodsOfTheirOwn)
+{
+    ProgramDesk desk({.keyboardLayouts = "us"});
+    desk.applyRules({});
+    FcitxDaemon daemon(desk.desktop, {"keyboard-us", "pinyin"});
+    const TypingWindow alpha(desk.windows, "Alpha");
+    const TypingWindow beta(desk.windows, "Beta");
+    const RunningProgram program(desk.desktop);
+    ASSERT_TRUE(program.logs("Input sources come from Fcitx 5")) << program.report();
+    const auto learned = [&](const char* className) { return samples(desk.files, className); };
+    ASSERT_TRUE(desk.windows.activate(alpha.window()));
+    ASSERT_TRUE(throughout(500ms, [&] { return daemon.current() == "keyboard-us"; }));
+    ASSERT_TRUE(daemon.select("pinyin"));
+    ASSERT_TRUE(eventually([&] { return learned("Alpha") == Sources{"fcitx5:pinyin"}; }))
+        << program.report();
+
+    for (int walk = 0; walk < 11; ++walk) {
+        const bool isBeta = walk % 2 == 0;
+        ASSERT_TRUE(desk.windows.activate(isBeta ? beta.window() : alpha.window()));
+        const std::string own = isBeta ? "keyboard-us" : "pinyin";
+        ASSERT_TRUE(eventually([&] { return daemon.current() == own; })) << walk;
+        // What is typed right away is no choice of an input method.
+        desk.input.showHand();
+        ASSERT_TRUE(throughout(500ms, [&] { return daemon.current() == own; })) << walk;
+    }
+
+    EXPECT_EQ(learned("Alpha"), Sources{"fcitx5:pinyin"}) << program.report();
+    EXPECT_EQ(learned("Beta"), Sources());
+}
 
 /// A desk with a program that keeps a layout for each window, as kbdd and the plugin of Xfce do.
 class LayoutsOfWindows : public testing::Test {

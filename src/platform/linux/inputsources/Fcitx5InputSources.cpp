@@ -33,15 +33,11 @@ QString textOf(const QDBusMessage& reply)
     return reply.arguments().isEmpty() ? QString() : reply.arguments().first().toString();
 }
 
-std::string focusedContext(const QDBusMessage& debugInfo)
-{
-    return fcitx5FocusedContext(textOf(debugInfo)).toStdString();
-}
-
 /// Empty as long as there is no reply.
 std::string focusedContext(const QDBusPendingCall& debugInfo)
 {
-    return debugInfo.isFinished() ? focusedContext(debugInfo.reply()) : std::string();
+    return debugInfo.isFinished() ? fcitx5FocusedContext(textOf(debugInfo.reply())).toStdString()
+                                  : std::string();
 }
 
 /// Absent as long as there is no reply.
@@ -50,6 +46,18 @@ std::optional<std::string> methodOf(const QDBusPendingCall& current)
     if (!current.isFinished() || current.isError())
         return {};
     return textOf(current.reply()).toStdString();
+}
+
+Fcitx5Selection::Observation seenBy(const Fcitx5Look& look, std::uint32_t activeWindow)
+{
+    return {focusedContext(look.before), focusedContext(look.after), methodOf(look.current),
+        activeWindow};
+}
+
+SelectionCause causeOf(Fcitx5Selection::Change change)
+{
+    return change == Fcitx5Selection::Change::context ? SelectionCause::place
+                                                      : SelectionCause::choice;
 }
 
 } // namespace
@@ -94,31 +102,28 @@ SelectionStatus Fcitx5InputSources::select(const std::string& id)
         return SelectionStatus::unknownSource;
     const auto method = methods_[static_cast<std::size_t>(found - sources_.begin())];
 
-    // The daemon replies in this order.
-    const auto contexts = call("DebugInfo");
-    call("SetCurrentIM", {QString::fromStdString(method)});
-    const auto pending = call("CurrentInputMethod");
     const auto window = activeWindow(connection_);
     const int selection = selection_.select(method, window, Clock::now());
     firstCheck_.stop();
-    if (waitForReply(pending, Clock::now() + selectionWait))
-        return confirm(selection, contexts, pending.reply());
-    onReply(pending, doNotWait, &context_, [this, selection, contexts](const QDBusMessage&) {
-        if (selection_.acknowledge(selection, focusedContext(contexts)))
-            firstCheck_.start();
-    });
-    return SelectionStatus::done;
+    const auto before = request(selection, method);
+    const auto current = call("CurrentInputMethod");
+    if (!waitForReply(current, Clock::now() + selectionWait))
+        return SelectionStatus::done;
+    takeCurrent({before, current, before});
+    return selection_.confirm(current.isError());
 }
 
-SelectionStatus Fcitx5InputSources::confirm(
-    int selection, const QDBusPendingCall& contexts, const QDBusMessage& reply)
+QDBusPendingCall Fcitx5InputSources::request(int selection, const std::string& method)
 {
-    selection_.acknowledge(selection, focusedContext(contexts));
-    takeCurrent(reply);
-    const auto status = selection_.confirm(isError(reply));
-    if (status == SelectionStatus::done)
-        firstCheck_.start();
-    return status;
+    // The daemon replies in this order.
+    auto before = call("DebugInfo");
+    call("SetCurrentIM", {QString::fromStdString(method)});
+    const auto after = call("DebugInfo");
+    onReply(after, doNotWait, &context_, [this, selection, before, after](const auto&) {
+        if (selection_.acknowledge(selection, focusedContext(before), focusedContext(after)))
+            firstCheck_.start();
+    });
+    return before;
 }
 
 QDBusPendingCall Fcitx5InputSources::call(const char* member, const QVariantList& arguments) const
@@ -191,19 +196,30 @@ void Fcitx5InputSources::readCurrent(DBusDeadline deadline)
     const auto selection = selection_.beginRead();
     if (!selection)
         return;
-    onReply(call("CurrentInputMethod"), deadline, &context_,
-        [this, selection = *selection](const QDBusMessage& reply) {
+    auto look = beginLook();
+    onReply(
+        look.after, deadline, &context_, [this, look, selection = *selection](const QDBusMessage&) {
             if (selection_.endRead(selection))
-                takeCurrent(reply);
+                takeCurrent(look);
         });
 }
 
-void Fcitx5InputSources::takeCurrent(const QDBusMessage& reply)
+Fcitx5Look Fcitx5InputSources::beginLook() const
 {
-    if (isError(reply) || reply.arguments().isEmpty())
-        fail(reply);
-    else if (selection_.take(textOf(reply).toStdString(), Clock::now()))
-        notify();
+    auto before = call("DebugInfo");
+    auto current = call("CurrentInputMethod");
+    return {before, current, call("DebugInfo")};
+}
+
+void Fcitx5InputSources::takeCurrent(const Fcitx5Look& look)
+{
+    if (look.current.isError()) {
+        fail(look.current.reply());
+        return;
+    }
+    const auto change = selection_.take(seenBy(look, 0), Clock::now());
+    if (change != Fcitx5Selection::Change::none)
+        notify(causeOf(change));
 }
 
 void Fcitx5InputSources::poll()
@@ -219,14 +235,10 @@ void Fcitx5InputSources::check()
     const auto selection = selection_.beginCheck();
     if (!selection)
         return;
-    const auto before = call("DebugInfo");
-    const auto current = call("CurrentInputMethod");
-    onReply(call("DebugInfo"), doNotWait, &context_,
-        [this, before, current, selection = *selection](const QDBusMessage& after) {
-            endCheck(selection,
-                {focusedContext(before), focusedContext(after), methodOf(current),
-                    activeWindow(connection_)});
-        });
+    auto look = beginLook();
+    onReply(look.after, doNotWait, &context_,
+        [this, look, selection = *selection](
+            const QDBusMessage&) { endCheck(selection, seenBy(look, activeWindow(connection_))); });
 }
 
 void Fcitx5InputSources::endCheck(int selection, const Fcitx5Selection::Observation& seen)
@@ -234,9 +246,9 @@ void Fcitx5InputSources::endCheck(int selection, const Fcitx5Selection::Observat
     using Verdict = Fcitx5Selection::Verdict;
     const auto verdict = selection_.endCheck(selection, seen, Clock::now());
     if (verdict == Verdict::requestAgain)
-        call("SetCurrentIM", {QString::fromStdString(*selection_.method())});
-    if (verdict == Verdict::end)
-        notify();
+        request(selection, *selection_.method());
+    else if (verdict != Verdict::keep)
+        notify(verdict == Verdict::left ? SelectionCause::place : SelectionCause::choice);
 }
 
 void Fcitx5InputSources::fail(const QDBusMessage& reply)

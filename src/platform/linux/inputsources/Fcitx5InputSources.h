@@ -18,10 +18,20 @@
 
 namespace brindlex {
 
+/// The replies to come of a look at the daemon, in this order: its contexts, the current method,
+/// its contexts again.
+struct Fcitx5Look {
+    QDBusPendingCall before;
+    QDBusPendingCall current;
+    QDBusPendingCall after;
+};
+
 /// The input methods of the current group of the Fcitx 5 daemon as input sources.
 ///
 /// Fcitx notifies nobody of a selection: what is selected is read 4.5 times a second, at once when
-/// its tray item changes, and by `current` when the last reply is older than 50 ms.
+/// its tray item changes, and by `current` when the last reply is older than 50 ms. Each input
+/// context has a method of its own unless the user has made them share one: another method in
+/// another context is nobody's choice.
 ///
 /// A selection goes to the input context of the window that has the keyboard, and each window may
 /// have a method of its own. A window that has just come to the front may get the keyboard only
@@ -52,9 +62,10 @@ private:
     void readMethods(const QString& group, DBusDeadline deadline);
     void setMethods(const QStringList& enabled, const QDBusMessage& available);
     void readCurrent(DBusDeadline deadline);
-    void takeCurrent(const QDBusMessage& reply);
-    SelectionStatus confirm(
-        int selection, const QDBusPendingCall& contexts, const QDBusMessage& reply);
+    Fcitx5Look beginLook() const;
+    void takeCurrent(const Fcitx5Look& look);
+    /// Requests the method of a selection; returns what is pending of the contexts before it.
+    QDBusPendingCall request(int selection, const std::string& method);
     void poll();
     void check();
     void endCheck(int selection, const Fcitx5Selection::Observation& seen);

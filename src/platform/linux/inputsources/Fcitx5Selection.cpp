@@ -36,14 +36,20 @@ bool Fcitx5Selection::endRead(int selection)
     return selection == selection_;
 }
 
-bool Fcitx5Selection::take(const std::string& method, Time now)
+Fcitx5Selection::Change Fcitx5Selection::take(const Observation& seen, Time now)
 {
+    if (!seen.isSteady())
+        return Change::none;
     // Without an input context nothing is said about what the user types with.
-    auto read = method.empty() ? std::nullopt : std::optional(method);
+    auto read = seen.method->empty() ? std::nullopt : seen.method;
     const bool isNew = !hasRead() || read_ != read;
+    const bool isElsewhere = !hasRead() || context_ != seen.contextAfter;
     readAt_ = now;
     read_ = std::move(read);
-    return isNew;
+    context_ = seen.contextAfter;
+    if (!isNew)
+        return Change::none;
+    return isElsewhere ? Change::context : Change::choice;
 }
 
 int Fcitx5Selection::select(const std::string& method, std::uint32_t window, Time now)
@@ -52,11 +58,12 @@ int Fcitx5Selection::select(const std::string& method, std::uint32_t window, Tim
     return ++selection_;
 }
 
-bool Fcitx5Selection::acknowledge(int selection, const std::string& context)
+bool Fcitx5Selection::acknowledge(
+    int selection, const std::string& before, const std::string& after)
 {
     if (selection != selection_ || !isKeeping())
         return false;
-    request_->context = context;
+    request_->context = before == after ? before : "";
     return true;
 }
 
@@ -79,17 +86,16 @@ std::optional<int> Fcitx5Selection::beginCheck()
 Fcitx5Selection::Verdict Fcitx5Selection::endCheck(int selection, const Observation& seen, Time now)
 {
     isChecking_ = false;
-    // While the keyboard moves, nobody knows whose method was read.
-    if (selection != selection_ || !isKeeping() || !seen.method
-        || seen.contextBefore != seen.contextAfter)
+    if (selection != selection_ || !isKeeping() || !seen.isSteady())
         return Verdict::keep;
     const auto verdict = judge(seen, now);
     if (verdict == Verdict::requestAgain) {
-        request_->context = seen.contextAfter;
+        // The keyboard may move on before the daemon gets to the request.
+        request_->context.clear();
         request_->madeAt = now;
-    } else if (verdict == Verdict::end) {
+    } else if (verdict != Verdict::keep) {
         request_.reset();
-        take(*seen.method, now);
+        take(seen, now);
     }
     return verdict;
 }
@@ -97,12 +103,12 @@ Fcitx5Selection::Verdict Fcitx5Selection::endCheck(int selection, const Observat
 Fcitx5Selection::Verdict Fcitx5Selection::judge(const Observation& seen, Time now) const
 {
     if (seen.activeWindow != 0 && seen.activeWindow != request_->window)
-        return Verdict::end;
+        return Verdict::left;
     if (seen.contextAfter.empty())
         return Verdict::keep;
     if (seen.method != request_->method)
-        return seen.contextAfter == request_->context ? Verdict::end : Verdict::requestAgain;
-    return now - request_->madeAt > timeToBeSure ? Verdict::end : Verdict::keep;
+        return seen.contextAfter == request_->context ? Verdict::chosen : Verdict::requestAgain;
+    return now - request_->madeAt > timeToBeSure ? Verdict::reached : Verdict::keep;
 }
 
 } // namespace brindlex

@@ -11,6 +11,7 @@ namespace {
 
 using namespace std::chrono_literals;
 using Verdict = Fcitx5Selection::Verdict;
+using Change = Fcitx5Selection::Change;
 using Observation = Fcitx5Selection::Observation;
 
 /// Rows of the table in the header, each for all that it has in common.
@@ -30,12 +31,12 @@ const std::vector<std::chrono::nanoseconds> old{300ms + 1ns, 1h};
 const std::vector<std::chrono::nanoseconds> anyAge{-1h, 0ns, 300ms, 300ms + 1ns, 1h};
 
 const std::vector<Row> table{
-    {{anotherWindow}, {"", context, anotherContext}, anyMethod, anyAge, Verdict::end},
+    {{anotherWindow}, {"", context, anotherContext}, anyMethod, anyAge, Verdict::left},
     {sameOrNone, {""}, anyMethod, anyAge, Verdict::keep},
     {sameOrNone, {anotherContext}, otherMethods, anyAge, Verdict::requestAgain},
-    {sameOrNone, {context}, otherMethods, anyAge, Verdict::end},
+    {sameOrNone, {context}, otherMethods, anyAge, Verdict::chosen},
     {sameOrNone, {context, anotherContext}, {"pinyin"}, young, Verdict::keep},
-    {sameOrNone, {context, anotherContext}, {"pinyin"}, old, Verdict::end},
+    {sameOrNone, {context, anotherContext}, {"pinyin"}, old, Verdict::reached},
 };
 
 /// Calls `body` with each observation of the row and its age.
@@ -59,7 +60,7 @@ TEST(Fcitx5Selection, decidesByItsTable)
 
             EXPECT_EQ(check(selection, seen, start + age), row.verdict);
 
-            const bool ends = row.verdict == Verdict::end;
+            const bool ends = row.verdict != Verdict::keep && row.verdict != Verdict::requestAgain;
             EXPECT_EQ(selection.isKeeping(), !ends);
             const auto now = seen.method->empty() ? std::nullopt : seen.method;
             EXPECT_EQ(selection.method(), ends ? now : "pinyin");
@@ -88,9 +89,31 @@ TEST(Fcitx5Selection, isGivenOnceToAContextThatMissedIt)
 
     EXPECT_EQ(check(selection, missed, start + 100ms), Verdict::requestAgain);
     EXPECT_EQ(selection.method(), "pinyin");
-    EXPECT_EQ(check(selection, missed, start + 200ms), Verdict::end)
+    ASSERT_TRUE(selection.acknowledge(1, anotherContext, anotherContext));
+    EXPECT_EQ(check(selection, missed, start + 200ms), Verdict::chosen)
         << "What the context has after that is the choice of the user.";
     EXPECT_EQ(selection.method(), "keyboard-us");
+}
+
+TEST(Fcitx5Selection, isGivenAgainWhenTheKeyboardMovedWhileItWasRequested)
+{
+    auto selection = keeping();
+    const auto missed = observed(anotherContext, "keyboard-us");
+    ASSERT_EQ(check(selection, missed, start + 100ms), Verdict::requestAgain);
+    ASSERT_TRUE(selection.acknowledge(1, anotherContext, context));
+
+    EXPECT_EQ(check(selection, missed, start + 200ms), Verdict::requestAgain)
+        << "Nobody knows which context has got it: this one has not.";
+    EXPECT_EQ(selection.method(), "pinyin");
+}
+
+TEST(Fcitx5Selection, isGivenAgainAsLongAsTheRequestHasNoReply)
+{
+    auto selection = keeping();
+    const auto missed = observed(anotherContext, "keyboard-us");
+    ASSERT_EQ(check(selection, missed, start + 100ms), Verdict::requestAgain);
+
+    EXPECT_EQ(check(selection, missed, start + 200ms), Verdict::requestAgain);
 }
 
 TEST(Fcitx5Selection, waitsAgainForAContextThatItWasGivenTo)
@@ -102,13 +125,13 @@ TEST(Fcitx5Selection, waitsAgainForAContextThatItWasGivenTo)
 
     const auto taken = observed(anotherContext, "pinyin");
     EXPECT_EQ(check(selection, taken, later + 300ms), Verdict::keep);
-    EXPECT_EQ(check(selection, taken, later + 300ms + 1ns), Verdict::end);
+    EXPECT_EQ(check(selection, taken, later + 300ms + 1ns), Verdict::reached);
 }
 
 TEST(Fcitx5Selection, isGivenToTheFirstContextWhenNoneHadTheKeyboard)
 {
     auto selection = following("");
-    ASSERT_TRUE(selection.acknowledge(selection.select("pinyin", window, start), ""));
+    ASSERT_TRUE(selection.acknowledge(selection.select("pinyin", window, start), "", ""));
 
     EXPECT_EQ(check(selection, observed("", ""), start + 1h), Verdict::keep);
     EXPECT_EQ(
@@ -118,10 +141,10 @@ TEST(Fcitx5Selection, isGivenToTheFirstContextWhenNoneHadTheKeyboard)
 TEST(Fcitx5Selection, isOverWhenAnyWindowIsActiveAfterNone)
 {
     auto selection = following("");
-    selection.acknowledge(selection.select("pinyin", 0, start), "");
+    selection.acknowledge(selection.select("pinyin", 0, start), "", "");
 
     EXPECT_EQ(check(selection, observed("", "", 0), start), Verdict::keep);
-    EXPECT_EQ(check(selection, observed("", "", window), start), Verdict::end);
+    EXPECT_EQ(check(selection, observed("", "", window), start), Verdict::left);
 }
 
 TEST(Fcitx5Selection, decidesNothingWhileTheKeyboardMovesOrTheDaemonFails)
@@ -171,7 +194,7 @@ TEST(Fcitx5Selection, ignoresACheckThatEndsASecondTimeOrAfterItIsOver)
     const auto begun = selection.beginCheck();
     ASSERT_TRUE(begun);
     const auto choice = observed(context, "keyboard-us");
-    ASSERT_EQ(selection.endCheck(*begun, choice, start), Verdict::end);
+    ASSERT_EQ(selection.endCheck(*begun, choice, start), Verdict::chosen);
 
     EXPECT_EQ(selection.endCheck(*begun, observed(context, "anthy"), start), Verdict::keep);
 
@@ -181,11 +204,11 @@ TEST(Fcitx5Selection, ignoresACheckThatEndsASecondTimeOrAfterItIsOver)
 TEST(Fcitx5Selection, takesWhatACheckHasReadForFresh)
 {
     auto selection = keeping();
-    ASSERT_EQ(check(selection, observed(context, "pinyin"), start + 1s), Verdict::end);
+    ASSERT_EQ(check(selection, observed(context, "pinyin"), start + 1s), Verdict::reached);
 
     EXPECT_FALSE(selection.isStale(start + 1s + 50ms));
     EXPECT_TRUE(selection.isStale(start + 1s + 51ms));
-    EXPECT_FALSE(selection.take("pinyin", start + 2s)) << "It is known.";
+    EXPECT_EQ(selection.take(observed(context, "pinyin"), start + 2s), Change::none);
 }
 
 } // namespace

@@ -26,7 +26,7 @@ inline Fcitx5Selection::Observation observed(
 inline Fcitx5Selection following(const std::string& method)
 {
     Fcitx5Selection selection;
-    selection.take(method, start);
+    selection.take(observed(method.empty() ? "" : context, method), start);
     return selection;
 }
 
@@ -34,8 +34,8 @@ inline Fcitx5Selection following(const std::string& method)
 inline Fcitx5Selection keeping()
 {
     auto selection = following("keyboard-us");
-    selection.acknowledge(selection.select("pinyin", window, start), context);
-    selection.take("pinyin", start);
+    selection.acknowledge(selection.select("pinyin", window, start), context, context);
+    selection.take(observed(context, "pinyin"), start);
     EXPECT_EQ(selection.confirm(/*isReplyAnError*/ false), SelectionStatus::done);
     return selection;
 }

@@ -7,6 +7,7 @@ namespace brindlex {
 namespace {
 
 using namespace std::chrono_literals;
+using Change = Fcitx5Selection::Change;
 using Verdict = Fcitx5Selection::Verdict;
 
 TEST(Fcitx5Selection, knowsNothingBeforeItHasRead)
@@ -23,22 +24,46 @@ TEST(Fcitx5Selection, followsWhatIsReadAndNotifiesOfChangesAlone)
 {
     Fcitx5Selection selection;
 
-    EXPECT_TRUE(selection.take("pinyin", start));
+    EXPECT_EQ(selection.take(observed(context, "pinyin"), start), Change::context);
     EXPECT_EQ(selection.method(), "pinyin");
-    EXPECT_FALSE(selection.take("pinyin", start + 1s));
-    EXPECT_TRUE(selection.take("anthy", start + 2s));
+    EXPECT_EQ(selection.take(observed(context, "pinyin"), start + 1s), Change::none);
+    EXPECT_EQ(selection.take(observed(context, "anthy"), start + 2s), Change::choice);
     EXPECT_EQ(selection.method(), "anthy");
+}
+
+TEST(Fcitx5Selection, takesTheMethodOfAnotherContextForNobodysChoice)
+{
+    auto selection = following("pinyin");
+
+    EXPECT_EQ(selection.take(observed(anotherContext, "anthy"), start + 1s), Change::context);
+    EXPECT_EQ(selection.take(observed(anotherContext, "pinyin"), start + 2s), Change::choice);
+    EXPECT_EQ(selection.take(observed(context, "pinyin"), start + 3s), Change::none);
+    EXPECT_EQ(selection.take(observed(context, "anthy"), start + 4s), Change::choice)
+        << "The context is known although it had brought the same method.";
+}
+
+TEST(Fcitx5Selection, believesNothingThatIsReadWhileTheKeyboardMovesOrTheDaemonFails)
+{
+    auto selection = following("pinyin");
+
+    EXPECT_EQ(selection.take({context, anotherContext, "anthy", 0}, start + 1s), Change::none);
+    EXPECT_EQ(selection.take({context, context, std::nullopt, 0}, start + 1s), Change::none);
+
+    EXPECT_EQ(selection.method(), "pinyin");
+    EXPECT_TRUE(selection.isStale(start + 1s));
+    EXPECT_EQ(selection.take(observed(anotherContext, "anthy"), start + 2s), Change::context);
 }
 
 TEST(Fcitx5Selection, hasNoMethodWhileNoWindowTypes)
 {
     Fcitx5Selection selection;
 
-    EXPECT_TRUE(selection.take("", start)) << "That there is none is news at first.";
+    EXPECT_EQ(selection.take(observed("", ""), start), Change::context)
+        << "That there is none is news at first.";
     EXPECT_TRUE(selection.hasRead());
     EXPECT_EQ(selection.method(), std::nullopt);
-    EXPECT_FALSE(selection.take("", start + 1s));
-    EXPECT_TRUE(selection.take("pinyin", start + 2s));
+    EXPECT_EQ(selection.take(observed("", ""), start + 1s), Change::none);
+    EXPECT_EQ(selection.take(observed(context, "pinyin"), start + 2s), Change::context);
 }
 
 TEST(Fcitx5Selection, isStaleAfterFiftyMilliseconds)
@@ -55,7 +80,7 @@ TEST(Fcitx5Selection, isFreshAgainWithEachReadThatSaysTheSame)
 {
     auto selection = following("pinyin");
 
-    selection.take("pinyin", start + 50ms);
+    selection.take(observed(context, "pinyin"), start + 50ms);
 
     EXPECT_FALSE(selection.isStale(start + 100ms));
 }
@@ -107,8 +132,9 @@ TEST(Fcitx5Selection, isConfirmedByTheMethodOrByNone)
 {
     for (const std::string read : {"pinyin", ""}) {
         auto selection = following("keyboard-us");
-        EXPECT_TRUE(selection.acknowledge(selection.select("pinyin", window, start), context));
-        selection.take(read, start);
+        EXPECT_TRUE(
+            selection.acknowledge(selection.select("pinyin", window, start), context, context));
+        selection.take(observed(context, read), start);
 
         EXPECT_EQ(selection.confirm(/*isReplyAnError*/ false), SelectionStatus::done) << read;
 
@@ -120,8 +146,8 @@ TEST(Fcitx5Selection, isConfirmedByTheMethodOrByNone)
 TEST(Fcitx5Selection, isRefusedByAnotherMethod)
 {
     auto selection = following("keyboard-us");
-    selection.acknowledge(selection.select("pinyin", window, start), context);
-    selection.take("keyboard-us", start);
+    selection.acknowledge(selection.select("pinyin", window, start), context, context);
+    selection.take(observed(context, "keyboard-us"), start);
 
     EXPECT_EQ(selection.confirm(/*isReplyAnError*/ false), SelectionStatus::refused);
 
@@ -133,7 +159,7 @@ TEST(Fcitx5Selection, isNotConnectedAfterAnErrorWhateverWasReadBefore)
 {
     for (const std::string read : {"pinyin", "keyboard-us", ""}) {
         auto selection = following(read);
-        selection.acknowledge(selection.select("pinyin", window, start), "");
+        selection.acknowledge(selection.select("pinyin", window, start), "", "");
 
         EXPECT_EQ(selection.confirm(/*isReplyAnError*/ true), SelectionStatus::notConnected);
 
@@ -148,10 +174,10 @@ TEST(Fcitx5Selection, isCheckedAfterALateReplyUnlessAnotherCameMeanwhile)
     const int first = selection.select("pinyin", window, start);
     const int second = selection.select("anthy", window, start + 100ms);
 
-    EXPECT_FALSE(selection.acknowledge(first, context));
-    EXPECT_TRUE(selection.acknowledge(second, context));
+    EXPECT_FALSE(selection.acknowledge(first, context, context));
+    EXPECT_TRUE(selection.acknowledge(second, context, context));
 
-    EXPECT_EQ(check(selection, observed(context, "keyboard-us"), start + 200ms), Verdict::end)
+    EXPECT_EQ(check(selection, observed(context, "keyboard-us"), start + 200ms), Verdict::chosen)
         << "The context is the one at the second request.";
 }
 
@@ -159,9 +185,9 @@ TEST(Fcitx5Selection, isNotCheckedAfterAReplyThatComesWhenItIsOver)
 {
     auto selection = following("keyboard-us");
     const int late = selection.select("pinyin", window, start);
-    ASSERT_EQ(check(selection, observed(context, "anthy", anotherWindow), start), Verdict::end);
+    ASSERT_EQ(check(selection, observed(context, "anthy", anotherWindow), start), Verdict::left);
 
-    EXPECT_FALSE(selection.acknowledge(late, context));
+    EXPECT_FALSE(selection.acknowledge(late, context, context));
 
     EXPECT_FALSE(selection.isKeeping());
     EXPECT_EQ(selection.method(), "anthy");
@@ -172,7 +198,7 @@ TEST(Fcitx5Selection, replacesTheSelectionThatIsKept)
     auto selection = keeping();
 
     const int second = selection.select("anthy", anotherWindow, start + 200ms);
-    EXPECT_TRUE(selection.acknowledge(second, anotherContext));
+    EXPECT_TRUE(selection.acknowledge(second, anotherContext, anotherContext));
 
     EXPECT_EQ(selection.method(), "anthy");
     EXPECT_EQ(check(selection, observed(anotherContext, "anthy", anotherWindow), start + 400ms),
