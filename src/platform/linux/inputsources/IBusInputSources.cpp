@@ -129,7 +129,7 @@ SelectionStatus IBusInputSources::finish(
     }
     if (isRefused)
         layouts_.lockGroup(called.groupBefore);
-    notify();
+    notify(isRefused ? SelectionCause::undoing : SelectionCause::choice);
     if (!isRefused)
         return SelectionStatus::done;
     return bus_.isConnected() ? SelectionStatus::refused : SelectionStatus::notConnected;
@@ -214,8 +214,10 @@ void IBusInputSources::readCurrent(DBusDeadline deadline)
 
 void IBusInputSources::become(const std::string& engine)
 {
-    if (selection_.follow(engine))
-        notify();
+    const auto signal = selection_.follow(engine);
+    if (signal != IBusSelection::Signal::echo)
+        notify(
+            signal == IBusSelection::Signal::late ? SelectionCause::place : SelectionCause::choice);
 }
 
 void IBusInputSources::fail(const QDBusMessage& reply)

@@ -28,25 +28,27 @@ IBusSelection::Request IBusSelection::beginCall()
 bool IBusSelection::endCall(bool isRefused)
 {
     const auto called = *std::exchange(called_, std::nullopt);
-    if (isRefused)
+    if (isRefused) {
         std::erase(echoes_, called.engine);
-    else
+        refused_ = called.engine;
+    } else {
         selected_ = called.engine;
+    }
     if (requested_->engine != called.engine)
         return false;
     requested_.reset();
     return true;
 }
 
-bool IBusSelection::follow(const std::string& engine)
+IBusSelection::Signal IBusSelection::follow(const std::string& engine)
 {
     const auto echo = std::find(echoes_.begin(), echoes_.end(), engine);
     echoes_.erase(echoes_.begin(), echo == echoes_.end() ? echo : echo + 1);
     // Another selection of ours came after this one, and its own signal is on the way.
     if (!echoes_.empty())
-        return false;
+        return Signal::echo;
     selected_ = engine;
-    return true;
+    return std::exchange(refused_, std::nullopt) == engine ? Signal::late : Signal::choice;
 }
 
 } // namespace brindlex

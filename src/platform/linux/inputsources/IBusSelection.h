@@ -14,7 +14,8 @@ namespace brindlex {
 ///
 /// One call to the daemon is under way at a time: of two at once, the one whose engine has to be
 /// started first would win. Each engine that it selects comes back as a signal, too, which may be
-/// late: only the signal of the last one counts.
+/// late: only the signal of the last one counts. A call that was refused, or given up because the
+/// daemon hangs, may be carried out all the same: the signal of that is nobody's choice.
 class IBusSelection {
 public:
     /// An engine that is to be selected, and the layout group before.
@@ -24,6 +25,9 @@ public:
 
         bool operator==(const Request&) const = default;
     };
+
+    /// What the signal that an engine was selected stands for.
+    enum class Signal { echo, choice, late };
 
     /// The engine that is requested, else the one that is selected; nothing before any was.
     std::optional<std::string> engine() const;
@@ -41,8 +45,8 @@ public:
     /// as another engine was requested meanwhile.
     bool endCall(bool isRefused);
 
-    /// Takes the signal that an engine was selected, by whomever; whether it counts.
-    bool follow(const std::string& engine);
+    /// Takes the signal that an engine was selected, by whomever. That of an echo does not count.
+    Signal follow(const std::string& engine);
 
 private:
     std::optional<std::string> selected_;
@@ -50,6 +54,8 @@ private:
     std::optional<Request> called_;
     /// Engines that the daemon was called for and whose signals are still to come.
     std::vector<std::string> echoes_;
+    /// The engine of the last refusal, until the next signal that counts.
+    std::optional<std::string> refused_;
 };
 
 } // namespace brindlex

@@ -112,6 +112,34 @@ TEST(DesktopInputSources, doesNotHangWithAnIBusThatHangs)
     EXPECT_TRUE(loopUntil([&] { return currentID(sources) == "ibus:libpinyin"; }));
 }
 
+TEST(DesktopInputSources, takesAnEngineThatIsRefusedLateForNobodysChoice)
+{
+    VirtualDesktop desktop;
+    IBusDaemon daemon(desktop, ibusEngines);
+    ASSERT_TRUE(daemon.select("xkb:us::eng"));
+    const auto process = processOf(desktop, "ibus-daemon");
+    const SessionBus bus;
+    X11Connection connection;
+    DesktopInputSources sources(connection, bus.get());
+    ASSERT_TRUE(becomes(sources, "IBus"));
+    ASSERT_TRUE(loopUntil([&] { return currentID(sources) == "xkb:us::eng"; }));
+    std::vector<std::pair<std::string, SelectionCause>> notified;
+    const auto subscription = sources.observeSelectionChanges(
+        [&](SelectionCause cause) { notified.emplace_back(currentID(sources), cause); });
+
+    ::kill(process, SIGSTOP);
+    EXPECT_EQ(selectID(sources, "ibus:libpinyin"), 0);
+    EXPECT_TRUE(loopUntil([&] { return notified.size() == 2; })) << "after five seconds";
+    ::kill(process, SIGCONT);
+    // It carries out what it was called for all the same.
+    EXPECT_TRUE(loopUntil([&] { return notified.size() == 3; }));
+
+    EXPECT_EQ(notified,
+        (std::vector<std::pair<std::string, SelectionCause>>{
+            {"ibus:libpinyin", SelectionCause::choice}, {"xkb:us::eng", SelectionCause::undoing},
+            {"ibus:libpinyin", SelectionCause::place}}));
+}
+
 TEST(DesktopInputSources, endsInTheLastOfTwoEnginesWhenTheFirstHasToStart)
 {
     VirtualDesktop desktop({.keyboardLayouts = "us"});

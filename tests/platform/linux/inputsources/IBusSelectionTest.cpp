@@ -6,6 +6,7 @@ namespace brindlex {
 namespace {
 
 using Request = IBusSelection::Request;
+using Signal = IBusSelection::Signal;
 
 /// One that knows what is selected.
 IBusSelection with(const std::string& engine)
@@ -80,7 +81,8 @@ TEST(IBusSelection, staysWhereItWasWhenRefused)
     EXPECT_TRUE(selection.endCall(/*isRefused*/ true));
 
     EXPECT_EQ(selection.engine(), "english");
-    EXPECT_TRUE(selection.follow("anthy")) << "The signal of what was refused is not waited for.";
+    EXPECT_EQ(selection.follow("anthy"), Signal::choice)
+        << "The signal of what was refused is not waited for.";
     EXPECT_EQ(selection.engine(), "anthy");
 }
 
@@ -100,8 +102,8 @@ TEST(IBusSelection, followsWhatTheUserSelects)
 {
     auto selection = with("english");
 
-    EXPECT_TRUE(selection.follow("pinyin"));
-    EXPECT_TRUE(selection.follow("anthy"));
+    EXPECT_EQ(selection.follow("pinyin"), Signal::choice);
+    EXPECT_EQ(selection.follow("anthy"), Signal::choice);
 
     EXPECT_EQ(selection.engine(), "anthy");
 }
@@ -115,10 +117,23 @@ TEST(IBusSelection, isNotLedBackByALateSignalOfItsOwn)
         ASSERT_TRUE(selection.endCall(/*isRefused*/ false));
     }
 
-    EXPECT_FALSE(selection.follow("pinyin"));
+    EXPECT_EQ(selection.follow("pinyin"), Signal::echo);
     EXPECT_EQ(selection.engine(), "anthy");
-    EXPECT_TRUE(selection.follow("anthy"));
+    EXPECT_EQ(selection.follow("anthy"), Signal::choice);
     EXPECT_EQ(selection.engine(), "anthy");
+}
+
+TEST(IBusSelection, takesWhatWasRefusedAndComesAllTheSameForNobodysChoice)
+{
+    auto selection = with("english");
+    selection.request({"pinyin", 0});
+    selection.beginCall();
+    selection.endCall(/*isRefused*/ true);
+
+    EXPECT_EQ(selection.follow("pinyin"), Signal::late);
+    EXPECT_EQ(selection.engine(), "pinyin");
+    EXPECT_EQ(selection.follow("english"), Signal::choice);
+    EXPECT_EQ(selection.follow("pinyin"), Signal::choice) << "It came once.";
 }
 
 TEST(IBusSelection, followsAForeignSignalWhateverOfItsOwnWasToCome)
@@ -128,7 +143,7 @@ TEST(IBusSelection, followsAForeignSignalWhateverOfItsOwnWasToCome)
     selection.beginCall();
     ASSERT_TRUE(selection.endCall(/*isRefused*/ false));
 
-    EXPECT_TRUE(selection.follow("anthy"));
+    EXPECT_EQ(selection.follow("anthy"), Signal::choice);
 
     EXPECT_EQ(selection.engine(), "anthy");
 }
@@ -139,7 +154,7 @@ TEST(IBusSelection, namesTheRequestWhateverIsSelectedMeanwhile)
     ASSERT_TRUE(selection.request({"pinyin", 0}));
     selection.beginCall();
 
-    EXPECT_TRUE(selection.follow("anthy"));
+    EXPECT_EQ(selection.follow("anthy"), Signal::choice);
 
     EXPECT_EQ(selection.engine(), "pinyin");
 }
