@@ -178,7 +178,7 @@ void DesktopInputSources::takeIBus(bool isRunning, DBusDeadline deadline)
         dropIBus();
     } else if (!ibus_ || !ibus_->hasReplied()) {
         dropIBus();
-        ibus_ = std::make_unique<IBusInputSources>(xkb_, deadline);
+        ibus_ = std::make_unique<IBusInputSources>(xkb_, bus_, deadline);
         ibusChanges_ = ibus_->observe([this](SelectionCause hint) { changed(hint); });
     }
     settleSoon_.start();

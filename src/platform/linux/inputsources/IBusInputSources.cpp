@@ -49,8 +49,13 @@ InputSource sourceOf(const IBusEngine& engine)
 
 } // namespace
 
-IBusInputSources::IBusInputSources(XkbInputSources& layouts, DBusDeadline deadline)
-    : layouts_(layouts), problem_(bus_.problem())
+IBusInputSources::IBusInputSources(
+    XkbInputSources& layouts, const QDBusConnection& sessionBus, DBusDeadline deadline)
+    : layouts_(layouts),
+      gnomeSettings_(sessionBus, QStringLiteral("/ca/desrt/dconf/Writer/user"),
+          QStringLiteral("ca.desrt.dconf.Writer"), QStringLiteral("Notify"), {},
+          [this](const QDBusMessage& signal) { followGnome(firstOf(signal).toString()); }),
+      problem_(bus_.problem())
 {
     if (!bus_.isConnected())
         return;
@@ -166,6 +171,10 @@ void IBusInputSources::readEngineList(DBusDeadline deadline)
 
 void IBusInputSources::readEngines(const QStringList& names, DBusDeadline deadline)
 {
+    if (names.isEmpty()) {
+        readGnomeEngines();
+        return;
+    }
     onReply(bus_.call(daemon, "GetEnginesByNames", {names}), deadline, &context_,
         [this, names](const QDBusMessage& reply) {
             if (reply.type() == QDBusMessage::ErrorMessage) {
@@ -173,6 +182,33 @@ void IBusInputSources::readEngines(const QStringList& names, DBusDeadline deadli
                 return;
             }
             setEngines(names, firstOf(reply));
+        });
+}
+
+void IBusInputSources::followGnome(const QString& changed)
+{
+    // The key itself, or a folder in which several have changed at once.
+    if (QLatin1String(gnomeInputSourcesKey).startsWith(changed) && hasReplied())
+        readEngineList(doNotWait);
+}
+
+void IBusInputSources::readGnomeEngines()
+{
+    readGnomeInputSources(&context_, [this](const auto& sources) { findEngines(sources); });
+}
+
+void IBusInputSources::findEngines(const std::vector<GnomeInputSource>& sources)
+{
+    if (sources.empty()) {
+        setEngines(QStringList(), QVariant());
+        return;
+    }
+    onReply(bus_.call(daemon, "ListEngines", {}), doNotWait, &context_,
+        [this, sources](const QDBusMessage& reply) {
+            if (reply.type() == QDBusMessage::ErrorMessage)
+                fail(reply);
+            else
+                setEngines(enginesFor(sources, ibusEngines(firstOf(reply))), firstOf(reply));
         });
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/linux/inputsources/GnomeInputSources.h"
 #include "platform/linux/inputsources/IBusConnection.h"
 #include "platform/linux/inputsources/IBusEngine.h"
 #include "platform/linux/inputsources/IBusSelection.h"
@@ -15,7 +16,8 @@
 
 namespace brindlex {
 
-/// The enabled engines of the IBus daemon as input sources, over the daemon's own bus.
+/// The enabled engines of the IBus daemon as input sources, over the daemon's own bus. Where IBus
+/// has none enabled they are those that GNOME keeps for it.
 ///
 /// What is selected is followed by the daemon's signals and costs no call. Selecting also selects
 /// the X layout of the engine, which IBus leaves to others. An IBus with no more than one engine,
@@ -24,8 +26,9 @@ namespace brindlex {
 class IBusInputSources final : public InputSourceBackend {
 public:
     /// Connects to the daemon and requests what it has; waits for that until the deadline and goes
-    /// on from the loop.
-    IBusInputSources(XkbInputSources& layouts, DBusDeadline deadline);
+    /// on from the loop. Changes of GNOME's settings come over the session bus.
+    IBusInputSources(
+        XkbInputSources& layouts, const QDBusConnection& sessionBus, DBusDeadline deadline);
     ~IBusInputSources() override;
 
     std::string_view name() const override { return "IBus"; }
@@ -43,6 +46,9 @@ private:
     void listen();
     void readEngineList(DBusDeadline deadline);
     void readEngines(const QStringList& names, DBusDeadline deadline);
+    void followGnome(const QString& changed);
+    void readGnomeEngines();
+    void findEngines(const std::vector<GnomeInputSource>& sources);
     void setEngines(const QStringList& names, const QVariant& descriptions);
     void readCurrent(DBusDeadline deadline);
     void become(const std::string& engine);
@@ -58,6 +64,7 @@ private:
     std::vector<IBusEngine> engines_;
     std::vector<InputSource> sources_;
     IBusSelection selection_;
+    DBusSignal gnomeSettings_;
     bool hasEngines_ = false;
     bool hasCurrent_ = false;
     bool hasGone_ = false;

@@ -140,6 +140,27 @@ TEST(DesktopInputSources, takesAnEngineThatIsRefusedLateForNobodysChoice)
             {"ibus:libpinyin", SelectionCause::place}}));
 }
 
+TEST(DesktopInputSources, hasTheEnginesThatAreEnabledAsGnomeDoes)
+{
+    VirtualDesktop desktop({.keyboardLayouts = "us,de"});
+    const auto daemon
+        = IBusDaemon::inGnome(desktop, "[('xkb', 'de'), ('ibus', 'libpinyin'), ('xkb', 'zz')]");
+    const SessionBus bus;
+    X11Connection connection;
+    DesktopInputSources sources(connection, bus.get());
+    ASSERT_TRUE(becomes(sources, "IBus"));
+    EXPECT_EQ(idsOf(sources), (std::vector<std::string>{"xkb:de::deu", "ibus:libpinyin"}));
+    EXPECT_EQ(selectID(sources, "ibus:libpinyin"), 0);
+    EXPECT_TRUE(loopUntil([&] { return daemon->current() == "libpinyin"; }));
+    EXPECT_EQ(selectID(sources, "xkb:de::deu"), 0);
+    EXPECT_TRUE(loopUntil([&] { return daemon->current() == "xkb:de::deu"; }));
+
+    IBusDaemon::enableInGnome(desktop, "[('xkb', 'us'), ('ibus', 'libpinyin')]");
+    EXPECT_TRUE(loopUntil([&] {
+        return idsOf(sources) == std::vector<std::string>{"xkb:us::eng", "ibus:libpinyin"};
+    }));
+}
+
 TEST(DesktopInputSources, endsInTheLastOfTwoEnginesWhenTheFirstHasToStart)
 {
     VirtualDesktop desktop({.keyboardLayouts = "us"});
