@@ -19,6 +19,7 @@
 #include "platform/ProgramActivation.h"
 #include "platform/ProgramInstances.h"
 #include "platform/RunningApplications.h"
+#include "platform/SessionLock.h"
 #include "platform/UserDefaults.h"
 #include "platform/UserFolders.h"
 #include "platform/WindowList.h"
@@ -40,6 +41,7 @@ struct Platform {
     BrowserPageReading& browserPages;
     OverlayPanel& overlayPanel;
     ProgramActivation& activation;
+    SessionLock& sessionLock;
     EventPermissions& eventPermissions;
     EventTapping& eventTapping;
     EventPosting& eventPosting;

@@ -14,6 +14,7 @@
 #include "platform/linux/system/PosixProcessLaunching.h"
 #include "platform/linux/system/QtMainThread.h"
 #include "platform/linux/system/SessionBus.h"
+#include "platform/linux/system/SystemBus.h"
 #include "platform/linux/system/XdgUserFolders.h"
 #include "platform/posix/SerialQueue.h"
 
@@ -41,11 +42,13 @@ private:
     std::shared_ptr<RunningApplications> x11Applications();
     std::shared_ptr<BrowserPageReading> accessiblePages(const Clock& clock);
     std::shared_ptr<ApplicationOpening> x11Opening();
+    std::shared_ptr<SessionLock> x11Lock();
     X11Session& x11();
 
     // What every session offers.
     QtMainThread mainThread_;
     SessionBus sessionBus_;
+    SystemBus systemBus_;
     DesktopEntries desktopEntries_;
     SerialQueue preferencesQueue_;
     SerialQueue browserQueue_;

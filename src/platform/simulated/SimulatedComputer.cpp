@@ -30,6 +30,7 @@ Platform SimulatedComputer::platformWithInput(EventTapping& tapping, EventPostin
         .browserPages = browserPages,
         .overlayPanel = overlayPanel,
         .activation = activation,
+        .sessionLock = sessionLock,
         .eventPermissions = eventPermissions,
         .eventTapping = tapping,
         .eventPosting = posting,
