@@ -30,4 +30,13 @@ void selectKeyboardGroup(const XConnection& server, int group)
     server.sync();
 }
 
+void lockModifiers(const XConnection& server, std::uint8_t modifiers)
+{
+    useExtension(server);
+    constexpr std::uint8_t all = 0xFF;
+    xcb_xkb_latch_lock_state(
+        server.get(), XCB_XKB_ID_USE_CORE_KBD, all, modifiers, false, 0, 0, false, 0);
+    server.sync();
+}
+
 } // namespace brindlex

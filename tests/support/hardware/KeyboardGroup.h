@@ -10,4 +10,7 @@ int keyboardGroup(const XConnection& server);
 /// Selects a group, as a user does with the layout key.
 void selectKeyboardGroup(const XConnection& server, int group);
 
+/// Locks exactly these modifiers, by their bits, on all keyboards.
+void lockModifiers(const XConnection& server, std::uint8_t modifiers);
+
 } // namespace brindlex

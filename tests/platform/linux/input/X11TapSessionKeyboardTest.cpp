@@ -2,6 +2,8 @@
 
 #include "support/hardware/KeyboardGroup.h"
 
+#include <array>
+
 namespace brindlex {
 namespace {
 
@@ -27,6 +29,27 @@ TEST_F(X11TapSessionTest, knowsAHotkeyUnderCapsLockAndNumLock)
 
     EXPECT_TRUE(desktop_.receives({}));
     EXPECT_EQ(typesSeen(), (std::vector{EventType::keyDown, EventType::keyUp}));
+}
+
+TEST_F(X11TapSessionTest, knowsAHotkeyUnderEveryLockOfALayout)
+{
+    tap(controlA(), EventVerdict::swallow);
+    desktop_.keyboard.press(keycode::control);
+    desktop_.settle();
+    constexpr std::array locks{XCB_MOD_MASK_LOCK, XCB_MOD_MASK_2, XCB_MOD_MASK_3, XCB_MOD_MASK_5};
+    for (unsigned set = 0; set < 1U << locks.size(); ++set) {
+        std::uint8_t mask = 0;
+        for (std::size_t lock = 0; lock < locks.size(); ++lock)
+            if (set >> lock & 1U)
+                mask = static_cast<std::uint8_t>(mask | locks[lock]);
+        lockModifiers(server_, mask);
+        seen_.clear();
+
+        desktop_.keyboard.stroke(keycode::a);
+        desktop_.settle();
+
+        EXPECT_EQ(typesSeen(), (std::vector{EventType::keyDown, EventType::keyUp})) << set;
+    }
 }
 
 TEST_F(X11TapSessionTest, showsTheRepeatsOfAHeldKeyAndLetsTheServerRepeatIt)
