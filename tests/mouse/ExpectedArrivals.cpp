@@ -76,19 +76,23 @@ void ExpectedArrivals::postKey(const SyntheticEvent& event, std::uint64_t flags)
 {
     const auto keystroke
         = systemKeystroke(event.fields.value(EventField::keyboardEventKeycode), flags);
+    const bool isPress = event.type == EventType::keyDown;
+    if (keystroke.meaning == SystemKeystroke::Meaning::button)
+        lines_.push_back(buttonLine(isPress, buttonOfNumber(keystroke.number), keystroke.flags));
     if (keystroke.meaning != SystemKeystroke::Meaning::key)
         return;
-    const auto key = std::to_string(keycodesOf(keystroke.keyCode).front());
-    lines_.push_back(withModifiers(
-        "key " + key + (event.type == EventType::keyDown ? " down" : " up"), keystroke.flags));
+    const auto key = std::to_string(keycodesOf(keystroke.number).front());
+    lines_.push_back(withModifiers("key " + key + (isPress ? " down" : " up"), keystroke.flags));
 }
 
 void ExpectedArrivals::postScroll(const SyntheticEvent& event, std::uint64_t flags, Seconds now)
 {
     const auto pixels
         = [&](EventField field) { return static_cast<double>(event.fields.value(field)); };
-    turnWheel(vertical_.add(pixels(EventField::scrollWheelEventPointDeltaAxis1), now),
-        horizontal_.add(pixels(EventField::scrollWheelEventPointDeltaAxis2), now), flags);
+    const int up = vertical_.add(pixels(EventField::scrollWheelEventPointDeltaAxis1), now);
+    const int left = horizontal_.add(pixels(EventField::scrollWheelEventPointDeltaAxis2), now);
+    // With Shift the application would turn once more what goes sideways.
+    turnWheel(up, left, left != 0 ? flags & ~eventFlag::shift : flags);
 }
 
 } // namespace brindlex
