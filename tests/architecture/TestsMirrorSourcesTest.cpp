@@ -34,6 +34,7 @@ const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheir
     {"DBusNotificationsTest and DBusProgramInstancesTest, on a real bus",
         {"DBusReply", "DBusSignal", "SessionBus"}},
     {"PreferenceFileTest", {"FolderLock"}},
+    {"X11ApplicationOpeningTest, with a shell on a real bus", {"DesktopOverview"}},
     {"UserDefaultPreferenceKeysTest and the tests of the stores",
         {"InputMethodPreferenceKeys", "MousePreferenceKeys"}},
     {"AppLifecycleCoordinatorTest", {"SharedInstances"}},

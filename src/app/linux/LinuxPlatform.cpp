@@ -102,8 +102,7 @@ std::shared_ptr<BrowserPageReading> LinuxPlatform::accessiblePages(const Clock& 
 std::shared_ptr<ApplicationOpening> LinuxPlatform::x11Opening()
 {
     auto& session = x11();
-    return std::make_shared<X11ApplicationOpening>(
-        session.display, session.activeWindow, session.applications);
+    return std::make_shared<X11ApplicationOpening>(session.display, session.applications);
 }
 
 std::shared_ptr<SessionLock> LinuxPlatform::x11Lock()

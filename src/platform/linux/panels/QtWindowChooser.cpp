@@ -7,6 +7,7 @@
 #include "platform/linux/panels/WindowChooserView.h"
 #include "platform/linux/panels/X11InputHold.h"
 
+#include <QCursor>
 #include <QExposeEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -29,6 +30,8 @@ constexpr int mostAttempts = 50;
 /// What a notch of the wheel counts, in the eighths of a degree in which it comes.
 constexpr int notch = 120;
 constexpr int rowsPerNotch = 3;
+/// From how many pixels on the pointer was moved, rather than touched.
+constexpr double leastMotion = 10;
 
 std::vector<WindowLabel> labelsOf(const std::vector<OpenWindow>& windows)
 {
@@ -160,7 +163,16 @@ protected:
             owner_.choose(windows_[choice_.chosen()].window);
     }
 
-    void mouseMoveEvent(QMouseEvent* event) override { chooseAt(event->position()); }
+    // A pointer that rests where the list happens to come has chosen nothing, nor has a hand that
+    // is just letting go of a button.
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        const auto place = event->globalPosition();
+        isPointerAtRest_
+            = isPointerAtRest_ && (place - pointerAtFirst_).manhattanLength() < leastMotion;
+        if (!isPointerAtRest_)
+            chooseAt(event->position());
+    }
 
     void mousePressEvent(QMouseEvent* event) override
     {
@@ -247,6 +259,8 @@ private:
     int pressed_ = 0;
     Qt::MouseButton pressedButton_ = Qt::NoButton;
     bool pressedOutside_ = false;
+    QPointF pointerAtFirst_ = QCursor::pos();
+    bool isPointerAtRest_ = true;
     int turned_ = 0;
 };
 

@@ -92,10 +92,8 @@ void X11ActiveWindow::become(xcb_window_t window)
     believeNone_.stop();
     if (std::exchange(window_, window) == window)
         return;
-    const std::uint32_t properties = XCB_EVENT_MASK_PROPERTY_CHANGE;
     if (window != 0)
-        xcb_change_window_attributes(connection_.get(), window, XCB_CW_EVENT_MASK, &properties);
-    xcb_flush(connection_.get());
+        connection_.listenTo(window, XCB_EVENT_MASK_PROPERTY_CHANGE);
     observers_.notify();
 }
 

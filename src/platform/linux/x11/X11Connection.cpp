@@ -56,10 +56,13 @@ xcb_atom_t X11Connection::atom(std::string_view name)
     return atoms_.emplace(name, reply->atom).first->second;
 }
 
-void X11Connection::listenToRoot(std::uint32_t eventMask)
+void X11Connection::listenToRoot(std::uint32_t eventMask) { listenTo(root_, eventMask); }
+
+void X11Connection::listenTo(xcb_window_t window, std::uint32_t eventMask)
 {
-    rootMask_ |= eventMask;
-    xcb_change_window_attributes(connection_, root_, XCB_CW_EVENT_MASK, &rootMask_);
+    auto& mask = eventMasks_[window];
+    mask |= eventMask;
+    xcb_change_window_attributes(connection_, window, XCB_CW_EVENT_MASK, &mask);
     xcb_flush(connection_);
 }
 
