@@ -4,6 +4,7 @@
 #include "foundation/Subscription.h"
 #include "platform/MainThread.h"
 #include "platform/OverlayPanel.h"
+#include "platform/SessionLock.h"
 
 #include <string>
 
@@ -12,10 +13,10 @@ namespace brindlex {
 /// Shows a short message in the middle of the screen for a moment.
 ///
 /// A second message takes the place of the first, also while that fades, and stays for its own
-/// whole time. Main thread only.
+/// whole time. Nothing is shown at a locked session. Main thread only.
 class OverlayHUDController {
 public:
-    OverlayHUDController(OverlayPanel& panel, MainThread& mainThread);
+    OverlayHUDController(OverlayPanel& panel, MainThread& mainThread, SessionLock& lock);
 
     /// Shows the text now and lets it fade out after `duration`.
     void show(const std::string& text, Seconds duration);
@@ -26,6 +27,7 @@ public:
 private:
     OverlayPanel& panel_;
     MainThread& mainThread_;
+    SessionLock& lock_;
     Subscription hideWorkItem_;
 };
 

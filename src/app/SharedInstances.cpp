@@ -4,19 +4,20 @@ namespace brindlex {
 
 SharedInstances::SharedInstances(Platform& platform)
     : platform_(platform), preferences_(platform.defaults, platform.userFolders),
+      unlockedTapping_(platform.eventTapping, platform.sessionLock),
       changesOfOthers_(platform.defaults.observeChanges([this] { reload(); }))
 {
 }
 
 OverlayHUDController& SharedInstances::overlayHUDController()
 {
-    return overlayHUDController_.get(platform_.overlayPanel, platform_.mainThread);
+    return overlayHUDController_.get(
+        platform_.overlayPanel, platform_.mainThread, platform_.sessionLock);
 }
 
 GlobalEventTap& SharedInstances::globalEventTap()
 {
-    return globalEventTap_.get(
-        platform_.eventTapping, platform_.eventPermissions, platform_.activation);
+    return globalEventTap_.get(unlockedTapping_, platform_.eventPermissions, platform_.activation);
 }
 
 InputMethodSubsystem& SharedInstances::inputMethod() { return inputMethod_.get(platform_); }

@@ -3,6 +3,7 @@
 #include "app/OverlayHUDController.h"
 #include "app/Preferences.h"
 #include "eventtap/GlobalEventTap.h"
+#include "eventtap/UnlockedEventTapping.h"
 #include "foundation/MadeOnFirstUse.h"
 #include "inputmethod/InputMethodSubsystem.h"
 #include "mouse/MouseSubsystem.h"
@@ -28,6 +29,7 @@ private:
 
     Platform& platform_;
     Preferences preferences_;
+    UnlockedEventTapping unlockedTapping_;
     MadeOnFirstUse<OverlayHUDController> overlayHUDController_;
     MadeOnFirstUse<GlobalEventTap> globalEventTap_;
     MadeOnFirstUse<InputMethodSubsystem> inputMethod_;

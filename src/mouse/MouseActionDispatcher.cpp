@@ -17,14 +17,20 @@ SyntheticEvent keyEvent(EventType type, const MouseActionEffect::PostKeystroke& 
 } // namespace
 
 MouseActionDispatcher::MouseActionDispatcher(EventPosting& posting,
-    ApplicationOpening& applications, ProcessLaunching& processes, SpaceSwitcher& spaces)
-    : posting_(posting), applications_(applications), processes_(processes), spaces_(spaces)
+    ApplicationOpening& applications, ProcessLaunching& processes, SpaceSwitcher& spaces,
+    SessionLock& lock)
+    : posting_(posting), applications_(applications), processes_(processes), spaces_(spaces),
+      lock_(lock)
 {
 }
 
 void MouseActionDispatcher::perform(const MouseAction::Any& action)
 {
-    Log::info("dispatch action: " + std::string(logLabel(action)), logCategory::mouse);
+    const std::string label(logLabel(action));
+    // A gesture that began before the session was locked may end at the locked one.
+    if (lock_.isLocked())
+        return Log::info("no action while the session is locked: " + label, logCategory::mouse);
+    Log::info("dispatch action: " + label, logCategory::mouse);
     match(
         effectOf(action),
         [&](const MouseActionEffect::OpenApplication& effect) { applications_.open(effect.path); },

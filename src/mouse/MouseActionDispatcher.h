@@ -4,6 +4,7 @@
 #include "platform/ApplicationOpening.h"
 #include "platform/EventPosting.h"
 #include "platform/ProcessLaunching.h"
+#include "platform/SessionLock.h"
 
 namespace brindlex {
 
@@ -11,11 +12,11 @@ class SpaceSwitcher;
 
 /// Performs what bindings ask for: the one place where a gesture or a click reaches the world
 /// outside. Never waits, so that it may be called while an event does. Failures are not reported to
-/// the caller. Main thread only.
+/// the caller. At a locked session nothing is done, and the log says so. Main thread only.
 class MouseActionDispatcher {
 public:
     MouseActionDispatcher(EventPosting& posting, ApplicationOpening& applications,
-        ProcessLaunching& processes, SpaceSwitcher& spaces);
+        ProcessLaunching& processes, SpaceSwitcher& spaces, SessionLock& lock);
 
     void perform(const MouseAction::Any& action);
 
@@ -24,6 +25,7 @@ private:
     ApplicationOpening& applications_;
     ProcessLaunching& processes_;
     SpaceSwitcher& spaces_;
+    SessionLock& lock_;
 };
 
 } // namespace brindlex

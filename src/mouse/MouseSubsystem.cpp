@@ -12,8 +12,8 @@ SpaceSwitcher& MouseSubsystem::spaceSwitcher()
 
 MouseActionDispatcher& MouseSubsystem::actionDispatcher()
 {
-    return actionDispatcher_.get(
-        platform_.eventPosting, platform_.opening, platform_.processes, spaceSwitcher());
+    return actionDispatcher_.get(platform_.eventPosting, platform_.opening, platform_.processes,
+        spaceSwitcher(), platform_.sessionLock);
 }
 
 MouseResizeCursorDetector& MouseSubsystem::resizeCursorDetector()

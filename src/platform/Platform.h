@@ -20,6 +20,7 @@
 #include "platform/ProgramActivation.h"
 #include "platform/ProgramInstances.h"
 #include "platform/RunningApplications.h"
+#include "platform/SessionLock.h"
 #include "platform/UserDefaults.h"
 #include "platform/UserFolders.h"
 #include "platform/WindowList.h"
@@ -42,6 +43,7 @@ struct Platform {
     BrowserPageReading& browserPages;
     OverlayPanel& overlayPanel;
     ProgramActivation& activation;
+    SessionLock& sessionLock;
     EventPermissions& eventPermissions;
     EventTapping& eventTapping;
     EventPosting& eventPosting;

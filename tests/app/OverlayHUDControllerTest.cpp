@@ -2,6 +2,7 @@
 
 #include "platform/simulated/SimulatedMainThread.h"
 #include "platform/simulated/SimulatedOverlayPanel.h"
+#include "platform/simulated/SimulatedSessionLock.h"
 
 #include <gtest/gtest.h>
 
@@ -14,7 +15,8 @@ struct OverlayHUDControllerTest : testing::Test {
     SimulatedClock clock;
     SimulatedMainThread mainThread{clock};
     SimulatedOverlayPanel panel{mainThread};
-    OverlayHUDController controller{panel, mainThread};
+    SimulatedSessionLock lock;
+    OverlayHUDController controller{panel, mainThread, lock};
 };
 
 TEST_F(OverlayHUDControllerTest, doesNotTouchThePanelBeforeFirstUse)
@@ -30,6 +32,18 @@ TEST_F(OverlayHUDControllerTest, showsTheTextAtOnce)
 
     EXPECT_EQ(panel.text(), "U.S.");
     EXPECT_EQ(panel.calls(), Calls{"show U.S."});
+}
+
+TEST_F(OverlayHUDControllerTest, showsNothingAtALockedSession)
+{
+    lock.locked = true;
+    controller.show("U.S.", 0.8);
+    mainThread.advance(2);
+    EXPECT_EQ(panel.calls(), Calls{});
+
+    lock.locked = false;
+    controller.show("German", 0.8);
+    EXPECT_EQ(panel.calls(), Calls{"show German"});
 }
 
 TEST_F(OverlayHUDControllerTest, fadesOutAfterTheDurationAndNotBefore)
@@ -124,8 +138,9 @@ TEST(OverlayHUDController, cancelsWhatIsScheduled)
     SimulatedClock clock;
     SimulatedMainThread mainThread(clock);
     SimulatedOverlayPanel panel(mainThread);
+    SimulatedSessionLock lock;
     {
-        OverlayHUDController controller(panel, mainThread);
+        OverlayHUDController controller(panel, mainThread, lock);
         controller.show("U.S.", 0.8);
     }
     mainThread.advance(2);

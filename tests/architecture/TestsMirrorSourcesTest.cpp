@@ -36,6 +36,7 @@ const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheir
         {"DBusReply", "DBusSignal", "SessionBus"}},
     {"PreferenceFileTest", {"FolderLock"}},
     {"SwitchReducerSelectionTest and its neighbours", {"SwitchAttempt"}},
+    {"X11ApplicationOpeningTest, with a shell on a real bus", {"DesktopOverview"}},
     {"UserDefaultPreferenceKeysTest and the tests of the stores",
         {"InputMethodPreferenceKeys", "MousePreferenceKeys"}},
     {"AppLifecycleCoordinatorTest", {"SharedInstances"}},

@@ -62,8 +62,7 @@ TEST(Learning, doesNotTakeItsOwnChangesForTheUsers)
     }
 
     EXPECT_TRUE(throughout(300ms, [&] {
-        return samples(desk.files, "Alpha").empty()
-            && samples(desk.files, "Beta").empty();
+        return samples(desk.files, "Alpha").empty() && samples(desk.files, "Beta").empty();
     }));
 }
 
@@ -104,8 +103,7 @@ TEST(LearningInTime, isOnDiskWithinATenthOfASecond)
     eventually([] { return false; }, 100ms);
     program.kill();
 
-    EXPECT_EQ(samples(desk.files, "Alpha"), std::vector<std::string>{german})
-        << program.report();
+    EXPECT_EQ(samples(desk.files, "Alpha"), std::vector<std::string>{german}) << program.report();
 }
 
 } // namespace

@@ -71,9 +71,8 @@ MouseGestureBinding gesture(
     MouseButton button, ModifierSet modifiers, MouseDirection direction, MouseAction::Any action);
 MouseClickBinding click(MouseButton button, ModifierSet modifiers, MouseAction::Any action);
 
-/// What an application gets of going forward: alt with the right arrow.
-inline const MouseDesk::Lines forwardStroke{
-    "key 64 down", "key 114 down (alt)", "key 114 up (alt)", "key 64 up (alt)"};
+/// What an application gets of going forward: the second side button.
+inline const MouseDesk::Lines forwardClick{"press 9", "release 9"};
 
 /// A user of all that there is: gestures on a side button to all sides and on the left button with
 /// option, a click on the middle button, and a smooth wheel.

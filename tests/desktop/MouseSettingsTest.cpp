@@ -21,7 +21,7 @@ TEST_F(Mouse, followsSettingsThatAnotherProcessWrites)
     EXPECT_TRUE(eventually([&] { return desk.isAnyDeviceTaken(); })) << desk.program->report();
     drag(backButton, 60, 0);
     desk.mouse.release(backButton);
-    EXPECT_TRUE(receives(window, forwardStroke));
+    EXPECT_TRUE(receives(window, forwardClick));
 
     desk.set({});
     EXPECT_TRUE(desk.givesDevicesBack()) << desk.program->report();
@@ -52,7 +52,7 @@ TEST_F(Mouse, losesAndRegainsThePermissionOfTheUser)
     window.forget();
     drag(backButton, 60, 0);
     desk.mouse.release(backButton);
-    EXPECT_TRUE(receives(window, forwardStroke));
+    EXPECT_TRUE(receives(window, forwardClick));
 }
 
 TEST_F(Mouse, startsOnceTheUserAllowsIt)
@@ -70,7 +70,7 @@ TEST_F(Mouse, startsOnceTheUserAllowsIt)
     EventLogWindow window;
     drag(backButton, 60, 0);
     desk.mouse.release(backButton);
-    EXPECT_TRUE(receives(window, forwardStroke));
+    EXPECT_TRUE(receives(window, forwardClick));
 }
 
 TEST_F(Mouse, worksByDefaultsWhereItsSettingsAreDamaged)

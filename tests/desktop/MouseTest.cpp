@@ -11,7 +11,7 @@ TEST_F(Mouse, goesForwardByADragWithTheSideButton)
     drag(backButton, 60, 0);
     desk.mouse.release(backButton);
 
-    EXPECT_TRUE(receives(window, forwardStroke));
+    EXPECT_TRUE(receives(window, forwardClick));
     EXPECT_TRUE(desk.program->logs("MouseGesture: dispatched on lock Side Back (4) Right"));
 }
 

@@ -177,6 +177,22 @@ TEST_F(WindowChooser, takesTheRowThatIsClicked)
     EXPECT_TRUE(isActive(first));
 }
 
+TEST_F(WindowChooser, choosesNothingByAPointerThatRestsWhereItComes)
+{
+    const auto& first = open("First");
+    open("Second");
+    const auto& screen = desk.server.screen();
+    // On the row of the present window, and touched as a hand does that lets a button go.
+    movePointer(screen.width_in_pixels / 2, screen.height_in_pixels / 2 - rowHeight / 2);
+    ASSERT_TRUE(opens());
+    desk.mouse.move(2, 1);
+    desk.settle();
+
+    stroke(keycode::enter);
+
+    EXPECT_TRUE(isActive(first));
+}
+
 TEST_F(WindowChooser, closesByEscapeByAClickElsewhereAndByTheNextTime)
 {
     open("First");

@@ -66,11 +66,11 @@ void ExpectedArrivals::post(
         posted, [&](const SyntheticEvent& event) { postEvent(event, heldFlags); },
         [&](const RecordedInput::AnnouncedScroll& scroll) {
             scrollFlags_ = scroll.flags;
-            turnWheel(vertical_.announce(scroll.distance.vertical, now),
+            turnPosted(vertical_.announce(scroll.distance.vertical, now),
                 horizontal_.announce(scroll.distance.horizontal, now), scrollFlags_);
         },
         [&](RecordedInput::FinishedScroll) {
-            turnWheel(vertical_.finish(), horizontal_.finish(), scrollFlags_);
+            turnPosted(vertical_.finish(), horizontal_.finish(), scrollFlags_);
         });
 }
 
@@ -91,19 +91,28 @@ void ExpectedArrivals::postKey(const SyntheticEvent& event, std::uint64_t flags)
 {
     const auto keystroke
         = systemKeystroke(event.fields.value(EventField::keyboardEventKeycode), flags);
+    const bool isPress = event.type == EventType::keyDown;
+    if (keystroke.meaning == SystemKeystroke::Meaning::button)
+        lines_.push_back(buttonLine(isPress, buttonOfNumber(keystroke.number), keystroke.flags));
     if (keystroke.meaning != SystemKeystroke::Meaning::key)
         return;
-    const auto key = std::to_string(keycodesOf(keystroke.keyCode).front());
-    lines_.push_back(withModifiers(
-        "key " + key + (event.type == EventType::keyDown ? " down" : " up"), keystroke.flags));
+    const auto key = std::to_string(keycodesOf(keystroke.number).front());
+    lines_.push_back(withModifiers("key " + key + (isPress ? " down" : " up"), keystroke.flags));
 }
 
 void ExpectedArrivals::postScroll(const SyntheticEvent& event, std::uint64_t flags)
 {
     const auto pixels
         = [&](EventField field) { return static_cast<double>(event.fields.value(field)); };
-    turnWheel(vertical_.post(pixels(EventField::scrollWheelEventPointDeltaAxis1)),
-        horizontal_.post(pixels(EventField::scrollWheelEventPointDeltaAxis2)), flags);
+    const int up = vertical_.post(pixels(EventField::scrollWheelEventPointDeltaAxis1));
+    const int left = horizontal_.post(pixels(EventField::scrollWheelEventPointDeltaAxis2));
+    turnPosted(up, left, flags);
+}
+
+void ExpectedArrivals::turnPosted(int up, int left, std::uint64_t flags)
+{
+    // With Shift the application would turn once more what goes sideways.
+    turnWheel(up, left, left != 0 ? flags & ~eventFlag::shift : flags);
 }
 
 } // namespace brindlex

@@ -31,6 +31,7 @@ private:
     void postEvent(const SyntheticEvent& event, std::uint64_t heldFlags);
     void postKey(const SyntheticEvent& event, std::uint64_t flags);
     void postScroll(const SyntheticEvent& event, std::uint64_t flags);
+    void turnPosted(int up, int left, std::uint64_t flags);
 
     std::vector<std::string> lines_;
     std::map<std::pair<int, std::int64_t>, bool> pressesThatArrived_;

@@ -22,12 +22,18 @@ constexpr std::array modifierKeys{ModifierKey{eventFlag::shift, keycode::shift},
     ModifierKey{eventFlag::command, keycode::super},
     ModifierKey{eventFlag::capsLock, keycode::capsLock}};
 
-/// Whether the line is about a modifier key, which goes up and down for what is posted.
+/// The highest key without a meaning of the usual layouts, which goes with modifiers whose press
+/// was swallowed.
+constexpr auto companyKey = "key 248 ";
+
+/// Whether the line is about a modifier key, which goes up and down for what is posted, or about
+/// the key that goes with it.
 bool isOfModifierKey(const std::string& line)
 {
-    return std::ranges::any_of(modifierKeys, [&](const ModifierKey& modifier) {
+    const bool isModifier = std::ranges::any_of(modifierKeys, [&](const ModifierKey& modifier) {
         return line.starts_with("key " + std::to_string(modifier.key) + " ");
     });
+    return isModifier || line.starts_with(companyKey);
 }
 
 /// Whether the event is what the input has become.

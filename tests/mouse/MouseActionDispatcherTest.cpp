@@ -6,6 +6,7 @@
 #include "platform/simulated/SimulatedInput.h"
 #include "platform/simulated/SimulatedMainThread.h"
 #include "platform/simulated/SimulatedProcessLaunching.h"
+#include "platform/simulated/SimulatedSessionLock.h"
 #include "support/basics/RecordedLog.h"
 
 #include <gtest/gtest.h>
@@ -30,7 +31,8 @@ protected:
     SimulatedApplicationOpening applications;
     SimulatedProcessLaunching processes;
     SpaceSwitcher spaces{input, displayLink, mainThread, clock};
-    MouseActionDispatcher dispatcher{input, applications, processes, spaces};
+    SimulatedSessionLock lock;
+    MouseActionDispatcher dispatcher{input, applications, processes, spaces, lock};
 };
 
 TEST_F(MouseActionDispatcherTest, pressesAndReleasesTheKeyOfAnAction)
@@ -40,6 +42,23 @@ TEST_F(MouseActionDispatcherTest, pressesAndReleasesTheKeyOfAnAction)
     EXPECT_EQ(log.lines(), (Lines{"INFO [mouse] dispatch action: Show Desktop"}));
     EXPECT_EQ(input.delivered(),
         (std::vector{keyEvent(EventType::keyDown, 103, 0), keyEvent(EventType::keyUp, 103, 0)}));
+}
+
+TEST_F(MouseActionDispatcherTest, doesNothingAtALockedSession)
+{
+    lock.locked = true;
+
+    dispatcher.perform(MouseAction::Plain::missionControl);
+    dispatcher.perform(MouseAction::Plain::back);
+    dispatcher.perform(MouseAction::RunShellCommand{"true"});
+
+    EXPECT_EQ(log.lines(),
+        (Lines{"INFO [mouse] no action while the session is locked: Mission Control",
+            "INFO [mouse] no action while the session is locked: Back",
+            "INFO [mouse] no action while the session is locked: Run Shell Command"}));
+    EXPECT_TRUE(applications.opened.empty());
+    EXPECT_EQ(input.delivered(), std::vector<Event>{});
+    EXPECT_TRUE(processes.launches.empty());
 }
 
 TEST_F(MouseActionDispatcherTest, addsNoModifierThatIsHeld)

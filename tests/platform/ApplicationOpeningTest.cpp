@@ -42,7 +42,7 @@ private:
     X11ActiveWindow activeWindow_{connection_};
     DesktopEntries entries_{{}, {}};
     X11RunningApplications applications_{connection_, activeWindow_, entries_};
-    X11ApplicationOpening opening_{connection_, activeWindow_, applications_};
+    X11ApplicationOpening opening_{connection_, applications_};
 };
 
 template <typename Desk>

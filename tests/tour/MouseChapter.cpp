@@ -44,9 +44,8 @@ public:
         EventLogWindow window;
         drag(60, 0);
         desk_.mouse.release(backButton);
-        report_.check(desk_.receives(window, forwardStroke),
-            "The window in front gets the keys for forward, Alt and the right arrow, and nothing "
-            "of the drag.");
+        report_.check(desk_.receives(window, forwardClick),
+            "The window under the pointer gets the button for forward, and nothing of the drag.");
 
         report_.tell("The user clicks the side button without dragging it.");
         window.forget();

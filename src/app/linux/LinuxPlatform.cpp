@@ -1,5 +1,6 @@
 #include "app/linux/LinuxPlatform.h"
 
+#include "app/linux/EitherSessionLock.h"
 #include "platform/linux/accessibility/AccessibleBrowserPages.h"
 #include "platform/linux/accessibility/AccessibleElementTree.h"
 #include "platform/linux/input/X11CursorReading.h"
@@ -9,7 +10,9 @@
 #include "platform/linux/inputsources/DesktopInputSources.h"
 #include "platform/linux/panels/QtOverlayPanel.h"
 #include "platform/linux/panels/X11ApplicationOpening.h"
+#include "platform/linux/system/DBusSessionLock.h"
 #include "platform/linux/windows/RandRDisplayLink.h"
+#include "platform/linux/windows/X11SessionLock.h"
 #include "platform/linux/windows/X11WindowList.h"
 
 #include <memory>
@@ -50,6 +53,7 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
         .overlayPanel = first.of<OverlayPanel>(
             {{hasX11, [&] { return make_shared<QtOverlayPanel>(x11().display); }}}),
         .activation = activation_,
+        .sessionLock = first.of<SessionLock>({{hasX11, [&] { return x11Lock(); }}}),
         .eventPermissions = first.of<EventPermissions>({{hasX11,
             [&] { return make_shared<X11EventPermissions>(x11().input, session_.preferences); }}}),
         .eventTapping = first.of<EventTapping>(
@@ -97,8 +101,14 @@ std::shared_ptr<BrowserPageReading> LinuxPlatform::accessiblePages(const Clock& 
 std::shared_ptr<ApplicationOpening> LinuxPlatform::x11Opening()
 {
     auto& session = x11();
-    return std::make_shared<X11ApplicationOpening>(
-        session.display, session.activeWindow, session.applications);
+    return std::make_shared<X11ApplicationOpening>(session.display, session.applications);
+}
+
+std::shared_ptr<SessionLock> LinuxPlatform::x11Lock()
+{
+    return std::make_shared<EitherSessionLock>(
+        std::make_shared<DBusSessionLock>(session_.bus.connection(), systemBus_.connection()),
+        std::make_shared<X11SessionLock>(x11().display));
 }
 
 X11Session& LinuxPlatform::x11()

@@ -11,6 +11,7 @@
 #include "platform/linux/applications/QtIconRendering.h"
 #include "platform/linux/panels/QtProgramActivation.h"
 #include "platform/linux/system/PosixProcessLaunching.h"
+#include "platform/linux/system/SystemBus.h"
 #include "platform/posix/SerialQueue.h"
 
 #include <functional>
@@ -36,10 +37,12 @@ private:
     std::shared_ptr<RunningApplications> x11Applications();
     std::shared_ptr<BrowserPageReading> accessiblePages(const Clock& clock);
     std::shared_ptr<ApplicationOpening> x11Opening();
+    std::shared_ptr<SessionLock> x11Lock();
     X11Session& x11();
 
     // What every session offers.
     LinuxSession& session_;
+    SystemBus systemBus_;
     DesktopEntries desktopEntries_;
     SerialQueue browserQueue_;
     SerialQueue elementQueue_;

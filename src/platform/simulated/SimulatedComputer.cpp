@@ -31,6 +31,7 @@ Platform SimulatedComputer::platformWithInput(EventTapping& tapping, EventPostin
         .browserPages = browserPages,
         .overlayPanel = overlayPanel,
         .activation = activation,
+        .sessionLock = sessionLock,
         .eventPermissions = eventPermissions,
         .eventTapping = tapping,
         .eventPosting = posting,

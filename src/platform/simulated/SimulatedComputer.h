@@ -23,6 +23,7 @@
 #include "platform/simulated/SimulatedProcessLaunching.h"
 #include "platform/simulated/SimulatedProgramActivation.h"
 #include "platform/simulated/SimulatedProgramInstances.h"
+#include "platform/simulated/SimulatedSessionLock.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "platform/simulated/SimulatedUserFolders.h"
 #include "platform/simulated/SimulatedWindowList.h"
@@ -79,6 +80,7 @@ public:
     SimulatedBrowserPages browserPages;
     SimulatedOverlayPanel overlayPanel;
     SimulatedProgramActivation activation;
+    SimulatedSessionLock sessionLock;
     SimulatedEventPermissions eventPermissions;
     SimulatedInput input;
     SimulatedMouse mouse{input};

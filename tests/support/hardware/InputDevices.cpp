@@ -71,4 +71,18 @@ bool takeDevice(const XConnection& server, const std::string& name)
     return reply && reply->status == XCB_GRAB_STATUS_SUCCESS;
 }
 
+bool takeButton(const XConnection& server, const std::string& name, std::uint32_t button)
+{
+    const std::uint32_t events = XCB_INPUT_XI_EVENT_MASK_BUTTON_PRESS;
+    const std::uint32_t modifiers = XCB_INPUT_MODIFIER_MASK_ANY;
+    const XReply<xcb_input_xi_passive_grab_device_reply_t> reply(
+        xcb_input_xi_passive_grab_device_reply(server.get(),
+            xcb_input_xi_passive_grab_device(server.get(), XCB_CURRENT_TIME, server.root(),
+                XCB_CURSOR_NONE, button, deviceWithName(server, name), 1, 1,
+                XCB_INPUT_GRAB_TYPE_BUTTON, XCB_INPUT_GRAB_MODE_22_ASYNC,
+                XCB_INPUT_GRAB_MODE_22_ASYNC, XCB_INPUT_GRAB_OWNER_NO_OWNER, &events, &modifiers),
+            nullptr));
+    return reply && reply->num_modifiers == 0;
+}
+
 } // namespace brindlex

@@ -17,4 +17,8 @@ void setDevicePresent(const XConnection& server, const std::string& name, bool i
 /// Takes a device for the connection alone, by its name; whether that was allowed.
 bool takeDevice(const XConnection& server, const std::string& name);
 
+/// Takes a button of a device for the connection alone, as it counts them, with whatever modifiers;
+/// whether that was allowed.
+bool takeButton(const XConnection& server, const std::string& name, std::uint32_t button);
+
 } // namespace brindlex

@@ -34,7 +34,8 @@ ModifierChange changeToHold(std::uint64_t flags, const ModifierState& state)
                 change.presses.push_back(*first);
         }
     }
-    change.switchesCapsLockOff = state.isCapsLockOn && (flags & eventFlag::capsLock) == 0;
+    change.switchesCapsLockOff
+        = (state.flags & eventFlag::capsLock) != 0 && (flags & eventFlag::capsLock) == 0;
     return change;
 }
 

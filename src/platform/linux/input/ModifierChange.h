@@ -13,7 +13,8 @@ struct ModifierState {
     std::array<std::vector<std::uint8_t>, 8> keysOf{};
     /// The keys that are down.
     std::bitset<256> keysDown{};
-    bool isCapsLockOn = false;
+    /// The modifiers that are in force, as flags of an event.
+    std::uint64_t flags = 0;
 
     bool operator==(const ModifierState&) const = default;
 };

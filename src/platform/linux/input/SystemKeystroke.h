@@ -14,19 +14,22 @@ struct SystemKeystroke {
     enum class Meaning {
         /// A key like any other.
         key,
+        /// A button of the mouse.
+        button,
         /// To be done by the window manager, with the press.
         showDesktop,
     };
 
     Meaning meaning{};
-    std::int64_t keyCode = 0;
+    /// The key code, or the button's number as events count them.
+    std::int64_t number = 0;
     std::uint64_t flags = 0;
 
     bool operator==(const SystemKeystroke&) const = default;
 };
 
-/// Back and forward, command with a bracket on a Mac, are Alt with an arrow here; F11 alone shows
-/// the desktop. `flags` are those of the keystroke.
+/// Back and forward, command with a bracket on a Mac, are the side buttons of a mouse here; F11
+/// alone shows the desktop. `flags` are those of the keystroke.
 SystemKeystroke systemKeystroke(std::int64_t keyCode, std::uint64_t flags);
 
 } // namespace brindlex

@@ -19,8 +19,9 @@ public:
     explicit X11DeviceGrabs(X11Connection& connection) : connection_(connection) { }
 
     /// Requests from the server what the demand lacks and gives back what it has too much. False
-    /// when something is left to be done: another program holds a device, or one would have to be
-    /// given back while `mayLetGo` forbids it, as a button is held.
+    /// when something is left to be done: another program holds a device or a trigger of one, which
+    /// the log says once, or a device would have to be given back while `mayLetGo` forbids it, as a
+    /// button is held.
     bool apply(const TapDemand& demand, std::span<const X11InputDevice> devices, bool mayLetGo);
 
     /// Whether the device is taken all the time.
@@ -32,8 +33,8 @@ public:
     /// Whether no device is taken, nor can be by a trigger.
     bool isNothing() const;
 
-    /// The device has gone, and what was taken of it.
-    void forget(std::uint16_t device) { grabs_.erase(device); }
+    /// The device has gone, or is switched off and may come back: nothing is taken of it any more.
+    void forget(std::uint16_t device);
 
 private:
     struct Grab {
@@ -41,6 +42,8 @@ private:
         /// Whether the log already says that another program holds it.
         bool isReported = false;
         std::set<TapDemand::Trigger> triggers{};
+        /// Those of them that another program holds, with some modifiers at least.
+        std::set<TapDemand::Trigger> refused{};
 
         bool isNothing() const { return !isTaken && triggers.empty(); }
     };
@@ -51,6 +54,8 @@ private:
     void giveBack(const X11InputDevice& device);
     void setTriggers(
         const X11InputDevice& device, Grab& grab, const std::set<TapDemand::Trigger>& triggers);
+    void giveBackTriggers(std::uint16_t device, std::uint8_t grabType, Grab& grab,
+        const std::set<TapDemand::Trigger>& kept);
 
     X11Connection& connection_;
     std::map<std::uint16_t, Grab> grabs_;

@@ -45,6 +45,15 @@ bool canBeMade(const SyntheticEvent& event)
         || event.type == EventType::gesture || event.type == EventType::dockGesture;
 }
 
+/// Applications turn the wheel sideways themselves while Shift is held, and what goes sideways
+/// already back again, or into nothing.
+SyntheticEvent withoutShift(SyntheticEvent event)
+{
+    if (event.flags)
+        event.flags = *event.flags & ~eventFlag::shift;
+    return event;
+}
+
 double pixelsOf(const SyntheticEvent& event, EventField pixels, EventField lines)
 {
     const auto given = static_cast<double>(event.fields.value(pixels));
@@ -144,13 +153,20 @@ void X11EventPosting::play(X11TapSession& session, const SyntheticEvent& event)
 
 void X11EventPosting::playButton(X11TapSession& session, const SyntheticEvent& event)
 {
-    const auto button = buttonOfNumber(buttonOf(event));
     moveTo(session, event);
     holdExactly(session, event);
-    if (isMouseDown(event.type))
-        session.injection().press(Kind::button, button);
+    playButton(session, buttonOf(event), isMouseDown(event.type));
+}
+
+void X11EventPosting::playButton(X11TapSession& session, std::int64_t number, bool isPress)
+{
+    const auto buttons = session.pointerMap().buttonsFor(buttonOfNumber(number));
+    if (buttons.empty())
+        return;
+    if (isPress)
+        session.injection().press(Kind::button, buttons.front());
     else
-        session.injection().release(Kind::button, button);
+        session.injection().release(Kind::button, buttons.front());
 }
 
 void X11EventPosting::playKey(X11TapSession& session, const SyntheticEvent& event)
@@ -158,6 +174,12 @@ void X11EventPosting::playKey(X11TapSession& session, const SyntheticEvent& even
     const auto keystroke = event.flags ? systemKeystroke(keyCodeOf(event), *event.flags)
                                        : SystemKeystroke{Meaning::key, keyCodeOf(event), 0};
     const bool isDown = event.type != EventType::keyUp;
+    if (keystroke.meaning == Meaning::button) {
+        auto posted = event;
+        posted.flags = keystroke.flags;
+        holdExactly(session, posted);
+        return playButton(session, keystroke.number, isDown);
+    }
     if (keystroke.meaning == Meaning::showDesktop) {
         if (isDown)
             toggleShowingDesktop(session.connection());
@@ -166,7 +188,7 @@ void X11EventPosting::playKey(X11TapSession& session, const SyntheticEvent& even
     auto posted = event;
     if (event.flags)
         posted.flags = keystroke.flags;
-    const auto code = keycodesOf(keystroke.keyCode).front();
+    const auto code = keycodesOf(keystroke.number).front();
     holdExactly(session, posted);
     if (isDown)
         session.injection().press(Kind::key, code);
@@ -189,11 +211,16 @@ void X11EventPosting::turnWheel(
     if (up == 0 && left == 0)
         return;
     moveTo(session, event);
-    holdExactly(session, event);
-    for (int count = 0; count < std::abs(up); ++count)
-        session.injection().turnWheel(up > 0 ? wheelUp : wheelDown);
-    for (int count = 0; count < std::abs(left); ++count)
-        session.injection().turnWheel(left > 0 ? wheelLeft : wheelRight);
+    holdExactly(session, left != 0 ? withoutShift(event) : event);
+    turnWheel(session, up > 0 ? wheelUp : wheelDown, std::abs(up));
+    turnWheel(session, left > 0 ? wheelLeft : wheelRight, std::abs(left));
+}
+
+void X11EventPosting::turnWheel(X11TapSession& session, std::uint8_t direction, int notches)
+{
+    const auto buttons = session.pointerMap().buttonsFor(direction);
+    for (int count = 0; count < notches && !buttons.empty(); ++count)
+        session.injection().turnWheel(buttons.front());
 }
 
 void X11EventPosting::moveTo(X11TapSession& session, const SyntheticEvent& event)

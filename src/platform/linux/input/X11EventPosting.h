@@ -30,6 +30,8 @@ private:
     bool goesOn(const SyntheticEvent& event, bool passes);
     void play(X11TapSession& session, const SyntheticEvent& event);
     void playButton(X11TapSession& session, const SyntheticEvent& event);
+    static void playButton(X11TapSession& session, std::int64_t number, bool isPress);
+    static void turnWheel(X11TapSession& session, std::uint8_t direction, int notches);
     void playKey(X11TapSession& session, const SyntheticEvent& event);
     void playScroll(X11TapSession& session, const SyntheticEvent& event);
     void turnAnnounced(int up, int left);

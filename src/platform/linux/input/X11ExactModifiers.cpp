@@ -1,5 +1,6 @@
 #include "platform/linux/input/X11ExactModifiers.h"
 
+#include "platform/linux/input/X11LoneModifiers.h"
 #include "platform/linux/x11/XkbProtocol.h"
 
 #include <optional>
@@ -44,7 +45,7 @@ std::optional<ModifierState> modifierState(X11TapSession& session)
     }
     for (std::size_t key = 0; key < state.keysDown.size(); ++key)
         state.keysDown[key] = (keys->keys[key / 8] >> (key % 8) & 1) != 0;
-    state.isCapsLockOn = (session.cursor().flags & eventFlag::capsLock) != 0;
+    state.flags = session.cursor().flags;
     return state;
 }
 
@@ -60,6 +61,8 @@ void X11ExactModifiers::hold(X11TapSession& session, std::uint64_t flags)
     isHolding_ = true;
     flags_ = flags;
     change_ = changeToHold(flags, *state);
+    hasLoneModifiers_ = actingAlone(state->flags & ~flags) != 0;
+    keepCompany(session);
     if (change_.switchesCapsLockOff)
         setCapsLock(session, false);
     for (const auto code : change_.releases)
@@ -76,9 +79,17 @@ void X11ExactModifiers::restore(X11TapSession& session)
         session.injection().play(Kind::key, code, false);
     if (!change_.releases.empty())
         session.pressForHand(change_.releases);
+    keepCompany(session);
     if (change_.switchesCapsLockOff)
         setCapsLock(session, true);
     forget();
+}
+
+void X11ExactModifiers::keepCompany(X11TapSession& session) const
+{
+    // What is released for a moment, and pressed again, would each time be a press for nothing.
+    if (hasLoneModifiers_)
+        playCompanyForModifiers(session.connection(), session.injection());
 }
 
 void X11ExactModifiers::setCapsLock(X11TapSession& session, bool isOn) const

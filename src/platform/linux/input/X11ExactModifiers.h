@@ -26,11 +26,14 @@ public:
     std::uint64_t flags() const { return flags_; }
 
 private:
+    void keepCompany(X11TapSession& session) const;
     void setCapsLock(X11TapSession& session, bool isOn) const;
 
     bool isHolding_ = false;
     std::uint64_t flags_ = 0;
     ModifierChange change_;
+    /// Whether Alt or Super was released in the place of a hand.
+    bool hasLoneModifiers_ = false;
 };
 
 } // namespace brindlex

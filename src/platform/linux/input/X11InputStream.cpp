@@ -7,9 +7,7 @@
 namespace brindlex {
 namespace {
 
-/// How long to wait for a device that another program holds, and for a server that does not
-/// respond.
-constexpr Seconds timeToRetryDevices = 0.05;
+/// How long to wait for a server that does not respond.
 constexpr Seconds timeToReconnect = 1;
 
 } // namespace
@@ -24,6 +22,7 @@ X11InputStream::~X11InputStream() { watchdog_.dismiss(); }
 
 void X11InputStream::wantsChanged()
 {
+    pauses_ = {};
     nextApplication_ = mainThread_.after(0, [this] { applyWants(); });
 }
 
@@ -65,7 +64,7 @@ void X11InputStream::applyWants()
         watchdog_.watch(session->handle());
     const bool isDone = session->apply(demand);
     if (!isDone)
-        nextApplication_ = mainThread_.after(timeToRetryDevices, [this] { applyWants(); });
+        nextApplication_ = mainThread_.after(pauses_.next(), [this] { applyWants(); });
     if (session->takesNothing())
         watchdog_.rest();
 }

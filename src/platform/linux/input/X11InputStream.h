@@ -2,6 +2,7 @@
 
 #include "platform/Clock.h"
 #include "platform/MainThread.h"
+#include "platform/linux/input/GrowingPauses.h"
 #include "platform/linux/input/TapChain.h"
 #include "platform/linux/input/X11TapSession.h"
 #include "platform/linux/watchdog/TapWatchdog.h"
@@ -67,6 +68,8 @@ private:
     TapWatchdog watchdog_;
     std::deque<std::function<void()>> waiting_;
     bool isRunningWaiting_ = false;
+    /// Between attempts to take what another program holds.
+    GrowingPauses pauses_;
     Subscription nextApplication_;
     Subscription nextReconnection_;
 };

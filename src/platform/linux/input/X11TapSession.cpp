@@ -1,5 +1,7 @@
 #include "platform/linux/input/X11TapSession.h"
 
+#include "platform/linux/input/X11LoneModifiers.h"
+
 #include <algorithm>
 #include <utility>
 #include <xcb/xinput.h>
@@ -11,6 +13,11 @@ X11TapSession::X11TapSession(const std::string& display, TapChain& taps, Hooks h
       grabs_(connection_), injection_(connection_),
       input_(taps, grabs_, injection_,
           {.cursor = [this] { return cursorState(connection_); },
+              .swallowed =
+                  [this](std::uint64_t flags) {
+                      if (actingAlone(flags) != 0)
+                          playCompanyForModifiers(connection_, injection_);
+                  },
               .eventDone = [this] { hooks_.eventDone(); },
               .allReleased =
                   [this] {
@@ -25,6 +32,7 @@ X11TapSession::X11TapSession(const std::string& display, TapChain& taps, Hooks h
     inputOpcode_ = xcb_get_extension_data(connection_.get(), &xcb_input_id)->major_opcode;
     injection_.setPointer(playingPointer(connection_, *masters_));
     makeHandle();
+    readPointerMap();
     selectEvents(false);
     findDevices();
     events_ = connection_.observeEvents([this](const xcb_generic_event_t& event) {
@@ -49,7 +57,7 @@ bool X11TapSession::apply(const TapDemand& demand)
     const bool mayLetGo = input_.holdsNothing();
     if (!demand.takesKeyboards && mayLetGo)
         keymap_.bringUpToDate(*masters_, takenKeyboards());
-    isDone_ = grabs_.apply(demand, devices_, mayLetGo);
+    isDone_ = grabs_.apply(pointerMap_.ofHand(demand), devices_, mayLetGo);
     keymap_.listen(demand.takesKeyboards || (!isDone_ && keymap_.isListening()));
     if (demand.takesMice)
         injection_.takeCursor();
@@ -147,8 +155,18 @@ void X11TapSession::findDevices()
     devices_ = std::move(devices);
 }
 
+void X11TapSession::readPointerMap()
+{
+    pointerMap_ = brindlex::pointerMap(connection_);
+    input_.setPointerMap(pointerMap_);
+}
+
 void X11TapSession::receive(const xcb_generic_event_t& event)
 {
+    if (isPointerMapChange(event)) {
+        readPointerMap();
+        return hooks_.grabsMayChange();
+    }
     keymap_.receive(event);
     receiveEcho(event);
     const auto read = readInputEvent(event, inputOpcode_);

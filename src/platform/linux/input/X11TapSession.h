@@ -9,6 +9,7 @@
 #include "platform/linux/input/X11InputEvent.h"
 #include "platform/linux/input/X11KeymapSync.h"
 #include "platform/linux/input/X11KeysForHand.h"
+#include "platform/linux/input/X11PointerMap.h"
 #include "platform/linux/input/X11TappedInput.h"
 
 #include <functional>
@@ -53,6 +54,9 @@ public:
     /// Presses those of the keys again that a hand holds, after they were released in its place.
     void pressForHand(const std::vector<std::uint8_t>& keys);
 
+    /// Which buttons of a hand, and of what is played, are which to the applications.
+    const X11PointerMap& pointerMap() const { return pointerMap_; }
+
     X11Connection& connection() { return connection_; }
     X11Injection& injection() { return injection_; }
 
@@ -69,6 +73,7 @@ private:
     std::vector<X11InputDevice> takenKeyboards() const;
     void findDevices();
     void receive(const xcb_generic_event_t& event);
+    void readPointerMap();
     void receiveKey(const X11InputEvent::Key& event);
     void receiveFreeRelease(const X11InputEvent::FreeRelease& event);
     void receiveChange(const X11InputEvent::DevicesChanged& change);
@@ -80,6 +85,7 @@ private:
     xcb_window_t handle_ = 0;
     bool listensToReleases_ = false;
     bool isDone_ = true;
+    X11PointerMap pointerMap_;
     std::uint32_t lastEcho_ = 0;
     std::vector<X11InputDevice> devices_;
     X11DeviceGrabs grabs_;

@@ -11,12 +11,15 @@ namespace {
 
 using Kind = PressLedger::Kind;
 
+/// What a button is to the applications that is switched off.
+constexpr std::uint8_t none = 0;
+
 constexpr EventMask motions = mouseDraggedMask | eventMask(EventType::mouseMoved);
 
-EventFields fieldsOf(const X11InputEvent::Button& event)
-{
-    return {{EventField::mouseEventButtonNumber, buttonNumber(event.button)}};
-}
+EventFields fieldsOf(std::int64_t number) { return {{EventField::mouseEventButtonNumber, number}}; }
+
+/// What an application may take the modifiers to be for.
+bool isForModifiers(EventType type) { return isMouseDown(type) || type == EventType::scrollWheel; }
 
 } // namespace
 
@@ -28,49 +31,65 @@ X11TappedInput::X11TappedInput(
 
 void X11TappedInput::receive(const X11InputEvent::Button& event)
 {
-    const bool isTurn = isWheel(event.button);
+    const auto meaning = map_.meaningOf(event.button);
+    const bool isTurn = isWheel(meaning);
     if (isTurn && !event.isPress)
         return;
     if (isTurn)
-        turnWheel(event.button);
+        turnWheel(event.button, meaning);
     else if (event.isPress)
-        press(event);
+        press(event, meaning);
     else
         release(event);
     hooks_.eventDone();
 }
 
-void X11TappedInput::press(const X11InputEvent::Button& event)
+void X11TappedInput::press(const X11InputEvent::Button& event, std::uint8_t meaning)
 {
-    const auto number = buttonNumber(event.button);
-    const auto type = mouseDownType(number);
-    const bool isFirst = mice_[event.device].held.press(number);
+    if (meaning == none)
+        return pressed(event.device, Kind::button, event.button, EventVerdict::pass);
+    const auto number = buttonNumber(meaning);
+    auto& mouse = mice_[event.device];
+    mouse.meanings[event.button] = meaning;
+    const bool isFirst = mouse.held.press(number);
     const bool takesDevice = isFirst && !grabs_.isTaken(event.device);
     if (takesDevice)
         injection_.takeCursor();
     const auto verdict = takesDevice
-        ? taps_.offer({type, event.location, event.flags, fieldsOf(event)})
-        : offer(type, fieldsOf(event));
+        ? offer({mouseDownType(number), event.location, event.flags, fieldsOf(number)})
+        : offer(mouseDownType(number), fieldsOf(number));
     pressed(event.device, Kind::button, event.button, verdict);
 }
 
 void X11TappedInput::release(const X11InputEvent::Button& event)
 {
-    const auto number = buttonNumber(event.button);
-    mice_[event.device].held.release(number);
+    auto& mouse = mice_[event.device];
+    const auto pressed = mouse.meanings.find(event.button);
+    const auto meaning
+        = pressed == mouse.meanings.end() ? map_.meaningOf(event.button) : pressed->second;
+    letGo(mouse, event.button);
     // Its way is decided, so that the application need not wait for the place of the cursor.
     released(event.device, Kind::button, event.button);
-    offer(mouseUpType(number), fieldsOf(event));
+    if (meaning != none)
+        offer(mouseUpType(buttonNumber(meaning)), fieldsOf(buttonNumber(meaning)));
 }
 
-void X11TappedInput::turnWheel(std::uint8_t button)
+void X11TappedInput::turnWheel(std::uint8_t button, std::uint8_t meaning)
 {
-    const auto lines = wheelLinesOf(button);
+    const auto lines = wheelLinesOf(meaning);
     const auto verdict = offer(EventType::scrollWheel,
         {{EventField::scrollWheelEventDeltaAxis1, lines.vertical},
             {EventField::scrollWheelEventDeltaAxis2, lines.horizontal}});
     if (verdict == EventVerdict::pass)
         injection_.turnWheel(button);
+}
+
+void X11TappedInput::letGo(Mouse& mouse, std::uint8_t button)
+{
+    if (const auto meaning = mouse.meanings.find(button); meaning != mouse.meanings.end()) {
+        mouse.held.release(buttonNumber(meaning->second));
+        mouse.meanings.erase(meaning);
+    }
 }
 
 void X11TappedInput::receive(const X11InputEvent::Key& event)
@@ -104,7 +123,7 @@ void X11TappedInput::receive(const X11InputEvent::Place& event)
 void X11TappedInput::receive(const X11InputEvent::FreeRelease& event)
 {
     if (event.kind == Kind::button)
-        mice_[event.device].held.release(buttonNumber(event.code));
+        letGo(mice_[event.device], event.code);
     if (ledger_.isOpen(event.device, event.kind, event.code))
         released(event.device, event.kind, event.code);
 }
@@ -130,7 +149,15 @@ EventVerdict X11TappedInput::offer(EventType type, EventFields fields)
     if (!taps_.sees(eventMask(type)))
         return EventVerdict::pass;
     const auto cursor = hooks_.cursor();
-    return taps_.offer({type, cursor.location, cursor.flags, fields});
+    return offer({type, cursor.location, cursor.flags, fields});
+}
+
+EventVerdict X11TappedInput::offer(const Event& event)
+{
+    const auto verdict = taps_.offer(event);
+    if (verdict == EventVerdict::swallow && isForModifiers(event.type))
+        hooks_.swallowed(event.flags);
+    return verdict;
 }
 
 void X11TappedInput::pressed(

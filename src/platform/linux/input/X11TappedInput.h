@@ -8,14 +8,19 @@
 #include "platform/linux/input/X11DeviceGrabs.h"
 #include "platform/linux/input/X11Injection.h"
 #include "platform/linux/input/X11InputEvent.h"
+#include "platform/linux/input/X11PointerMap.h"
 
 #include <functional>
 #include <map>
+#include <utility>
 
 namespace brindlex {
 
 /// What lies between taken devices and the applications: shows the taps what the devices send and
 /// plays what they let pass, in the order in which it came.
+///
+/// The taps see the buttons as the applications would get them. A button keeps from its press to
+/// its release what it was at the press, and one that is none goes by the taps.
 ///
 /// A release goes where its press went, whatever the taps say to it; that of a button goes before
 /// they see it. Motion always moves the cursor. The server repeats a held key that was played to it
@@ -24,6 +29,8 @@ class X11TappedInput {
 public:
     struct Hooks {
         std::function<X11CursorState()> cursor{};
+        /// A press or a notch was swallowed while these modifiers were held, as flags of an event.
+        std::function<void(std::uint64_t flags)> swallowed{};
         /// An event has gone its way.
         std::function<void()> eventDone{};
         /// The last button or key that was pressed here is up again.
@@ -44,6 +51,9 @@ public:
     /// The device has gone, and nothing of what it held may stay down.
     void lose(std::uint16_t device);
 
+    /// What the buttons are from the next press on.
+    void setPointerMap(X11PointerMap map) { map_ = std::move(map); }
+
     /// Whether no button and no key is down that was pressed here.
     bool holdsNothing() const { return ledger_.isEmpty(); }
 
@@ -51,13 +61,17 @@ private:
     struct Mouse {
         HeldButtons held{};
         MotionRemainder remainder{};
+        /// What the buttons that are down were when they were pressed.
+        std::map<std::uint8_t, std::uint8_t> meanings{};
     };
 
-    void press(const X11InputEvent::Button& event);
+    void press(const X11InputEvent::Button& event, std::uint8_t meaning);
     void release(const X11InputEvent::Button& event);
-    void turnWheel(std::uint8_t button);
+    void turnWheel(std::uint8_t button, std::uint8_t meaning);
+    static void letGo(Mouse& mouse, std::uint8_t button);
     void offerMotion(std::uint16_t device);
     EventVerdict offer(EventType type, EventFields fields);
+    EventVerdict offer(const Event& event);
     void pressed(
         std::uint16_t device, PressLedger::Kind kind, std::uint8_t code, EventVerdict verdict);
     void released(std::uint16_t device, PressLedger::Kind kind, std::uint8_t code);
@@ -66,6 +80,7 @@ private:
     const X11DeviceGrabs& grabs_;
     X11Injection& injection_;
     Hooks hooks_;
+    X11PointerMap map_;
     PressLedger ledger_;
     std::map<std::uint16_t, Mouse> mice_;
 };

@@ -5,7 +5,9 @@
 #include "platform/linux/panels/RoundedRegion.h"
 #include "platform/linux/panels/WindowChoice.h"
 #include "platform/linux/panels/WindowChooserView.h"
+#include "platform/linux/panels/X11InputHold.h"
 
+#include <QCursor>
 #include <QExposeEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -15,6 +17,7 @@
 #include <QScreen>
 #include <QTimer>
 #include <QWheelEvent>
+#include <optional>
 #include <utility>
 
 namespace brindlex {
@@ -27,6 +30,8 @@ constexpr int mostAttempts = 50;
 /// What a notch of the wheel counts, in the eighths of a degree in which it comes.
 constexpr int notch = 120;
 constexpr int rowsPerNotch = 3;
+/// From how many pixels on the pointer was moved, rather than touched.
+constexpr double leastMotion = 10;
 
 std::vector<WindowLabel> labelsOf(const std::vector<OpenWindow>& windows)
 {
@@ -36,14 +41,26 @@ std::vector<WindowLabel> labelsOf(const std::vector<OpenWindow>& windows)
     return labels;
 }
 
-/// Returns when the X server has what the windows asked for.
-void waitForServer()
+/// The connection of the windows; null where these are not those of an X server.
+xcb_connection_t* windowsServer()
 {
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    if (!x11)
-        return;
-    const X11Message<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(
-        x11->connection(), xcb_get_input_focus(x11->connection()), nullptr));
+    return x11 ? x11->connection() : nullptr;
+}
+
+/// Returns when the X server has what the windows asked for.
+void waitForServer(xcb_connection_t* server)
+{
+    const X11Message<xcb_get_input_focus_reply_t> reply(
+        xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr));
+}
+
+/// Says that the window is a menu, which has the pointer and the keys to itself as no other does.
+void callMenu(X11Connection& connection, xcb_connection_t* server, xcb_window_t window)
+{
+    const auto type = connection.atom("_NET_WM_WINDOW_TYPE_POPUP_MENU");
+    xcb_change_property(server, XCB_PROP_MODE_REPLACE, window,
+        connection.atom("_NET_WM_WINDOW_TYPE"), XCB_ATOM_ATOM, 32, 1, &type);
 }
 
 } // namespace
@@ -62,10 +79,12 @@ public:
         area.moveCenter(screen.availableGeometry().center());
         setGeometry(area);
         setMask(roundedRegion(area.size(), WindowChooserView::cornerRadius));
+        create();
+        callMenu(owner_.connection_, windowsServer(), static_cast<xcb_window_t>(winId()));
         attempts_.setInterval(betweenAttempts);
-        QObject::connect(&attempts_, &QTimer::timeout, this, [this] { takeInput(); });
-        QRasterWindow::show();
-        raise();
+        QObject::connect(&attempts_, &QTimer::timeout, this, [this] { attempt(); });
+        attempts_.start();
+        attempt();
     }
 
     /// Leaves the screen, and the input to the others.
@@ -76,8 +95,9 @@ public:
         owner_.watchdog_.rest();
         setMouseGrabEnabled(false);
         setKeyboardGrabEnabled(false);
+        hold_.reset();
         hide();
-        waitForServer();
+        waitForServer(windowsServer());
     }
 
 protected:
@@ -90,9 +110,8 @@ protected:
     void exposeEvent(QExposeEvent* event) override
     {
         QRasterWindow::exposeEvent(event);
-        if (isExposed() && !hasInput_ && !attempts_.isActive()) {
-            attempts_.start();
-            takeInput();
+        if (isExposed() && !hasInput_) {
+            attempt();
         } else if (!isExposed() && hasInput_) {
             Log::warn(
                 "Mission Control: the list of windows was closed, as the program did not reply",
@@ -144,7 +163,16 @@ protected:
             owner_.choose(windows_[choice_.chosen()].window);
     }
 
-    void mouseMoveEvent(QMouseEvent* event) override { chooseAt(event->position()); }
+    // A pointer that rests where the list happens to come has chosen nothing, nor has a hand that
+    // is just letting go of a button.
+    void mouseMoveEvent(QMouseEvent* event) override
+    {
+        const auto place = event->globalPosition();
+        isPointerAtRest_
+            = isPointerAtRest_ && (place - pointerAtFirst_).manhattanLength() < leastMotion;
+        if (!isPointerAtRest_)
+            chooseAt(event->position());
+    }
 
     void mousePressEvent(QMouseEvent* event) override
     {
@@ -184,13 +212,15 @@ private:
     }
 
     /// Other programs may have the pointer or the keys for a moment, as while a button is held.
-    void takeInput()
+    /// Nothing is seen before both are there: what keeps them may be a locker.
+    void attempt()
     {
-        hasInput_ = setKeyboardGrabEnabled(true) && setMouseGrabEnabled(true);
-        if (hasInput_) {
-            owner_.watchdog_.watchOpen(static_cast<std::uint32_t>(winId()));
+        if (!isVisible())
+            showOnceHeld();
+        else if (isExposed())
+            takeOver();
+        if (hasInput_)
             return attempts_.stop();
-        }
         if (++made_ < mostAttempts)
             return;
         Log::warn("Mission Control: another program keeps the pointer or the keyboard; the list "
@@ -199,7 +229,27 @@ private:
         owner_.close();
     }
 
+    void showOnceHeld()
+    {
+        if (!hold_->take())
+            return;
+        owner_.watchdog_.watchOpen(hold_->window());
+        QRasterWindow::show();
+        raise();
+    }
+
+    /// The window itself has the input from now on.
+    void takeOver()
+    {
+        const bool hasKeys = setKeyboardGrabEnabled(true);
+        hold_.reset();
+        hasInput_ = hasKeys && setMouseGrabEnabled(true);
+        if (hasInput_)
+            owner_.watchdog_.watchOpen(static_cast<std::uint32_t>(winId()));
+    }
+
     QtWindowChooser& owner_;
+    std::optional<X11InputHold> hold_{windowsServer()};
     std::vector<OpenWindow> windows_;
     WindowChooserView view_;
     WindowChoice choice_;
@@ -209,6 +259,8 @@ private:
     int pressed_ = 0;
     Qt::MouseButton pressedButton_ = Qt::NoButton;
     bool pressedOutside_ = false;
+    QPointF pointerAtFirst_ = QCursor::pos();
+    bool isPointerAtRest_ = true;
     int turned_ = 0;
 };
 

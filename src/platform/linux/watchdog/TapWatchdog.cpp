@@ -10,9 +10,24 @@
 
 #include <array>
 #include <cstring>
+#include <system_error>
+#include <thread>
 #include <utility>
 
 namespace brindlex {
+namespace {
+
+/// Somebody has to wait for a process, or it stays in the table of processes.
+void waitBeside(pid_t process)
+{
+    try {
+        std::thread([process] { waitpid(process, nullptr, 0); }).detach();
+    } catch (const std::system_error& noThread) {
+        Log::warn(std::string("Input watchdog: ") + noThread.what(), logCategory::mouse);
+    }
+}
+
+} // namespace
 
 TapWatchdog::TapWatchdog(std::filesystem::path program, std::string display)
     : program_(std::move(program)), display_(std::move(display))
@@ -117,7 +132,8 @@ void TapWatchdog::ended()
     notifier_->setEnabled(false);
     notifier_.release()->deleteLater();
     socket_.close();
-    waitpid(std::exchange(process_, -1), nullptr, WNOHANG);
+    // It closes its end some time before it has ended.
+    waitBeside(std::exchange(process_, -1));
 }
 
 } // namespace brindlex

@@ -1,15 +1,24 @@
 #include "platform/linux/windows/VirtualDesktops.h"
 
+#include "platform/linux/windows/DesktopGrid.h"
 #include "platform/linux/x11/X11Properties.h"
 
 namespace brindlex {
 namespace {
 
+/// The first values of a property of the root window.
+std::vector<std::uint32_t> valuesOf(X11Connection& connection, std::string_view name)
+{
+    constexpr std::uint32_t most = 4 * sizeof(std::uint32_t);
+    return X11PropertyRequest(connection, connection.root(), name, most)
+        .values()
+        .value_or(std::vector<std::uint32_t>{});
+}
+
 std::uint32_t valueOf(X11Connection& connection, std::string_view name)
 {
-    const auto values
-        = X11PropertyRequest(connection, connection.root(), name, sizeof(std::uint32_t)).values();
-    return values && !values->empty() ? values->front() : 0;
+    const auto values = valuesOf(connection, name);
+    return values.empty() ? 0 : values.front();
 }
 
 void ask(X11Connection& connection, std::string_view message, std::uint32_t value)
@@ -31,10 +40,10 @@ void ask(X11Connection& connection, std::string_view message, std::uint32_t valu
 
 void switchDesktop(X11Connection& connection, int distance)
 {
-    const auto count = std::int64_t{valueOf(connection, "_NET_NUMBER_OF_DESKTOPS")};
-    const auto target = std::int64_t{valueOf(connection, "_NET_CURRENT_DESKTOP")} + distance;
-    if (target >= 0 && target < count)
-        ask(connection, "_NET_CURRENT_DESKTOP", static_cast<std::uint32_t>(target));
+    const DesktopGrid grid(valueOf(connection, "_NET_NUMBER_OF_DESKTOPS"),
+        valuesOf(connection, "_NET_DESKTOP_LAYOUT"));
+    if (const auto target = grid.beside(valueOf(connection, "_NET_CURRENT_DESKTOP"), distance))
+        ask(connection, "_NET_CURRENT_DESKTOP", *target);
 }
 
 void toggleShowingDesktop(X11Connection& connection)

@@ -5,7 +5,7 @@
 namespace brindlex {
 
 /// The desktop on the left or right of the present one comes to the front; nothing happens at the
-/// ends of the row.
+/// ends of its row.
 void switchDesktop(X11Connection& connection, int distance);
 
 /// Shows the empty desktop, or the windows again.

@@ -104,16 +104,11 @@ void X11ActiveWindow::become(xcb_window_t window)
     if (before == window)
         return;
     // A window that goes on changing behind others must not wake the program.
-    listenTo(before, XCB_EVENT_MASK_NO_EVENT);
-    listenTo(window, XCB_EVENT_MASK_PROPERTY_CHANGE);
-    xcb_flush(connection_.get());
-    observers_.notify();
-}
-
-void X11ActiveWindow::listenTo(xcb_window_t window, std::uint32_t events)
-{
+    if (before != 0)
+        connection_.stopListeningTo(before, XCB_EVENT_MASK_PROPERTY_CHANGE);
     if (window != 0)
-        xcb_change_window_attributes(connection_.get(), window, XCB_CW_EVENT_MASK, &events);
+        connection_.listenTo(window, XCB_EVENT_MASK_PROPERTY_CHANGE);
+    observers_.notify();
 }
 
 } // namespace brindlex

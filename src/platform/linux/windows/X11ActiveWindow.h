@@ -7,7 +7,6 @@
 
 #include <QTimer>
 
-#include <cstdint>
 #include <functional>
 #include <optional>
 
@@ -36,7 +35,6 @@ public:
 
 private:
     void notifyOf(const xcb_property_notify_event_t& change);
-    void listenTo(xcb_window_t window, std::uint32_t events);
     void read();
     void doubt();
     void doubtUnlessManaged();

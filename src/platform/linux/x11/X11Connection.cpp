@@ -56,11 +56,26 @@ xcb_atom_t X11Connection::atom(std::string_view name)
     return atoms_.emplace(name, reply->atom).first->second;
 }
 
-void X11Connection::listenToRoot(std::uint32_t eventMask)
+void X11Connection::listenToRoot(std::uint32_t eventMask) { listenTo(root_, eventMask); }
+
+void X11Connection::listenTo(xcb_window_t window, std::uint32_t eventMask)
 {
-    rootMask_ |= eventMask;
-    xcb_change_window_attributes(connection_, root_, XCB_CW_EVENT_MASK, &rootMask_);
+    auto& mask = eventMasks_[window];
+    mask |= eventMask;
+    xcb_change_window_attributes(connection_, window, XCB_CW_EVENT_MASK, &mask);
     xcb_flush(connection_);
+}
+
+void X11Connection::stopListeningTo(xcb_window_t window, std::uint32_t eventMask)
+{
+    const auto listened = eventMasks_.find(window);
+    if (listened == eventMasks_.end())
+        return;
+    listened->second &= ~eventMask;
+    xcb_change_window_attributes(connection_, window, XCB_CW_EVENT_MASK, &listened->second);
+    xcb_flush(connection_);
+    if (listened->second == 0)
+        eventMasks_.erase(listened);
 }
 
 Subscription X11Connection::observeEvents(EventHandler handler)

@@ -51,6 +51,11 @@ public:
     /// Adds to the kinds of events of the root window that come to this connection.
     void listenToRoot(std::uint32_t eventMask);
 
+    /// The same for any window. Several may listen to one window through the connection.
+    void listenTo(xcb_window_t window, std::uint32_t eventMask);
+    /// Takes these kinds away again.
+    void stopListeningTo(xcb_window_t window, std::uint32_t eventMask);
+
     /// Every event, in the order of arrival; whoever observes takes what concerns it.
     Subscription observeEvents(EventHandler handler);
 
@@ -63,7 +68,7 @@ private:
 
     xcb_connection_t* connection_;
     xcb_window_t root_ = 0;
-    std::uint32_t rootMask_ = 0;
+    std::unordered_map<xcb_window_t, std::uint32_t> eventMasks_;
     bool ended_ = false;
     std::unordered_map<std::string, xcb_atom_t> atoms_;
     Subscribers<EventHandler> eventObservers_;

@@ -26,7 +26,7 @@ ModifierState keyboard(const Keys& down, bool isCapsLockOn = false)
 {
     ModifierState state{.keysOf = {{{50, 62, 0}, {66, 0, 0}, {37, 105, 0}, {64, 108, 205},
                             {77, 0, 0}, {203, 0, 0}, {133, 134, 206}, {92, 0, 0}}},
-        .isCapsLockOn = isCapsLockOn};
+        .flags = isCapsLockOn ? eventFlag::capsLock : 0};
     for (const auto key : down)
         state.keysDown.set(key);
     return state;

@@ -9,10 +9,8 @@ using Meaning = SystemKeystroke::Meaning;
 
 TEST(SystemKeystroke, goesBackAndForwardAsApplicationsHereDo)
 {
-    EXPECT_EQ(systemKeystroke(33, eventFlag::command),
-        (SystemKeystroke{Meaning::key, 123, eventFlag::option}));
-    EXPECT_EQ(systemKeystroke(30, eventFlag::command),
-        (SystemKeystroke{Meaning::key, 124, eventFlag::option}));
+    EXPECT_EQ(systemKeystroke(33, eventFlag::command), (SystemKeystroke{Meaning::button, 3, 0}));
+    EXPECT_EQ(systemKeystroke(30, eventFlag::command), (SystemKeystroke{Meaning::button, 4, 0}));
 }
 
 TEST(SystemKeystroke, showsTheDesktop)

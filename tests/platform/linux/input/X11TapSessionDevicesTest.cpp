@@ -124,6 +124,37 @@ TEST_F(X11TapSessionTest, tapsAMouseThatIsPluggedIn)
     EXPECT_TRUE(floats({"mouse", "second-mouse"}));
 }
 
+TEST_F(X11TapSessionTest, wantsNothingOfAMouseThatComesBackWhenNobodyWantsItAnyMore)
+{
+    tap(middleButton());
+    desktop_.secondMouse.pullOut();
+    desktop_.settleTaps();
+    tap({mouseButtonMask, EventTriggers{.buttons = {{3, {}}}}});
+
+    desktop_.secondMouse.plugIn();
+    desktop_.settleTaps();
+    desktop_.secondMouse.press(2);
+    desktop_.secondMouse.settle();
+
+    EXPECT_EQ(floatingDevices(server_), Lines{});
+    desktop_.secondMouse.release(2);
+    EXPECT_TRUE(desktop_.receives({"press 2", "release 2"}));
+}
+
+TEST_F(X11TapSessionTest, takesAMouseAgainThatComesBack)
+{
+    tap({wheel, EventTriggers{.wheel = true}});
+    ASSERT_TRUE(floats({"mouse", "second-mouse"}));
+    desktop_.secondMouse.pullOut();
+    desktop_.settleTaps();
+    desktop_.secondMouse.plugIn();
+
+    EXPECT_TRUE(floats({"mouse", "second-mouse"}));
+    desktop_.secondMouse.turnWheel(1);
+    desktop_.settle();
+    EXPECT_EQ(seen_.size(), 1U);
+}
+
 TEST_F(X11TapSessionTest, holdsAButtonUntilTheLastOfTwoMiceLetsGo)
 {
     tap({mouseButtonMask, {}});

@@ -45,6 +45,31 @@ TEST_F(X11TapSessionTest, takesADeviceOnceAnotherProgramHasGivenItBack)
     }));
 }
 
+TEST_F(X11TapSessionTest, tapsAButtonOnceAnotherProgramHasGivenItBackAndSaysSoOnce)
+{
+    const RecordedLog log;
+    auto other = std::make_unique<XConnection>();
+    ASSERT_TRUE(takeButton(*other, "mouse", 2));
+    tap(middleButton(), EventVerdict::swallow);
+    desktop_.secondMouse.click(2);
+    desktop_.settle();
+    EXPECT_EQ(seen_.size(), 2U);
+    // It has been tried again meanwhile.
+    EXPECT_TRUE(
+        loopThroughout(std::chrono::milliseconds(200), [&] { return log.lines().size() == 1; }));
+    EXPECT_EQ(log.lines(),
+        Lines{"WARN [mouse] Another program holds button 2 of \"mouse\"; it is tapped once it is "
+              "given back"});
+
+    other.reset();
+
+    EXPECT_TRUE(loopUntil([this] {
+        desktop_.mouse.click(2);
+        desktop_.mouse.settle();
+        return seen_.size() > 2;
+    }));
+}
+
 TEST_F(X11TapSessionTest, leavesAloneWhatOtherProgramsPlay)
 {
     tap({mouseButtonMask | keyMask, {}}, EventVerdict::swallow);

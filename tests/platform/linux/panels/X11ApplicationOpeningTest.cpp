@@ -25,9 +25,11 @@ const std::filesystem::path missionControl = "/System/Applications/Mission Contr
 /// The shell of a desktop with an overview, which notes what it is told.
 class FakeShell : public QDBusVirtualObject {
 public:
-    FakeShell(const QStringList& names, const QString& path) : bus_(session_.get()), names_(names)
+    FakeShell(const QStringList& names, const QStringList& paths)
+        : bus_(session_.get()), names_(names)
     {
-        EXPECT_TRUE(bus_.registerVirtualObject(path, this));
+        for (const auto& path : paths)
+            EXPECT_TRUE(bus_.registerVirtualObject(path, this));
         for (const auto& name : names_)
             EXPECT_TRUE(bus_.registerService(name));
     }
@@ -38,7 +40,7 @@ public:
     }
 
     QString introspect(const QString&) const override { return {}; }
-    bool handleMessage(const QDBusMessage& message, const QDBusConnection&) override
+    bool handleMessage(const QDBusMessage& message, const QDBusConnection& bus) override
     {
         auto call = message.interface() + QLatin1Char('.') + message.member();
         for (const auto& argument : message.arguments())
@@ -47,9 +49,15 @@ public:
                         ? argument.value<QDBusVariant>().variant().toString()
                         : argument.toString());
         calls.push_back(call.toStdString());
-        return false;
+        if (refuses)
+            return false;
+        return bus.send(message.member() == QStringLiteral("isEffectLoaded")
+                ? message.createReply(hasEffect)
+                : message.createReply());
     }
 
+    bool refuses = false;
+    bool hasEffect = true;
     std::vector<std::string> calls{};
 
 private:
@@ -78,7 +86,7 @@ protected:
     X11ActiveWindow activeWindow{connection};
     DesktopEntries entries{{}, {}};
     X11RunningApplications applications{connection, activeWindow, entries};
-    X11ApplicationOpening opening{connection, activeWindow, applications};
+    X11ApplicationOpening opening{connection, applications};
 };
 
 TEST_F(X11ApplicationOpeningTest, opensTheListFromTheLoopAndClosesItTheNextTime)
@@ -141,38 +149,87 @@ TEST_F(X11ApplicationOpeningTest, forgetsTheListWithItself)
 {
     const PlainWindow window(server, {.wmClass = wmClass("Editor"), .title = "Letter"});
     {
-        X11ApplicationOpening other(connection, activeWindow, applications);
+        X11ApplicationOpening other(connection, applications);
         other.open(missionControl);
     }
     EXPECT_TRUE(loopThroughout(50ms, [&] { return !isListShown(); }));
 }
 
-TEST_F(X11ApplicationOpeningTest, showsTheOverviewOfTheDesktopThatHasOne)
+class DesktopWithAnOverview : public X11ApplicationOpeningTest {
+protected:
+    void expectOverview(const FakeShell& shell, const std::vector<std::string>& calls)
+    {
+        opening.open(missionControl);
+
+        EXPECT_TRUE(loopUntil([&] { return shell.calls == calls; }))
+            << testing::PrintToString(shell.calls);
+        EXPECT_TRUE(loopThroughout(50ms, [&] { return !isListShown(); }));
+        EXPECT_EQ(log.lines(), std::vector<std::string>{});
+    }
+    void expectList(const std::string& reason)
+    {
+        opening.open(missionControl);
+
+        EXPECT_TRUE(becomesShown());
+        EXPECT_EQ(log.lines(),
+            (std::vector<std::string>{"WARN [mouse] Mission Control: the desktop does not show its "
+                                      "overview ("
+                + reason + "); the list of windows is shown instead"}));
+    }
+
+    static QStringList kwin()
+    {
+        return {QStringLiteral("org.kde.KWin"), QStringLiteral("org.kde.kglobalaccel")};
+    }
+    static QStringList kwinPaths()
+    {
+        return {QStringLiteral("/component/kwin"), QStringLiteral("/Effects")};
+    }
+
+    const PlainWindow window{server, {.wmClass = wmClass("Editor"), .title = "Letter"}};
+};
+
+TEST_F(DesktopWithAnOverview, isAskedToShowIt)
 {
-    const PlainWindow window(server, {.wmClass = wmClass("Editor"), .title = "Letter"});
-    FakeShell shell({QStringLiteral("org.gnome.Shell")}, QStringLiteral("/org/gnome/Shell"));
+    const FakeShell shell(
+        {QStringLiteral("org.gnome.Shell")}, {QStringLiteral("/org/gnome/Shell")});
 
-    opening.open(missionControl);
-
-    EXPECT_TRUE(loopUntil([&] { return !shell.calls.empty(); }));
-    EXPECT_EQ(shell.calls,
-        (std::vector<std::string>{
-            "org.freedesktop.DBus.Properties.Set org.gnome.Shell OverviewActive true"}));
-    EXPECT_TRUE(loopThroughout(50ms, [&] { return !isListShown(); }));
+    expectOverview(
+        shell, {"org.freedesktop.DBus.Properties.Set org.gnome.Shell OverviewActive true"});
 }
 
-TEST_F(X11ApplicationOpeningTest, asksTheDesktopWithShortcutsForTheOneOfItsOverview)
+TEST_F(DesktopWithAnOverview, isAskedForTheShortcutOfItWhereItHasOne)
 {
-    const PlainWindow window(server, {.wmClass = wmClass("Editor"), .title = "Letter"});
-    FakeShell shell({QStringLiteral("org.kde.KWin"), QStringLiteral("org.kde.kglobalaccel")},
-        QStringLiteral("/component/kwin"));
+    const FakeShell shell(kwin(), kwinPaths());
+
+    expectOverview(shell,
+        {"org.kde.kwin.Effects.isEffectLoaded overview",
+            "org.kde.kglobalaccel.Component.invokeShortcut Overview"});
+}
+
+TEST_F(DesktopWithAnOverview, hasTheListWhereTheOverviewCannotRun)
+{
+    FakeShell shell(kwin(), kwinPaths());
+    shell.hasEffect = false;
+
+    expectList("KWin has not loaded the effect");
+
+    EXPECT_EQ(
+        shell.calls, std::vector<std::string>{"org.kde.kwin.Effects.isEffectLoaded overview"});
+}
+
+TEST_F(DesktopWithAnOverview, hasTheListWhereItRefuses)
+{
+    FakeShell shell({QStringLiteral("org.gnome.Shell")}, {QStringLiteral("/org/gnome/Shell")});
+    shell.refuses = true;
 
     opening.open(missionControl);
 
-    EXPECT_TRUE(loopUntil([&] { return !shell.calls.empty(); }));
-    EXPECT_EQ(shell.calls,
-        (std::vector<std::string>{"org.kde.kglobalaccel.Component.invokeShortcut Overview"}));
-    EXPECT_TRUE(loopThroughout(50ms, [&] { return !isListShown(); }));
+    EXPECT_TRUE(becomesShown());
+    ASSERT_EQ(log.lines().size(), 1U);
+    EXPECT_TRUE(log.lines()[0].starts_with(
+        "WARN [mouse] Mission Control: the desktop does not show its overview ("))
+        << log.lines()[0];
 }
 
 } // namespace

@@ -177,5 +177,18 @@ TEST_F(InputUnderWatchInTime, leavesNoWatchdogBehind)
     EXPECT_TRUE(eventually([&] { return processes() == 1; })) << processes();
 }
 
+TEST(TapWatchdog, leavesNoProcessBehindWhenItIsDismissed)
+{
+    const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    const auto before = children();
+    TapWatchdog watchdog(TapWatchdog::besideThisProgram(), "");
+    watchdog.watch(1);
+    ASSERT_EQ(children().size(), before.size() + 1);
+
+    watchdog.dismiss();
+
+    EXPECT_TRUE(eventually([&] { return children() == before; }));
+}
+
 } // namespace
 } // namespace brindlex

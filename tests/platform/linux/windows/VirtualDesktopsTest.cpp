@@ -42,6 +42,19 @@ TEST_F(VirtualDesktopsTest, lieInARowThatEndsOnBothSides)
     }
 }
 
+TEST_F(VirtualDesktopsTest, endAtTheEndsOfTheRowsOfAGrid)
+{
+    const std::uint32_t twoByTwo[] = {0, 2, 2, 0};
+    xcb_change_property(server.get(), XCB_PROP_MODE_REPLACE, server.root(),
+        server.atom("_NET_DESKTOP_LAYOUT"), XCB_ATOM_CARDINAL, 32, 4, twoByTwo);
+    server.sync();
+
+    for (const auto& [distance, number] : {std::pair{1, 1U}, {1, 1U}, {-1, 0U}, {-1, 0U}}) {
+        switchDesktop(connection, distance);
+        EXPECT_TRUE(shows(number)) << distance;
+    }
+}
+
 TEST_F(VirtualDesktopsTest, giveWayToTheEmptyDesktopAndComeBack)
 {
     const PlainWindow window(server, {});
