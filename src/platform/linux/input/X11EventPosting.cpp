@@ -214,6 +214,9 @@ void X11EventPosting::turnWheel(
     holdExactly(session, left != 0 ? withoutShift(event) : event);
     turnWheel(session, up > 0 ? wheelUp : wheelDown, std::abs(up));
     turnWheel(session, left > 0 ? wheelLeft : wheelRight, std::abs(left));
+    // At once, as the next notch of the hand is to be seen with the Shift that it holds.
+    if (left != 0)
+        modifiers_.restore(session);
 }
 
 void X11EventPosting::turnWheel(X11TapSession& session, std::uint8_t direction, int notches)
