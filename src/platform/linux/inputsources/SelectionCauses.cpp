@@ -1,5 +1,7 @@
 #include "platform/linux/inputsources/SelectionCauses.h"
 
+#include "platform/InputSourceIdentifiers.h"
+
 #include <utility>
 
 namespace brindlex {
@@ -11,10 +13,15 @@ void SelectionCauses::selected(const std::string& id, Time now)
     settlingUntil_ = selectionSettlesUntil_ = now + settleTime;
 }
 
+bool SelectionCauses::isSelected(const std::string& current) const
+{
+    return selected_ && isSameSource(*selected_, current);
+}
+
 SelectionCause SelectionCauses::changed(const std::string& current, SelectionCause hint, Time now)
 {
     isUnseen_ = false;
-    if (selected_ == current)
+    if (isSelected(current))
         return SelectionCause::choice;
     const bool wasSelected = std::exchange(selected_, std::nullopt).has_value();
     if (hint != SelectionCause::choice)

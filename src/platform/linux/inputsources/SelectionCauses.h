@@ -40,12 +40,15 @@ public:
 
     /// Whether this source in force means that the last selection is lost before anybody has seen
     /// it in force.
-    bool isLost(const std::string& current) const { return isUnseen_ && selected_ != current; }
+    bool isLost(const std::string& current) const { return isUnseen_ && !isSelected(current); }
 
     /// Takes a change to that source, with what the backend knows of its cause.
     SelectionCause changed(const std::string& current, SelectionCause hint, Time now);
 
 private:
+    /// Whether the source is the one that was selected last, whatever its language is called.
+    bool isSelected(const std::string& current) const;
+
     std::optional<Time> settlingUntil_;
     /// What this program has selected last, unless something else was in force since.
     std::optional<std::string> selected_;

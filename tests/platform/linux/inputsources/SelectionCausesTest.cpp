@@ -107,6 +107,14 @@ TEST(SelectionCauses, takeTheEchoOfASelectionForAChoiceWhateverTheHint)
     }
 }
 
+TEST(SelectionCauses, knowASelectionByItsLayoutWhateverItsLanguageIsCalled)
+{
+    SelectionCauses causes;
+    causes.selected("xkb:be::deu", start);
+    EXPECT_FALSE(causes.isLost("xkb:be::nld"));
+    EXPECT_EQ(causes.changed("xkb:be::nld", Cause::choice, start), Cause::choice);
+}
+
 TEST(SelectionCauses, loseASelectionThatNobodyHasSeenInForce)
 {
     SelectionCauses causes;
