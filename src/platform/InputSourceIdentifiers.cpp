@@ -43,6 +43,13 @@ std::string_view terminological(std::string_view language)
     return found == twoCodes.end() ? language : found->second;
 }
 
+/// What distinguishes a source from one with the same layout: "#2" of the second.
+std::string_view numberIn(std::string_view id)
+{
+    const auto mark = id.rfind('#');
+    return mark == std::string_view::npos ? std::string_view() : id.substr(mark);
+}
+
 } // namespace
 
 std::string xkbSourceID(const XkbLayout& layout, std::string_view language)
@@ -74,7 +81,7 @@ bool isSameSource(std::string_view id, std::string_view other)
     if (id == other)
         return true;
     const auto layout = layoutOfSource(id);
-    return layout && layout == layoutOfSource(other);
+    return layout && layout == layoutOfSource(other) && numberIn(id) == numberIn(other);
 }
 
 std::string sourceIDOfIBusEngine(std::string_view engine)

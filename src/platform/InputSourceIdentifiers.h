@@ -27,7 +27,7 @@ std::string canonicalSourceID(std::string_view id);
 
 /// Whether two identifiers name the same source. Of a layout the language is for show: input
 /// methods and the X server name different ones for hundreds of layouts, and a rule survives a
-/// change between them.
+/// change between them. The number of a layout that is there twice counts.
 bool isSameSource(std::string_view id, std::string_view other);
 
 /// The identifier of an IBus engine: its layouts are "xkb:" sources, all else is "ibus:" and the

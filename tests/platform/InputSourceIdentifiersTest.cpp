@@ -47,6 +47,8 @@ TEST(InputSourceIdentifiers, areTheSameForTheSameLayoutWhateverItsLanguage)
     EXPECT_TRUE(isSameSource("xkb:de::ger", "xkb:de::deu"));
     EXPECT_TRUE(isSameSource("xkb:custom::", "xkb:custom::eng"));
     EXPECT_TRUE(isSameSource("ibus:libpinyin", "ibus:libpinyin"));
+    EXPECT_TRUE(isSameSource("xkb:us::eng#2", "xkb:us::deu#2"));
+    EXPECT_FALSE(isSameSource("xkb:us::eng", "xkb:us::eng#2"));
     EXPECT_FALSE(isSameSource("xkb:us:intl:eng", "xkb:us::eng"));
     EXPECT_FALSE(isSameSource("xkb:us::eng", "xkb:gb::eng"));
     EXPECT_FALSE(isSameSource("ibus:libpinyin", "fcitx5:libpinyin"));

@@ -10,6 +10,7 @@ TEST(KnownApplications, areTheBrowsersOfLinux)
     const std::pair<const char*, const char*> rows[] = {
         {"google-chrome", "com.google.Chrome"},
         {"com.google.Chrome", "com.google.Chrome"},
+        {"google-chrome-beta", "com.google.Chrome.beta"},
         {"google-chrome-unstable", "com.google.Chrome.canary"},
         {"google-chrome-canary", "com.google.Chrome.canary"},
         {"microsoft-edge", "com.microsoft.edgemac"},
@@ -22,6 +23,10 @@ TEST(KnownApplications, areTheBrowsersOfLinux)
         {"brave-browser-beta", "com.brave.Browser.beta"},
         {"opera", "com.operasoftware.Opera"},
         {"com.opera.Opera", "com.operasoftware.Opera"},
+        {"vivaldi-stable", "com.vivaldi.Vivaldi"},
+        {"Vivaldi-stable", "com.vivaldi.Vivaldi"},
+        {"librewolf", "io.gitlab.librewolf-community"},
+        {"LibreWolf", "io.gitlab.librewolf-community"},
         {"chromium", "org.chromium.Chromium"},
         {"Chromium-browser", "org.chromium.Chromium"},
         {"org.chromium.Chromium", "org.chromium.Chromium"},
@@ -29,10 +34,13 @@ TEST(KnownApplications, areTheBrowsersOfLinux)
         {"firefox-esr", "org.mozilla.firefox"},
         {"firefox_firefox", "org.mozilla.firefox"},
         {"org.mozilla.firefox", "org.mozilla.firefox"},
+        {"firefox-beta", "org.mozilla.firefox"},
+        {"firefox-developer-edition", "org.mozilla.firefoxdeveloperedition"},
+        {"firefox-nightly", "org.mozilla.nightly"},
     };
     for (const auto& [name, identifier] : rows)
         EXPECT_EQ(knownIdentifier(name), identifier) << name;
-    for (const auto* name : {"", "google-chrome-beta", "xterm", "chromium2"})
+    for (const auto* name : {"", "google-chrome-other", "xterm", "chromium2"})
         EXPECT_EQ(knownIdentifier(name), std::nullopt) << name;
 }
 
