@@ -111,7 +111,9 @@ void ExpectedArrivals::postScroll(const SyntheticEvent& event, std::uint64_t fla
 
 void ExpectedArrivals::turnPosted(int up, int left, std::uint64_t flags)
 {
-    // With Shift the application would turn once more what goes sideways.
+    // What is turned with Shift the application turns sideways itself.
+    if (up == 0 && (flags & eventFlag::shift) != 0)
+        std::swap(up, left);
     turnWheel(up, left, left != 0 ? flags & ~eventFlag::shift : flags);
 }
 

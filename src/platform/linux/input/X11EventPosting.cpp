@@ -211,6 +211,9 @@ void X11EventPosting::turnWheel(
     if (up == 0 && left == 0)
         return;
     moveTo(session, event);
+    // What is turned with Shift the application turns sideways itself.
+    if (up == 0 && (event.flags.value_or(0) & eventFlag::shift) != 0)
+        std::swap(up, left);
     holdExactly(session, left != 0 ? withoutShift(event) : event);
     turnWheel(session, up > 0 ? wheelUp : wheelDown, std::abs(up));
     turnWheel(session, left > 0 ? wheelLeft : wheelRight, std::abs(left));
