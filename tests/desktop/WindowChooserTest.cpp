@@ -1,85 +1,14 @@
-#include "desktop/MouseDesk.h"
-#include "support/hardware/Keycodes.h"
+#include "desktop/WindowChooserFixture.h"
 #include "support/screen/Screenshot.h"
-#include "support/windows/PlainWindow.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <csignal>
 #include <cstdlib>
-#include <memory>
 
 namespace brindlex {
 namespace {
-
-/// The rows of the list, as a user sees them.
-constexpr int rowHeight = 44;
-constexpr int padding = 10;
-
-/// A desktop without an overview, on which the middle button asks for one.
-class WindowChooser : public testing::Test {
-protected:
-    WindowChooser()
-    {
-        auto config = everything();
-        config.click.bindings
-            = {brindlex::click(MouseButton::button3, {}, MouseAction::Plain::missionControl)};
-        desk.start(config);
-    }
-
-    /// Opens a window and leaves it the active one.
-    const PlainWindow& open(const std::string& title, const std::string& className = "Editor")
-    {
-        opened.push_back(std::make_unique<PlainWindow>(
-            desk.server, PlainWindow::Claims{.wmClass = wmClass(className), .title = title}));
-        EXPECT_TRUE(desk.windows.activate(opened.back()->window()));
-        return *opened.back();
-    }
-
-    std::optional<xcb_window_t> list() const
-    {
-        const auto own = desk.windows.unmanagedOf(desk.program->process());
-        return own.empty() ? std::nullopt : std::optional(own.front());
-    }
-
-    /// Asks for the list and waits until it has the keys.
-    testing::AssertionResult opens()
-    {
-        desk.mouse.click(middleButton);
-        if (!eventually([&] { return list().has_value(); }))
-            return testing::AssertionFailure() << desk.program->report();
-        desk.settle();
-        return testing::AssertionSuccess();
-    }
-
-    bool isGone() const
-    {
-        return eventually([&] { return !list(); });
-    }
-    bool isActive(const PlainWindow& window) const
-    {
-        return eventually([&] { return desk.windows.active() == window.window(); });
-    }
-
-    void movePointer(int x, int y) const
-    {
-        xcb_warp_pointer(desk.server.get(), XCB_WINDOW_NONE, desk.server.root(), 0, 0, 0, 0,
-            static_cast<std::int16_t>(x), static_cast<std::int16_t>(y));
-        desk.server.sync();
-        desk.mouse.move(1, 0);
-        desk.settle();
-    }
-
-    void stroke(std::uint8_t key) const
-    {
-        desk.keyboard.stroke(key);
-        desk.settle();
-    }
-
-    MouseDesk desk;
-    std::vector<std::unique_ptr<PlainWindow>> opened;
-};
 
 TEST_F(WindowChooser, liesInTheMiddleWithARowForEachWindow)
 {
