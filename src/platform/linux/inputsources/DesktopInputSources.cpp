@@ -113,9 +113,10 @@ std::optional<std::vector<InputSourceProperties>> DesktopInputSources::list(
 int DesktopInputSources::select(const InputSourceProperties& source)
 {
     const auto id = source.id.value_or("");
+    const auto before = backend_->current();
     const auto status = backend_->select(id);
     if (status == SelectionStatus::done) {
-        causes_.selected(id, std::chrono::steady_clock::now());
+        causes_.selected(id, before, std::chrono::steady_clock::now());
         presses_.await();
     }
     settleSoon_.start();

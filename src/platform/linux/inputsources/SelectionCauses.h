@@ -16,10 +16,12 @@ namespace brindlex {
 ///
 ///     settled ──window in front, selection──▶ settling ──press, `settleTime`──▶ settled
 ///
-/// The first of these rows that applies decides:
+/// The first of these rows that applies decides; "as before" is the source in force before the
+/// selection, to which its refusal goes back, and "pressed" is after a press since:
 ///
 ///     change to               while      hint of the backend   cause
 ///     what was selected last  any time   any                   choice
+///     another, not as before  pressed    undoing               choice
 ///     another                 any time   place, undoing        the hint
 ///     another                 settled    choice                choice
 ///     another                 settling   choice                undoing, when a selection settles
@@ -33,8 +35,8 @@ public:
     static constexpr std::chrono::milliseconds settleTime{1000};
 
     void windowCameToFront(Time now) { settlingUntil_ = now + settleTime; }
-    /// This program has selected a source.
-    void selected(const std::string& id, Time now);
+    /// This program has selected a source, in the place of another if one was in force.
+    void selected(const std::string& id, const std::optional<std::string>& before, Time now);
     /// A hand has pressed a key or a button.
     void pressed() { settlingUntil_.reset(); }
 
@@ -48,10 +50,13 @@ public:
 private:
     /// Whether the source is the one that was selected last, whatever its language is called.
     bool isSelected(const std::string& current) const;
+    /// Whether the source is the one in force before the last selection.
+    bool isAsBefore(const std::string& current) const;
 
     std::optional<Time> settlingUntil_;
     /// What this program has selected last, unless something else was in force since.
     std::optional<std::string> selected_;
+    std::optional<std::string> before_;
     Time selectionSettlesUntil_{};
     bool isUnseen_ = false;
 };

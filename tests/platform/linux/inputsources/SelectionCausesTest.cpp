@@ -41,12 +41,12 @@ TEST(SelectionCauses, takeAChangeRightAfterASelectionForItsUndoing)
     for (const auto delay : {0ms, 300ms, settleTime}) {
         SelectionCauses causes;
         causes.windowCameToFront(start - 1ms);
-        causes.selected("german", start);
+        causes.selected("german", "us", start);
         EXPECT_EQ(causes.changed("german", Cause::choice, start), Cause::choice) << "its echo";
         EXPECT_EQ(causes.changed("us", Cause::choice, start + delay), Cause::undoing);
     }
     SelectionCauses causes;
-    causes.selected("german", start);
+    causes.selected("german", "us", start);
     EXPECT_EQ(causes.changed("us", Cause::choice, start + settleTime + 1ms), Cause::choice);
 }
 
@@ -54,7 +54,7 @@ TEST(SelectionCauses, takeAChangeThatAHandMayHaveMadeForAChoice)
 {
     SelectionCauses causes;
     causes.windowCameToFront(start);
-    causes.selected("german", start);
+    causes.selected("german", "us", start);
     causes.pressed();
 
     EXPECT_EQ(causes.changed("us", Cause::choice, start + 1ms), Cause::choice);
@@ -72,7 +72,7 @@ TEST(SelectionCauses, doNotTakeTheHandThatBroughtTheWindowForOneThatChooses)
 TEST(SelectionCauses, undoNoSelectionThatHasSettledWithAWindowThatComes)
 {
     SelectionCauses causes;
-    causes.selected("german", start);
+    causes.selected("german", "us", start);
     causes.changed("german", Cause::choice, start);
     causes.windowCameToFront(start + 1min);
 
@@ -82,7 +82,7 @@ TEST(SelectionCauses, undoNoSelectionThatHasSettledWithAWindowThatComes)
 TEST(SelectionCauses, undoASelectionOnce)
 {
     SelectionCauses causes;
-    causes.selected("german", start);
+    causes.selected("german", "us", start);
     causes.changed("us", Cause::choice, start);
 
     EXPECT_EQ(causes.changed("russian", Cause::choice, start + 1ms), Cause::place);
@@ -92,17 +92,42 @@ TEST(SelectionCauses, believeTheBackendThatNobodyHasChosen)
 {
     for (const auto hint : {Cause::place, Cause::undoing}) {
         SelectionCauses causes;
-        causes.selected("german", start);
+        causes.selected("german", "us", start);
         causes.pressed();
         EXPECT_EQ(causes.changed("us", hint, start + 1h), hint);
     }
+}
+
+TEST(SelectionCauses, takeARefusalThatEndsElsewhereAfterAPressForAChoice)
+{
+    SelectionCauses causes;
+    causes.selected("german", "us", start);
+    causes.pressed();
+    EXPECT_EQ(causes.changed("russian", Cause::undoing, start + 1ms), Cause::choice);
+
+    causes.selected("german", "us", start);
+    EXPECT_EQ(causes.changed("russian", Cause::undoing, start + 1ms), Cause::undoing)
+        << "No hand has pressed anything.";
+
+    causes.selected("german", std::nullopt, start);
+    causes.pressed();
+    EXPECT_EQ(causes.changed("russian", Cause::undoing, start + 1ms), Cause::choice);
+}
+
+TEST(SelectionCauses, takeALateRefusalForThatEvenWhenSomebodyHasTypedMeanwhile)
+{
+    SelectionCauses causes;
+    causes.selected("xkb:de::deu", "xkb:be::deu", start);
+    causes.pressed();
+
+    EXPECT_EQ(causes.changed("xkb:be::nld", Cause::undoing, start + 5s), Cause::undoing);
 }
 
 TEST(SelectionCauses, takeTheEchoOfASelectionForAChoiceWhateverTheHint)
 {
     for (const auto hint : allHints) {
         SelectionCauses causes;
-        causes.selected("german", start);
+        causes.selected("german", "us", start);
         EXPECT_EQ(causes.changed("german", hint, start), Cause::choice);
     }
 }
@@ -110,7 +135,7 @@ TEST(SelectionCauses, takeTheEchoOfASelectionForAChoiceWhateverTheHint)
 TEST(SelectionCauses, knowASelectionByItsLayoutWhateverItsLanguageIsCalled)
 {
     SelectionCauses causes;
-    causes.selected("xkb:be::deu", start);
+    causes.selected("xkb:be::deu", "us", start);
     EXPECT_FALSE(causes.isLost("xkb:be::nld"));
     EXPECT_EQ(causes.changed("xkb:be::nld", Cause::choice, start), Cause::choice);
 }
@@ -119,13 +144,13 @@ TEST(SelectionCauses, loseASelectionThatNobodyHasSeenInForce)
 {
     SelectionCauses causes;
     EXPECT_FALSE(causes.isLost("us"));
-    causes.selected("german", start);
+    causes.selected("german", "us", start);
     EXPECT_FALSE(causes.isLost("german"));
     EXPECT_TRUE(causes.isLost("us"));
     causes.changed("us", Cause::choice, start);
     EXPECT_FALSE(causes.isLost("us")) << "It is known now.";
 
-    causes.selected("german", start);
+    causes.selected("german", "us", start);
     causes.changed("german", Cause::choice, start);
     EXPECT_FALSE(causes.isLost("us")) << "That would be a change.";
 }
