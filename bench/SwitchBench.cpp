@@ -69,6 +69,7 @@ SwitchEnvironment environment(const std::string& frontmost)
         .currentBrowserHost = [](const std::optional<std::string>&) { return std::nullopt; },
         .systemTime = [] { return now; },
         .whyUndone = [] { return std::string(); },
+        .noteSwitch = [](const InputMethodSwitchDecision&) {},
     };
 }
 

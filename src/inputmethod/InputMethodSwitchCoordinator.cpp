@@ -40,7 +40,8 @@ AppIdentifier identifierOf(const RunningApplication& application, const std::str
 
 InputMethodSwitchCoordinator::InputMethodSwitchCoordinator(InputMethodConfigStore& store,
     SmartInputMethodConfigStore& smartStore, SwitchAbilities abilities)
-    : store_(store), smartStore_(smartStore), abilities_(abilities)
+    : store_(store), smartStore_(smartStore), abilities_(abilities),
+      obstacles_(abilities.inputSources, abilities.bundles, abilities.applications)
 {
     // The replay at subscription is wanted: it makes the first event of each kind.
     enabledCancellable_
@@ -116,6 +117,14 @@ void InputMethodSwitchCoordinator::installObservers()
     if (!enabledSourcesToken_.isActive())
         enabledSourcesToken_ = abilities_.inputSources.observeEnabledSourcesChanges(
             [this] { dispatch(SwitchEvent::EnabledSourcesChanged{}); });
+    if (!rulesToken_.isActive())
+        rulesToken_ = store_.config()
+                          .stream()
+                          .map(&InputMethodConfig::rules)
+                          .withoutRepeats()
+                          .subscribe([this](const std::vector<InputMethodRule>& rules) {
+                              obstacles_.checkApplications(rules);
+                          });
 }
 
 void InputMethodSwitchCoordinator::removeObservers()
@@ -123,6 +132,7 @@ void InputMethodSwitchCoordinator::removeObservers()
     appActivationToken_.reset();
     inputSourceChangeToken_.reset();
     enabledSourcesToken_.reset();
+    rulesToken_.reset();
 }
 
 void InputMethodSwitchCoordinator::startBrowserPolling()
@@ -163,8 +173,12 @@ SwitchEnvironment InputMethodSwitchCoordinator::environment()
         const auto source = sources.current();
         return source ? std::optional(source->localizedName) : std::nullopt;
     };
-    environment.selectInputSource
-        = [sources](const std::string& id) { return sources.selectInputSource(id); };
+    environment.selectInputSource = [this, sources](const std::string& id) {
+        const bool isSelected = sources.selectInputSource(id);
+        if (!isSelected)
+            obstacles_.checkSource(id);
+        return isSelected;
+    };
     environment.isSupportedBrowser = [](const std::optional<std::string>& bundleID) {
         return bundleID && BrowserURLProvider::isSupported(*bundleID);
     };
@@ -175,6 +189,9 @@ SwitchEnvironment InputMethodSwitchCoordinator::environment()
         = [this](const std::optional<std::string>& bundleID) { return browserHost(bundleID); };
     environment.systemTime = [this] { return abilities_.clock.now(); };
     environment.whyUndone = [this] { return abilities_.inputSources.whyUndone(); };
+    environment.noteSwitch = [](const InputMethodSwitchDecision& decision) {
+        Log::info("Selected " + description(decision), logCategory::inputMethod);
+    };
     return environment;
 }
 

@@ -3,6 +3,7 @@
 #include "applications/AppIdentifier.h"
 #include "foundation/Subscription.h"
 #include "inputmethod/InputMethodConfigStore.h"
+#include "inputmethod/RuleObstacles.h"
 #include "inputmethod/SmartInputMethodConfigStore.h"
 #include "inputmethod/SwitchEffect.h"
 #include "inputmethod/SwitchEnvironment.h"
@@ -39,9 +40,10 @@ struct SwitchAbilities {
 /// The shell around the switching state machine.
 ///
 /// Turns what the computer and the stores report into events, feeds them one at a time to `reduce`,
-/// writes what was learned back to its store and carries out the effects in their order. Decides
-/// nothing itself. With switching enabled it observes from its construction on. It expects `Stop`
-/// to have been dispatched before its end. Main thread only.
+/// writes what was learned back to its store and carries out the effects in their order. Logs each
+/// switch and what keeps rules from applying. Decides nothing itself. With switching enabled it
+/// observes from its construction on. It expects `Stop` to have been dispatched before its end.
+/// Main thread only.
 class InputMethodSwitchCoordinator {
 public:
     InputMethodSwitchCoordinator(InputMethodConfigStore& store,
@@ -74,12 +76,14 @@ private:
     InputMethodConfigStore& store_;
     SmartInputMethodConfigStore& smartStore_;
     SwitchAbilities abilities_;
+    RuleObstacles obstacles_;
     SwitchState state_;
     std::deque<SwitchEvent::Any> pendingEvents_;
     bool isDispatching_ = false;
     Subscription appActivationToken_;
     Subscription inputSourceChangeToken_;
     Subscription enabledSourcesToken_;
+    Subscription rulesToken_;
     Subscription browserPollTimer_;
     Subscription browserPageToken_;
     Subscription enabledCancellable_;

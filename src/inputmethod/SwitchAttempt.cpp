@@ -63,6 +63,7 @@ std::optional<SwitchEffect::Any> attemptSwitch(const SwitchPlace& place, SwitchS
     }
     state.override = {context, context, decision->inputSourceID};
     state.standing.isChosenSinceSwitch = false;
+    environment.noteSwitch(*decision);
     if (!config.showHUD)
         return {};
     return labelOf(*decision, environment);

@@ -113,6 +113,22 @@ std::optional<InputMethodSwitchDecision> resolveSwitchDecision(
     return {};
 }
 
+std::string description(const InputMethodSwitchDecision& decision)
+{
+    const auto& source = decision.inputSourceID;
+    const auto application = decision.bundleID.value_or("unknown");
+    switch (decision.source) {
+    case Source::websiteRule:
+        return source + " for the website " + decision.matchedDomainSuffix.value_or("unknown")
+            + " in " + application + ", by its rule";
+    case Source::manualAppRule:
+        return source + " for " + application + ", by its rule";
+    case Source::smartAppRule:
+        return source + " for " + application + ", as learned";
+    }
+    return source;
+}
+
 InputMethodAutoSwitchContext::Any autoSwitchContext(const InputMethodSwitchDecision& decision)
 {
     if (decision.source == Source::websiteRule)

@@ -54,6 +54,9 @@ std::optional<InputMethodSwitchDecision> resolveSwitchDecision(
     const std::optional<std::string>& currentInputSourceID, const InputMethodConfig& config,
     const SmartInputMethodConfig* smartConfig, bool allowsAppRules, Date now);
 
+/// What was decided, where and by which rule, in one line for people.
+std::string description(const InputMethodSwitchDecision& decision);
+
 /// The place that a decision is for.
 InputMethodAutoSwitchContext::Any autoSwitchContext(const InputMethodSwitchDecision& decision);
 

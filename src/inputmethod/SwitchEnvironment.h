@@ -2,6 +2,7 @@
 
 #include "applications/AppIdentifier.h"
 #include "foundation/Date.h"
+#include "inputmethod/SwitchDecision.h"
 
 #include <functional>
 #include <optional>
@@ -30,6 +31,8 @@ struct SwitchEnvironment {
     std::function<Date()> systemTime{};
     /// Why selections are undone here, and what helps; empty when nothing is known.
     std::function<std::string()> whyUndone{};
+    /// Takes note of a switch that was made.
+    std::function<void(const InputMethodSwitchDecision& decision)> noteSwitch{};
 };
 
 } // namespace brindlex

@@ -3,6 +3,7 @@
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace brindlex {
 
@@ -17,6 +18,18 @@ struct ApplicationBundle {
     bool operator==(const ApplicationBundle&) const = default;
 };
 
+/// An application as lists of all of them need it.
+struct InstalledApplication {
+    std::string identifier{};
+    /// In the user's language.
+    std::string name{};
+    /// What `ApplicationBundles::bundle` reads.
+    std::filesystem::path path{};
+    bool isInMenus = true;
+
+    bool operator==(const InstalledApplication&) const = default;
+};
+
 /// The applications that are installed. Main thread only.
 class ApplicationBundles {
 public:
@@ -24,6 +37,9 @@ public:
 
     /// What stands at the path; nothing when it is not an application or cannot be read.
     virtual std::optional<ApplicationBundle> bundle(const std::filesystem::path& path) const = 0;
+
+    /// All of them, in no order; several may have one identifier.
+    virtual std::vector<InstalledApplication> installed() = 0;
 };
 
 } // namespace brindlex

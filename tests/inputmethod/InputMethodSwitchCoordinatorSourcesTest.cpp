@@ -32,6 +32,29 @@ TEST_F(InputMethodSwitchCoordinatorSources, carriesOutTheRuleOnceItsInputMethodH
     EXPECT_TRUE(stats().empty());
 }
 
+TEST_F(InputMethodSwitchCoordinatorSources, logsWhatItSelectsAndWhatKeepsItFromThat)
+{
+    using Lines = std::vector<std::string>;
+    start();
+    EXPECT_EQ(log.takeLines(),
+        (Lines{"WARN [input-method] No input source is called \"fcitx5:pinyin\"; there are "
+               "\"xkb:us::eng\" and \"xkb:de::deu\"",
+            "WARN [input-method] Failed to select fcitx5:pinyin for editor",
+            "WARN [input-method] Failed to select fcitx5:pinyin for editor",
+            "WARN [input-method] Failed to select fcitx5:pinyin for editor"}));
+
+    inputMethodStarts();
+    EXPECT_EQ(log.takeLines(),
+        Lines{"INFO [input-method] Selected fcitx5:pinyin for editor, by its rule"});
+
+    change([](auto& config) { config.rules.push_back(rule("edit", pinyin)); });
+    EXPECT_EQ(log.takeLines(),
+        Lines{"WARN [input-method] No application is called \"edit\", so its rule does not apply"});
+    change([](auto& config) { config.enabled = false; });
+    change([](auto& config) { config.rules.push_back(rule("other", pinyin)); });
+    EXPECT_EQ(log.takeLines(), Lines{}) << "No rule is asked for anything.";
+}
+
 TEST_F(InputMethodSwitchCoordinatorSources, leavesTheUsersChoiceAlone)
 {
     inputMethodStarts();

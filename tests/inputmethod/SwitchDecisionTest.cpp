@@ -215,6 +215,20 @@ TEST_F(SwitchDecision, isForTheDomainOrTheApplication)
     EXPECT_EQ(context(), std::nullopt);
 }
 
+TEST(InputMethodSwitchDecision, isDescribedInOneLine)
+{
+    const auto described = [](const Text& bundleID, const Text& domain, Source source) {
+        return description(InputMethodSwitchDecision{bundleID, domain, "xkb:de::deu", source});
+    };
+    EXPECT_EQ(described(browser, "example.com", Source::websiteRule),
+        "xkb:de::deu for the website example.com in com.example.Browser, by its rule");
+    EXPECT_EQ(described(browser, {}, Source::manualAppRule),
+        "xkb:de::deu for com.example.Browser, by its rule");
+    EXPECT_EQ(described(browser, {}, Source::smartAppRule),
+        "xkb:de::deu for com.example.Browser, as learned");
+    EXPECT_EQ(described({}, {}, Source::smartAppRule), "xkb:de::deu for unknown, as learned");
+}
+
 TEST(InputMethodAutoSwitchContext, isEqualInCaseAndText)
 {
     const Context::Any app = Context::App{"x"};

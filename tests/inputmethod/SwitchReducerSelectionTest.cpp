@@ -45,6 +45,22 @@ TEST_F(SwitchReducer, opensTheWindowBeforeItSelects)
     EXPECT_EQ(seen, (SwitchState::IgnoreWindow{german, computer.now + 1.0}));
 }
 
+TEST_F(SwitchReducer, notesEachSwitchThatWasMade)
+{
+    const InputMethodSwitchDecision switched{
+        editor, {}, german, InputMethodSwitchDecisionSource::manualAppRule};
+    begin();
+    computer.refusedSources = {german};
+    activate(editor);
+    EXPECT_TRUE(computer.switches.empty());
+
+    computer.refusedSources.clear();
+    activate(editor);
+    EXPECT_EQ(computer.switches, std::vector{switched});
+    activate(editor);
+    EXPECT_EQ(computer.switches, std::vector{switched}) << "It is selected already.";
+}
+
 TEST_F(SwitchReducer, showsNothingWithoutTheOverlay)
 {
     begin();

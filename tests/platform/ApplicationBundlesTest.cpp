@@ -12,7 +12,7 @@ namespace {
 /// Applications installed on a simulated computer.
 class SimulatedInstallation {
 public:
-    const ApplicationBundles& bundles() const { return bundles_; }
+    ApplicationBundles& bundles() { return bundles_; }
 
     std::filesystem::path install(const std::string& identifier, const ApplicationBundle& bundle)
     {
@@ -32,7 +32,7 @@ class DesktopInstallation {
 public:
     DesktopInstallation() { std::filesystem::create_directories(folder_.path() / "applications"); }
 
-    const ApplicationBundles& bundles() const { return bundles_; }
+    ApplicationBundles& bundles() { return bundles_; }
 
     std::filesystem::path install(const std::string& identifier, const ApplicationBundle& bundle)
     {
@@ -88,6 +88,18 @@ TYPED_TEST(ApplicationBundlesContract, noticesThatAnApplicationWasRemoved)
     EXPECT_TRUE(this->installation.bundles().bundle(path));
     this->installation.remove(path);
     EXPECT_EQ(this->installation.bundles().bundle(path), std::nullopt);
+}
+
+TYPED_TEST(ApplicationBundlesContract, listsWhatIsInstalledNow)
+{
+    EXPECT_TRUE(this->installation.bundles().installed().empty());
+    const auto pad = this->installation.install("org.example.Pad",
+        {.identifier = "org.example.Pad", .displayName = "Block", .name = "Pad"});
+    EXPECT_EQ(this->installation.bundles().installed(),
+        (std::vector<InstalledApplication>{{"org.example.Pad", "Block", pad, true}}));
+
+    this->installation.remove(pad);
+    EXPECT_TRUE(this->installation.bundles().installed().empty());
 }
 
 } // namespace

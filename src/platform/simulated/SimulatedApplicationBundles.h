@@ -19,6 +19,15 @@ public:
         return found->second;
     }
 
+    std::vector<InstalledApplication> installed() override
+    {
+        std::vector<InstalledApplication> all;
+        for (const auto& [path, bundle] : bundles_)
+            all.push_back({bundle.identifier.value_or(path.stem().string()),
+                bundle.displayName.value_or(bundle.name.value_or("")), path});
+        return all;
+    }
+
     /// Puts an application there, in place of what was there.
     void install(const std::filesystem::path& path, const ApplicationBundle& bundle)
     {

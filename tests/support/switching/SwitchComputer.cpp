@@ -63,6 +63,8 @@ SwitchEnvironment SwitchComputer::environment()
                 calls.push_back("whyUndone");
                 return whyUndone;
             },
+        .noteSwitch
+        = [this](const InputMethodSwitchDecision& decision) { switches.push_back(decision); },
     };
 }
 

@@ -29,6 +29,8 @@ struct SwitchComputer {
 
     /// Every selection asked for, oldest first.
     std::vector<std::string> selections{};
+    /// Every switch noted, oldest first.
+    std::vector<InputMethodSwitchDecision> switches{};
     /// The names of the functions called, oldest first.
     std::vector<std::string> calls{};
 

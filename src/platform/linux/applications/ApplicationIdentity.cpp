@@ -1,6 +1,7 @@
 #include "platform/linux/applications/ApplicationIdentity.h"
 
 #include "foundation/Text.h"
+#include "platform/ApplicationIdentifiers.h"
 #include "platform/linux/applications/KnownApplications.h"
 
 #include <algorithm>
@@ -106,9 +107,9 @@ std::optional<std::string> identifierWithoutEntry(const WindowOrigin& origin)
     if (const auto known = knownIdentifier(name))
         return std::string(*known);
     if (!name.empty())
-        return "wmclass:" + name;
+        return std::string(windowClassPrefix) + name;
     if (!origin.program.empty())
-        return "exe:" + origin.program;
+        return std::string(programPrefix) + origin.program;
     return {};
 }
 

@@ -6,10 +6,8 @@
 
 namespace brindlex {
 
-DesktopApplicationBundles::DesktopApplicationBundles(const DesktopEntries& entries)
-    : entries_(entries)
-{
-}
+DesktopApplicationBundles::DesktopApplicationBundles(DesktopEntries& entries)
+    : entries_(entries) { }
 
 std::optional<ApplicationBundle> DesktopApplicationBundles::bundle(
     const std::filesystem::path& path) const
@@ -26,6 +24,15 @@ std::optional<ApplicationBundle> DesktopApplicationBundles::bundle(
         .name = unlessEmpty(entry->name),
         .iconFile = iconFile(entry->icon, entries_.dataFolders()),
     };
+}
+
+std::vector<InstalledApplication> DesktopApplicationBundles::installed()
+{
+    entries_.refresh();
+    std::vector<InstalledApplication> all;
+    for (const auto& entry : entries_.all())
+        all.push_back({identifierOf(entry), entry.localizedName, entry.path, entry.isInMenus});
+    return all;
 }
 
 } // namespace brindlex

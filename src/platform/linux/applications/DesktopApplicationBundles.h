@@ -9,12 +9,13 @@ namespace brindlex {
 /// the entry.
 class DesktopApplicationBundles final : public ApplicationBundles {
 public:
-    explicit DesktopApplicationBundles(const DesktopEntries& entries);
+    explicit DesktopApplicationBundles(DesktopEntries& entries);
 
     std::optional<ApplicationBundle> bundle(const std::filesystem::path& path) const override;
+    std::vector<InstalledApplication> installed() override;
 
 private:
-    const DesktopEntries& entries_;
+    DesktopEntries& entries_;
 };
 
 } // namespace brindlex
