@@ -62,12 +62,12 @@ void gestureStepOfADrag(benchmark::State& state)
         = [](Point) { return MouseResizeDragDecision{}; };
     MouseGestureState pending;
     Event event{EventType::otherMouseDown, {}, 0, {{EventField::mouseEventButtonNumber, 3}}};
-    reduceMouseGesture(event, pending, config, Date{0}, decide);
+    reduceMouseGesture(event, pending, config, Date{0}, 1, decide);
     event.type = EventType::otherMouseDragged;
     const Allocations count(state);
     for (auto _ : state) {
         event.location.x += 0.5;
-        benchmark::DoNotOptimize(reduceMouseGesture(event, pending, config, Date{1}, decide));
+        benchmark::DoNotOptimize(reduceMouseGesture(event, pending, config, Date{1}, 1, decide));
     }
 }
 BENCHMARK(gestureStepOfADrag);

@@ -7,7 +7,7 @@
 // naming the window to the server's keyboard having the group, seen by one other client.
 
 #include "Distribution.h"
-#include "platform/linux/x11/XkbProtocol.h"
+#include "GroupWitness.h"
 #include "support/basics/Eventually.h"
 #include "support/hardware/KeyboardGroup.h"
 #include "support/processes/ProgramFiles.h"
@@ -18,10 +18,6 @@
 #include "support/switching/SwitchingRules.h"
 #include "support/windows/InstalledApplication.h"
 #include "support/windows/PlainWindow.h"
-
-#include <poll.h>
-#include <unistd.h>
-#include <xcb/xcb.h>
 
 #include <chrono>
 #include <cstdio>
@@ -104,64 +100,6 @@ void measureIdle()
     std::printf("%-44s %ld in %d s\n", "idle wake-ups of all threads", wakes, seconds);
 }
 
-/// Listens for the active window and for the keyboard group at once.
-class Witness {
-public:
-    explicit Witness(const XConnection& server) : connection_(xcb_connect(nullptr, nullptr))
-    {
-        root_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data->root;
-        const auto name = xcb_intern_atom(connection_, 0, 18, "_NET_ACTIVE_WINDOW");
-        auto* reply = xcb_intern_atom_reply(connection_, name, nullptr);
-        active_ = reply->atom;
-        std::free(reply);
-        const std::uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
-        xcb_change_window_attributes(connection_, root_, XCB_CW_EVENT_MASK, &mask);
-        std::free(xcb_xkb_use_extension_reply(
-            connection_, xcb_xkb_use_extension(connection_, 1, 0), nullptr));
-        xkbEvent_ = xcb_get_extension_data(connection_, &xcb_xkb_id)->first_event;
-        xcb_xkb_select_events_details_t details{};
-        details.affectState = XCB_XKB_STATE_PART_GROUP_STATE;
-        details.stateDetails = XCB_XKB_STATE_PART_GROUP_STATE;
-        const std::uint16_t event = XCB_XKB_EVENT_TYPE_STATE_NOTIFY;
-        xcb_xkb_select_events_aux(
-            connection_, XCB_XKB_ID_USE_CORE_KBD, event, 0, 0, 0, 0, &details);
-        xcb_flush(connection_);
-        static_cast<void>(server);
-    }
-    ~Witness() { xcb_disconnect(connection_); }
-    Witness(const Witness&) = delete;
-    Witness& operator=(const Witness&) = delete;
-
-    /// The milliseconds between the next activation and the group change that follows it; negative
-    /// when none follows within a second.
-    double nextSwitch()
-    {
-        std::optional<Clock::time_point> activated;
-        const auto start = Clock::now();
-        pollfd socket{xcb_get_file_descriptor(connection_), POLLIN, 0};
-        while (millisecondsSince(start) < 1000) {
-            while (auto* event = xcb_poll_for_event(connection_)) {
-                const auto type = event->response_type & 0x7F;
-                const bool isActivation = type == XCB_PROPERTY_NOTIFY
-                    && reinterpret_cast<xcb_property_notify_event_t*>(event)->atom == active_;
-                std::free(event);
-                if (isActivation)
-                    activated = Clock::now();
-                else if (type == xkbEvent_ && activated)
-                    return millisecondsSince(*activated);
-            }
-            ::poll(&socket, 1, 10);
-        }
-        return -1;
-    }
-
-private:
-    xcb_connection_t* connection_;
-    xcb_window_t root_ = 0;
-    xcb_atom_t active_ = 0;
-    int xkbEvent_ = 0;
-};
-
 void measureActivation(int rounds)
 {
     VirtualDesktop desktop;
@@ -187,12 +125,12 @@ void measureActivation(int rounds)
     settle(beta, 1);
     settle(alpha, 0);
 
-    Witness witness(server);
+    GroupWitness witness(server.root(), "_NET_ACTIVE_WINDOW");
     std::vector<double> milliseconds;
     int missed = 0;
     for (int round = 0; round < rounds; ++round) {
         windows.requestActivation(round % 2 == 0 ? beta.window() : alpha.window());
-        const double latency = witness.nextSwitch();
+        const double latency = witness.nextSwitch([] { return true; }, std::chrono::seconds(1));
         if (latency < 0)
             ++missed;
         else

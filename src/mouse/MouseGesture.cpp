@@ -11,8 +11,9 @@ namespace {
 class Step {
 public:
     Step(const Event& event, MouseGestureState& state, const MouseGestureConfig& config, Date now,
-        const std::function<MouseResizeDragDecision(Point)>& decide)
-        : event_(event), state_(state), config_(config), now_(now), decide_(decide),
+        double unitsPerPoint, const std::function<MouseResizeDragDecision(Point)>& decide)
+        : event_(event), state_(state), config_(config), now_(now), unitsPerPoint_(unitsPerPoint),
+          decide_(decide),
           button_(mouseButtonWithNumber(event.value(EventField::mouseEventButtonNumber))),
           modifiers_(ModifierSet::fromEventFlags(event.flags))
     {
@@ -41,7 +42,7 @@ public:
             return EventVerdict::pass;
         }
         const bool wasLocked = press.lockedDirection.has_value();
-        press.update(event_.location, config_.distanceThreshold);
+        press.update(event_.location, config_.distanceThreshold * unitsPerPoint_);
         if (!wasLocked && press.lockedDirection)
             log("locked " + label(*press.lockedDirection));
         dispatchOnLock(press);
@@ -114,7 +115,7 @@ private:
             else
                 log("no binding for " + label(*press.lockedDirection));
         } else if (*button_ == MouseButton::right
-            && press.maxDisplacement > rightClickReplayLimit) {
+            && press.maxDisplacement > rightClickReplayLimit * unitsPerPoint_) {
             log("suppress click replay " + buttonLabel());
         } else {
             effects_.push_back(MouseGestureEffect::ReplayClick{*button_, press.downPoint});
@@ -155,6 +156,7 @@ private:
     MouseGestureState& state_;
     const MouseGestureConfig& config_;
     Date now_;
+    double unitsPerPoint_;
     const std::function<MouseResizeDragDecision(Point)>& decide_;
     std::optional<MouseButton> button_;
     ModifierSet modifiers_;
@@ -164,12 +166,12 @@ private:
 } // namespace
 
 MouseGestureOutcome reduceMouseGesture(const Event& event, MouseGestureState& state,
-    const MouseGestureConfig& config, Date now,
+    const MouseGestureConfig& config, Date now, double unitsPerPoint,
     const std::function<MouseResizeDragDecision(Point)>& decide)
 {
     if (event.value(EventField::eventSourceUserData) == mouseEventTag::replay)
         return {};
-    Step step(event, state, config, now, decide);
+    Step step(event, state, config, now, unitsPerPoint, decide);
     auto verdict = EventVerdict::pass;
     if (isMouseDown(event.type))
         verdict = step.down();

@@ -71,10 +71,11 @@ inline constexpr double rightClickReplayLimit = 6.0;
 ///      ├──────up, swallowed────────────────────────────────────────────┘
 ///      └──────time-out, the rest of the press passes (from either)
 ///
-/// `decide` reports whether a press of the left button is about to resize something; it is called
-/// only once a binding of that button has matched.
+/// `unitsPerPoint` is the size of a point in the coordinates of the event. `decide` reports whether
+/// a press of the left button is about to resize something; it is called only once a binding of
+/// that button has matched.
 MouseGestureOutcome reduceMouseGesture(const Event& event, MouseGestureState& state,
-    const MouseGestureConfig& config, Date now,
+    const MouseGestureConfig& config, Date now, double unitsPerPoint,
     const std::function<MouseResizeDragDecision(Point)>& decide);
 
 /// The types of event that the bindings need; 0 when they need none.

@@ -11,7 +11,7 @@ namespace brindlex {
 /// One press of a button from its down to its up.
 struct MouseGestureDragState {
     Point downPoint{};
-    /// The greatest distance from `downPoint` so far, in points.
+    /// The greatest distance from `downPoint` so far.
     double maxDisplacement = 0;
     /// Where the drag goes; absent until it has gone far enough.
     std::optional<MouseDirection> lockedDirection{};

@@ -41,8 +41,8 @@ void MouseGestureManager::install(EventMask mask)
 
 EventVerdict MouseGestureManager::receive(const Event& event)
 {
-    const auto outcome = reduceMouseGesture(
-        event, state_, config_.value().gesture, abilities_.clock.now(), decide_);
+    const auto outcome = reduceMouseGesture(event, state_, config_.value().gesture,
+        abilities_.clock.now(), abilities_.scale.unitsPerPoint(), decide_);
     for (const auto& effect : outcome.effects)
         carryOut(effect);
     return outcome.verdict;

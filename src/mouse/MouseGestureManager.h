@@ -7,6 +7,7 @@
 #include "mouse/MouseGesture.h"
 #include "mouse/MouseResizeCursorDetector.h"
 #include "platform/Clock.h"
+#include "platform/DisplayScale.h"
 
 namespace brindlex {
 
@@ -23,6 +24,7 @@ public:
         MouseActionDispatcher& dispatcher;
         MouseResizeCursorDetector& resizeDetector;
         const Clock& clock;
+        const DisplayScale& scale;
     };
 
     MouseGestureManager(const Observable<MouseConfig>& config, const TapEnvironment& environment,

@@ -26,9 +26,9 @@ bool matches(const CursorImage& candidate, const CursorImage& cursor)
 
 } // namespace
 
-MouseResizeCursorDetector::MouseResizeCursorDetector(
-    CursorReading& cursor, AccessibilityTree& accessibility, WindowList& windows)
-    : cursor_(cursor), accessibility_(accessibility), windows_(windows)
+MouseResizeCursorDetector::MouseResizeCursorDetector(CursorReading& cursor,
+    AccessibilityTree& accessibility, WindowList& windows, const DisplayScale& scale)
+    : cursor_(cursor), accessibility_(accessibility), windows_(windows), scale_(scale)
 {
 }
 
@@ -51,7 +51,7 @@ MouseResizeDragDecision MouseResizeCursorDetector::decide(Point point)
         decision.reason = "axResizeControl";
         return decision;
     }
-    decision.windowEdge = isOnWindowEdge(windows_, accessibility_, point);
+    decision.windowEdge = isOnWindowEdge(windows_, accessibility_, point, scale_.unitsPerPoint());
     decision.shouldBypass = decision.windowEdge;
     decision.reason = decision.windowEdge ? "windowEdge" : "none";
     return decision;

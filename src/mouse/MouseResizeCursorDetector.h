@@ -4,6 +4,7 @@
 #include "mouse/MouseResizeDragDecision.h"
 #include "platform/AccessibilityTree.h"
 #include "platform/CursorReading.h"
+#include "platform/DisplayScale.h"
 #include "platform/WindowList.h"
 
 #include <optional>
@@ -25,8 +26,8 @@ struct ResizeCursorCandidate {
 /// tree and the list of windows second. Main thread only.
 class MouseResizeCursorDetector {
 public:
-    MouseResizeCursorDetector(
-        CursorReading& cursor, AccessibilityTree& accessibility, WindowList& windows);
+    MouseResizeCursorDetector(CursorReading& cursor, AccessibilityTree& accessibility,
+        WindowList& windows, const DisplayScale& scale);
 
     MouseResizeDragDecision decide(Point point);
 
@@ -38,6 +39,7 @@ private:
     CursorReading& cursor_;
     AccessibilityTree& accessibility_;
     WindowList& windows_;
+    const DisplayScale& scale_;
     /// Absent until they are first needed.
     std::optional<std::vector<ResizeCursorCandidate>> candidates_;
 };

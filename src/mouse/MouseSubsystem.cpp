@@ -18,7 +18,8 @@ MouseActionDispatcher& MouseSubsystem::actionDispatcher()
 
 MouseResizeCursorDetector& MouseSubsystem::resizeCursorDetector()
 {
-    return resizeCursorDetector_.get(platform_.cursor, platform_.accessibility, platform_.windows);
+    return resizeCursorDetector_.get(
+        platform_.cursor, platform_.accessibility, platform_.windows, platform_.displayScale);
 }
 
 MouseClickManager& MouseSubsystem::clickManager()
@@ -34,6 +35,7 @@ MouseGestureManager& MouseSubsystem::gestureManager()
             .dispatcher = actionDispatcher(),
             .resizeDetector = resizeCursorDetector(),
             .clock = platform_.clock,
+            .scale = platform_.displayScale,
         });
 }
 

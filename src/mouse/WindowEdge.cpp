@@ -9,11 +9,11 @@ namespace brindlex {
 namespace {
 
 /// The bounds of the frontmost ordinary window at the point.
-std::optional<Rect> windowAt(WindowList& windows, Point point)
+std::optional<Rect> windowAt(WindowList& windows, Point point, double margin)
 {
     for (const auto& window : windows.onScreen())
         if (window.layer == 0 && window.alpha && *window.alpha > 0 && window.bounds
-            && !window.bounds->isEmpty() && window.bounds->containsWithin(windowListMargin, point))
+            && !window.bounds->isEmpty() && window.bounds->containsWithin(margin, point))
             return window.bounds;
     return {};
 }
@@ -56,13 +56,14 @@ bool isNearEdge(Point point, const Rect& rectangle, double margin)
     return nearest <= margin;
 }
 
-bool isOnWindowEdge(WindowList& windows, AccessibilityTree& tree, Point point)
+bool isOnWindowEdge(WindowList& windows, AccessibilityTree& tree, Point point, double unitsPerPoint)
 {
-    const auto bounds = windowAt(windows, point);
-    if (!bounds || !isNearEdge(point, *bounds, windowListMargin))
+    const double margin = windowListMargin * unitsPerPoint;
+    const auto bounds = windowAt(windows, point, margin);
+    if (!bounds || !isNearEdge(point, *bounds, margin))
         return false;
     const auto frame = accessibilityFrameAt(tree, point).value_or(*bounds);
-    return isNearEdge(point, frame, windowEdgeTolerance);
+    return isNearEdge(point, frame, windowEdgeTolerance * unitsPerPoint);
 }
 
 } // namespace brindlex

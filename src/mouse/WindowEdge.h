@@ -17,7 +17,9 @@ inline constexpr double windowEdgeTolerance = 8;
 bool isNearEdge(Point point, const Rect& rectangle, double margin);
 
 /// Whether the point is on the edge of the window that it hits, by the list of windows first and by
-/// the accessibility tree's more exact frame second.
-bool isOnWindowEdge(WindowList& windows, AccessibilityTree& tree, Point point);
+/// the accessibility tree's more exact frame second. `unitsPerPoint` is the size of a point in
+/// their coordinates.
+bool isOnWindowEdge(
+    WindowList& windows, AccessibilityTree& tree, Point point, double unitsPerPoint);
 
 } // namespace brindlex

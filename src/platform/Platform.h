@@ -8,6 +8,7 @@
 #include "platform/Clock.h"
 #include "platform/CursorReading.h"
 #include "platform/DisplayLink.h"
+#include "platform/DisplayScale.h"
 #include "platform/DistributedNotifications.h"
 #include "platform/EventPermissions.h"
 #include "platform/EventPosting.h"
@@ -48,6 +49,7 @@ struct Platform {
     EventTapping& eventTapping;
     EventPosting& eventPosting;
     DisplayLink& displayLink;
+    DisplayScale& displayScale;
     CursorReading& cursor;
     AccessibilityTree& accessibility;
     WindowList& windows;

@@ -1,5 +1,7 @@
 #include "desktop/MouseFixture.h"
 
+#include "support/screen/XResources.h"
+
 namespace brindlex {
 namespace {
 
@@ -28,6 +30,22 @@ TEST_F(Mouse, followsSettingsThatAnotherProcessWrites)
     window.forget();
     desk.mouse.click(backButton);
     EXPECT_TRUE(receives(window, {"press 8", "release 8"}));
+}
+
+TEST_F(Mouse, wantsDragsTwiceAsLongWhereTheDesktopDrawsTwiceAsLarge)
+{
+    setDotsPerInch(desk.server, 192);
+    desk.start(everything());
+    EventLogWindow window;
+
+    drag(backButton, 40, 0);
+    desk.mouse.release(backButton);
+    EXPECT_TRUE(receives(window, {"press 8", "release 8"}));
+
+    window.forget();
+    drag(backButton, 70, 0);
+    desk.mouse.release(backButton);
+    EXPECT_TRUE(receives(window, forwardClick));
 }
 
 TEST_F(Mouse, losesAndRegainsThePermissionOfTheUser)

@@ -53,7 +53,7 @@ struct MouseGestureTest : testing::Test {
     {
         const Event event{type, point, flags,
             {{EventField::mouseEventButtonNumber, button}, {EventField::eventSourceUserData, tag}}};
-        return reduceMouseGesture(event, state, config, now, [this](Point asked) {
+        return reduceMouseGesture(event, state, config, now, unitsPerPoint, [this](Point asked) {
             asks.push_back(asked);
             return decision;
         });
@@ -74,6 +74,7 @@ struct MouseGestureTest : testing::Test {
     MouseGestureConfig config;
     MouseGestureState state;
     Date now{1000};
+    double unitsPerPoint = 1;
     MouseResizeDragDecision decision{false, "none", {100, 100}, "C", "A", false};
     std::vector<Point> asks;
 };

@@ -265,8 +265,8 @@ TEST_F(MouseGestureManagerTest, comesBackWithTheTap)
 
 TEST_F(MouseGestureManagerTest, canGoWhileAnEventIsOnItsWay)
 {
-    auto second = std::make_unique<MouseGestureManager>(
-        config, environment, MouseGestureManager::Abilities{input, dispatcher, detector, clock});
+    auto second = std::make_unique<MouseGestureManager>(config, environment,
+        MouseGestureManager::Abilities{input, dispatcher, detector, clock, displayScale});
     bindGesture(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);
     second->tearDown();
     gestures.tearDown();

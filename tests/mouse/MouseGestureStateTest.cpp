@@ -9,7 +9,7 @@ class MouseGestureStateTest : public testing::Test {
 protected:
     MouseGestureOutcome step(EventType type, Point point, Date now)
     {
-        return reduceMouseGesture({type, point, 0, {}}, state, config, now,
+        return reduceMouseGesture({type, point, 0, {}}, state, config, now, 1,
             [](Point) { return MouseResizeDragDecision{}; });
     }
 

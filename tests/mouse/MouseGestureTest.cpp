@@ -62,6 +62,23 @@ TEST_F(MouseGestureTest, takesTheFirstBindingThatFits)
     EXPECT_EQ(drag(3, {100, 0}).effects.back(), perform(MouseAction::Plain::forward));
 }
 
+TEST_F(MouseGestureTest, goesTwiceAsFarOnAScreenThatIsDrawnTwiceAsLarge)
+{
+    unitsPerPoint = 2;
+    bind(MouseButton::right, {}, MouseDirection::right, MouseAction::Plain::forward);
+    down(1);
+    EXPECT_EQ(drag(1, {159, 100}), (Outcome{swallow, {}}));
+    EXPECT_EQ(drag(1, {160, 100}).effects.back(), perform(MouseAction::Plain::forward));
+    up(1);
+
+    down(1);
+    drag(1, {112, 100});
+    EXPECT_EQ(up(1), (Outcome{swallow, {replay(MouseButton::right, {100, 100})}}));
+    down(1);
+    drag(1, {112.1, 100});
+    EXPECT_EQ(up(1), (Outcome{swallow, {info("suppress click replay Right Button")}}));
+}
+
 TEST_F(MouseGestureTest, readsTheThresholdAtEachEvent)
 {
     bind(MouseButton::button4, {}, MouseDirection::right, MouseAction::Plain::forward);

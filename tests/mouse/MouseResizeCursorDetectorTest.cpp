@@ -2,6 +2,7 @@
 
 #include "platform/simulated/SimulatedAccessibilityTree.h"
 #include "platform/simulated/SimulatedCursor.h"
+#include "platform/simulated/SimulatedDisplayScale.h"
 #include "platform/simulated/SimulatedWindowList.h"
 
 #include <gtest/gtest.h>
@@ -19,7 +20,8 @@ protected:
     SimulatedCursor cursor;
     SimulatedAccessibilityTree tree;
     SimulatedWindowList windows;
-    MouseResizeCursorDetector detector{cursor, tree, windows};
+    SimulatedDisplayScale scale;
+    MouseResizeCursorDetector detector{cursor, tree, windows, scale};
 };
 
 TEST_F(MouseResizeCursorDetectorTest, knowsEveryResizeCursorByItsName)

@@ -48,7 +48,9 @@ TEST(isNearEdge, neverHoldsForAnEmptyRectangleOrNoMargin)
 
 class WindowEdgeTest : public testing::Test {
 protected:
-    bool isOnEdge(Point point) { return isOnWindowEdge(windows, tree, point); }
+    bool isOnEdge(Point point) { return isOnWindowEdge(windows, tree, point, unitsPerPoint); }
+
+    double unitsPerPoint = 1;
 
     SimulatedWindowList windows;
     SimulatedAccessibilityTree tree;
@@ -110,6 +112,21 @@ TEST_F(WindowEdgeTest, isThatOfTheAccessibilityFrame)
     EXPECT_EQ(tree.element->messagingTimeout, 0.03);
     EXPECT_EQ(tree.element->givenWindow->messagingTimeout, 0.03);
     EXPECT_EQ(tree.questions.front(), (std::pair<Point, Seconds>{{480, 250}, 0.03}));
+}
+
+TEST_F(WindowEdgeTest, isAsBroadOnAScreenThatIsDrawnLarger)
+{
+    windows.windows = {{0, 1.0, window}};
+    unitsPerPoint = 2;
+    EXPECT_TRUE(isOnEdge({516, 250}));
+    EXPECT_FALSE(isOnEdge({516.1, 250}));
+
+    tree.element = std::make_shared<SimulatedElement>();
+    tree.element->givenRole = "AXWindow";
+    tree.element->givenPosition = {50, 100};
+    tree.element->givenSize = {514, 300};
+    EXPECT_TRUE(isOnEdge({564, 250})) << "It is 64 beside the list's window.";
+    EXPECT_FALSE(isOnEdge({564.1, 250}));
 }
 
 TEST_F(WindowEdgeTest, isThatOfTheElementItselfWhenThatIsAWindow)

@@ -35,7 +35,7 @@ TourDesktop::TourDesktop() : ibus(desktop, {english, german, pinyin})
     installApplication(desktop, lettersApplication, "Letters");
     installApplication(desktop, notesApplication, "Notes");
     files.writePreferences(rules().preferences());
-    browser.emplace(desktop, windows, web, "www.example.com");
+    browser.emplace(desktop, windows, web, "chromium", "www.example.com");
     windows.place(browser->window(), {150, 350, 980, 420});
     letters.emplace(windows, "Letters", paper("Letters", "#fdf6e3"));
     windows.place(letters->window(), {40, 50, 580, 240});

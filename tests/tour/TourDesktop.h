@@ -1,7 +1,7 @@
 #pragma once
 
-#include "support/browsers/ChromiumBrowser.h"
 #include "support/browsers/LocalWebServer.h"
+#include "support/browsers/WebBrowser.h"
 #include "support/daemons/IBusDaemon.h"
 #include "support/hardware/PlayedInput.h"
 #include "support/processes/ProgramFiles.h"
@@ -47,7 +47,7 @@ public:
     IBusDaemon ibus;
     std::optional<TypingWindow> letters;
     std::optional<TypingWindow> notes;
-    std::optional<ChromiumBrowser> browser;
+    std::optional<WebBrowser> browser;
     std::optional<RunningProgram> program;
 };
 

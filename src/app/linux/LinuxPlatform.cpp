@@ -12,6 +12,7 @@
 #include "platform/linux/panels/X11ApplicationOpening.h"
 #include "platform/linux/system/DBusSessionLock.h"
 #include "platform/linux/windows/RandRDisplayLink.h"
+#include "platform/linux/windows/X11DisplayScale.h"
 #include "platform/linux/windows/X11SessionLock.h"
 #include "platform/linux/windows/X11WindowList.h"
 
@@ -66,6 +67,8 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
             [&] {
                 return make_shared<RandRDisplayLink>(x11().display, session_.mainThread, clock);
             }}}),
+        .displayScale = first.of<DisplayScale>(
+            {{hasX11, [&] { return make_shared<X11DisplayScale>(x11().display); }}}),
         .cursor = first.of<CursorReading>(
             {{hasX11, [&] { return make_shared<X11CursorReading>(x11().display); }}}),
         .accessibility = first.of<AccessibilityTree>({{hasX11,

@@ -36,6 +36,7 @@ Platform SimulatedComputer::platformWithInput(EventTapping& tapping, EventPostin
         .eventTapping = tapping,
         .eventPosting = posting,
         .displayLink = displayLink,
+        .displayScale = displayScale,
         .cursor = cursor,
         .accessibility = accessibility,
         .windows = windows,

@@ -10,6 +10,7 @@
 #include "platform/simulated/SimulatedClock.h"
 #include "platform/simulated/SimulatedCursor.h"
 #include "platform/simulated/SimulatedDisplayLink.h"
+#include "platform/simulated/SimulatedDisplayScale.h"
 #include "platform/simulated/SimulatedEventPermissions.h"
 #include "platform/simulated/SimulatedIconRendering.h"
 #include "platform/simulated/SimulatedInput.h"
@@ -86,6 +87,7 @@ public:
     SimulatedMouse mouse{input};
     SimulatedKeyboard keyboard{input};
     SimulatedDisplayLink displayLink;
+    SimulatedDisplayScale displayScale;
     SimulatedCursor cursor;
     SimulatedAccessibilityTree accessibility;
     SimulatedWindowList windows;

@@ -3,6 +3,7 @@
 #include "foundation/FatalError.h"
 #include "support/basics/Eventually.h"
 #include "support/basics/TemporaryFolder.h"
+#include "support/browsers/BrowserProfiles.h"
 
 #include <charconv>
 
@@ -29,20 +30,6 @@ std::filesystem::path writePages(const VirtualDesktop& desktop)
     write(folder / "one.html", page("one", "<a href=two.html></a>"));
     write(folder / "two.html", page("two", "<p></p>"));
     return folder / "one.html";
-}
-
-/// Settings with which nothing but the page is shown.
-std::filesystem::path writeFirefoxProfile(const VirtualDesktop& desktop)
-{
-    auto profile = desktop.home() / "firefox";
-    std::filesystem::create_directories(profile);
-    write(profile / "user.js",
-        "user_pref('browser.aboutwelcome.enabled', false);\n"
-        "user_pref('browser.shell.checkDefaultBrowser', false);\n"
-        "user_pref('browser.startup.homepage_override.mstone', 'ignore');\n"
-        "user_pref('datareporting.policy.dataSubmissionPolicyBypassNotification', true);\n"
-        "user_pref('gfx.webrender.software', true);\n");
-    return profile;
 }
 
 } // namespace
@@ -89,18 +76,9 @@ RealApplication::Start toolkitWindow(const std::string& toolkit)
 
 RealApplication::Start browserWindow(const VirtualDesktop& desktop, const std::string& browser)
 {
-    const auto address = "file://" + writePages(desktop).string();
-    if (browser == "firefox")
-        return {.command = {"firefox-esr", "--no-remote", "--profile",
-                    writeFirefoxProfile(desktop).string(), address},
-            .environment = {},
-            .titleBegins = "one"};
-    return {.command = {"chromium", "--user-data-dir=" + (desktop.home() / "chromium").string(),
-                "--no-sandbox", "--test-type", "--no-first-run", "--no-default-browser-check",
-                "--disable-gpu", "--disable-dev-shm-usage", "--disable-background-networking",
-                "--disable-component-update", "--password-store=basic", address},
-        .environment = {},
-        .titleBegins = "one"};
+    auto command = browser == "firefox" ? firefoxCommand(desktop) : chromiumCommand(desktop);
+    command.push_back("file://" + writePages(desktop).string());
+    return {.command = std::move(command), .environment = {}, .titleBegins = "one"};
 }
 
 } // namespace brindlex

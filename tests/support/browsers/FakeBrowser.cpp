@@ -21,7 +21,7 @@ void FakeBrowser::offer(const std::vector<Window>& windows, Behaviour behaviour)
     auto list = nlohmann::json::array();
     for (const auto& window : windows)
         list.push_back({{"name", window.name}, {"url", window.url}, {"isActive", window.isActive},
-            {"attribute", window.attribute}});
+            {"attribute", window.attribute}, {"embeds", window.embeds}});
     const nlohmann::json offer{{"windows", list}, {"behaviour", static_cast<int>(behaviour)}};
     write(folder_.path() / "next", offer.dump());
     std::filesystem::rename(folder_.path() / "next", folder_.path() / "offer");

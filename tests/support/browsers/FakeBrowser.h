@@ -19,6 +19,8 @@ public:
         bool isActive = false;
         /// What the browser calls the address of a document.
         std::string attribute = "URI";
+        /// Whether it says what its page is; otherwise the page is only to be found in its tree.
+        bool embeds = true;
     };
 
     /// How it replies to every question about its windows and documents.

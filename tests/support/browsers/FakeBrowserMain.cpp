@@ -29,8 +29,8 @@ struct Program {
         if (!offer.is_object())
             return;
         for (const auto& window : offer["windows"])
-            windows.push_back(
-                {window["name"], window["url"], window["isActive"], window["attribute"]});
+            windows.push_back({window["name"], window["url"], window["isActive"],
+                window["attribute"], window["embeds"]});
         behaviour = static_cast<Behaviour>(offer["behaviour"].get<int>());
     }
 
@@ -77,9 +77,42 @@ struct Program {
             for (int index = 0; index < 100'000; ++index)
                 appendRelation(reply, labelledBy, object);
         appendRelation(reply, labelledBy, object);
-        appendRelation(
-            reply, embeds, behaviour == Behaviour::circular ? object : "d" + object.substr(1));
+        const auto* window = windowOf(object);
+        if (!window || window->embeds)
+            appendRelation(
+                reply, embeds, behaviour == Behaviour::circular ? object : "d" + object.substr(1));
         sd_bus_message_close_container(reply);
+    }
+
+    /// Replies to the question for what is on the screen and a document of the web, and to no
+    /// other.
+    static bool asksForShowingDocument(sd_bus_message* question)
+    {
+        constexpr int showing = 1 << 25;
+        constexpr int documentWeb = static_cast<int>(1U << (95 - 64));
+        if (!sd_bus_message_has_signature(question, "(aiia{ss}iaiiasib)uib"))
+            return false;
+        int states[2]{};
+        int roles[4]{};
+        int ignored = 0;
+        sd_bus_message_enter_container(question, 'r', "aiia{ss}iaiiasib");
+        sd_bus_message_enter_container(question, 'a', "i");
+        for (auto& word : states)
+            sd_bus_message_read(question, "i", &word);
+        sd_bus_message_exit_container(question);
+        sd_bus_message_read(question, "i", &ignored);
+        sd_bus_message_skip(question, "a{ss}i");
+        sd_bus_message_enter_container(question, 'a', "i");
+        for (auto& word : roles)
+            sd_bus_message_read(question, "i", &word);
+        sd_bus_message_exit_container(question);
+        sd_bus_message_skip(question, "iasib");
+        sd_bus_message_exit_container(question);
+        int goesBelowChildren = 0;
+        sd_bus_message_skip(question, "ui");
+        sd_bus_message_read(question, "b", &goesBelowChildren);
+        return states[0] == showing && states[1] == 0 && roles[2] == documentWeb && roles[0] == 0
+            && roles[1] == 0 && roles[3] == 0 && goesBelowChildren != 0;
     }
 
     int reply(sd_bus_message* question, const std::string& object)
@@ -112,6 +145,11 @@ struct Program {
             if (behaviour == Behaviour::dies)
                 std::_Exit(1);
             appendRelations(reply, object);
+        } else if (member == "GetMatches" && asksForShowingDocument(question)) {
+            sd_bus_message_open_container(reply, 'a', "(so)");
+            if (window && !window->url.empty())
+                bus.append(reply, "d" + object.substr(1));
+            sd_bus_message_close_container(reply);
         } else if (member == "GetAttributeValue" && object.starts_with("d") && window) {
             const char* attribute = "";
             sd_bus_message_read(question, "s", &attribute);

@@ -51,14 +51,16 @@ bool serve(Client& client)
 std::string pageFor(const std::string& request)
 {
     const auto host = hostOf(request);
+    const std::string next = host.ends_with("example.org") ? "one.example.com" : "www.example.org";
     return "<!doctype html><html><head><meta charset=utf-8><title>" + host
         + "</title><link rel=icon href=data:,>"
           "<style>body{font:22px sans-serif;margin:1.6em;background:#f6f3ee;color:#333}"
           "h1{font-weight:600;color:#2b5d74}"
           "textarea{font:24px sans-serif;width:90%;height:4em;padding:.6em;border:1px solid #bbb;"
           "border-radius:8px}</style></head><body><h1>"
-        + host + "</h1><textarea autofocus aria-label=Text oninput=\"document.title='" + host
-        + ": '+this.value\"></textarea></body></html>";
+        + host + "</h1><textarea autofocus aria-label=Text oninput=\"if (value.includes('\\n'))"
+        + " location = 'http://" + next + "/'; else document.title = '" + host
+        + ": ' + value\"></textarea></body></html>";
 }
 
 LocalWebServer::LocalWebServer()

@@ -25,7 +25,7 @@ private:
 };
 
 /// The page that a request is replied to with; what is typed into its field stands in its title
-/// too.
+/// too. Return goes to a page below `example.org`, from there to one below `example.com`.
 std::string pageFor(const std::string& request);
 
 } // namespace brindlex

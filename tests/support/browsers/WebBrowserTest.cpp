@@ -1,27 +1,41 @@
-#include "support/browsers/ChromiumBrowser.h"
+#include "support/browsers/WebBrowser.h"
 
 #include "support/basics/Eventually.h"
+#include "support/hardware/Keycodes.h"
 #include "support/hardware/PlayedInput.h"
-#include "support/screen/Screenshot.h"
 
 #include <gtest/gtest.h>
 
 namespace brindlex {
 namespace {
 
-TEST(ChromiumBrowser, showsThePagesOfHostsThatDoNotExist)
+class WebBrowserTest : public testing::TestWithParam<std::string> { };
+
+TEST_P(WebBrowserTest, showsThePagesOfHostsThatDoNotExist)
 {
     const VirtualDesktop desktop({.accessibility = true});
     const LocalWebServer web;
     const XConnection server;
     const DesktopWindows windows(server);
 
-    ChromiumBrowser browser(desktop, windows, web, "one.example.com");
-    EXPECT_EQ(windows.classOf(browser.window()), "Chromium");
+    WebBrowser browser(desktop, windows, web, GetParam(), "one.example.com");
+
+    const PlayedInput hand(server);
+    ASSERT_TRUE(browser.takesKeys(hand));
+    hand.type("\n");
+    EXPECT_TRUE(browser.shows("www.example.org"));
+    hand.pressKey(keycode::alt);
+    hand.pressKey(keycode::left);
+    hand.releaseKey(keycode::left);
+    hand.releaseKey(keycode::alt);
+    EXPECT_TRUE(browser.shows("one.example.com"));
 
     EXPECT_TRUE(browser.open("two.example.org")) << browser.output();
     EXPECT_EQ(windows.active(), browser.window());
 }
+
+INSTANTIATE_TEST_SUITE_P(Of, WebBrowserTest, testing::Values("chromium", "firefox"),
+    [](const auto& instance) { return instance.param; });
 
 TEST(LocalWebServer, namesThePageAfterTheHost)
 {

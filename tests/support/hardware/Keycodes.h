@@ -26,6 +26,7 @@ inline constexpr std::uint8_t space = KEY_SPACE + 8;
 inline constexpr std::uint8_t capsLock = KEY_CAPSLOCK + 8;
 inline constexpr std::uint8_t numLock = KEY_NUMLOCK + 8;
 inline constexpr std::uint8_t up = KEY_UP + 8;
+inline constexpr std::uint8_t left = KEY_LEFT + 8;
 inline constexpr std::uint8_t right = KEY_RIGHT + 8;
 inline constexpr std::uint8_t end = KEY_END + 8;
 inline constexpr std::uint8_t down = KEY_DOWN + 8;

@@ -5,6 +5,7 @@
 #include "platform/linux/bus/BusReachability.h"
 #include "platform/linux/bus/SessionBusAddress.h"
 
+#include <QDBusArgument>
 #include <QDBusMessage>
 #include <algorithm>
 #include <atomic>
@@ -22,6 +23,11 @@ const QString nullPath = QStringLiteral("/org/a11y/atspi/null");
 const QString properties = QStringLiteral("org.freedesktop.DBus.Properties");
 constexpr unsigned relationEmbeds = 13;
 constexpr unsigned stateActive = 1;
+constexpr int stateShowing = 25;
+constexpr int roleDocumentWeb = 95;
+constexpr int matchAll = 1;
+constexpr int matchAny = 2;
+constexpr unsigned inTheOrderOfTheTree = 1;
 
 /// The launcher starts the bus itself on the first question for its address.
 constexpr auto timeForAddress = 200ms;
@@ -56,6 +62,31 @@ QDBusMessage launcherQuestion(
 {
     return question(QStringLiteral("org.a11y.Bus"), QStringLiteral("/org/a11y/bus"), interface,
         member, arguments);
+}
+
+/// A set of numbers below 32 times the count of words.
+void appendBits(QDBusArgument& argument, int bit, int words)
+{
+    argument.beginArray(QMetaType::fromType<int>());
+    for (int word = 0; word < words; ++word)
+        argument << static_cast<int>(word == bit / 32 ? 1U << (bit % 32) : 0U);
+    argument.endArray();
+}
+
+/// States, attributes, roles and interfaces that an object must have, each with how it must.
+QVariant ruleForShowingDocuments()
+{
+    QDBusArgument rule;
+    rule.beginStructure();
+    appendBits(rule, stateShowing, 2);
+    rule << matchAll;
+    rule.beginMap(QMetaType::fromType<QString>(), QMetaType::fromType<QString>());
+    rule.endMap();
+    rule << matchAll;
+    appendBits(rule, roleDocumentWeb, 4);
+    rule << matchAny << QStringList() << matchAll << false;
+    rule.endStructure();
+    return QVariant::fromValue(rule);
 }
 
 } // namespace
@@ -206,6 +237,22 @@ AccessibilityResult<std::vector<AccessibleObject>> AccessibilityBus::embedded(
     }
     relations->endArray();
     return found;
+}
+
+AccessibilityResult<std::vector<AccessibleObject>> AccessibilityBus::showingDocument(
+    const AccessibleObject& object)
+{
+    constexpr int mostMatches = 1;
+    constexpr bool goesBelowChildren = true;
+    const auto reply
+        = ask(object, QStringLiteral("org.a11y.atspi.Collection"), QStringLiteral("GetMatches"),
+            {ruleForShowingDocuments(), inTheOrderOfTheTree, mostMatches, goesBelowChildren});
+    if (!reply)
+        return fail(reply.error());
+    const auto list = container(*reply, "a(so)");
+    if (!list)
+        return fail(AccessibilityProblem::refused);
+    return objects(*list);
 }
 
 AccessibilityResult<QString> AccessibilityBus::documentAttribute(

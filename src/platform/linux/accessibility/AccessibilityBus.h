@@ -84,6 +84,11 @@ public:
     /// What the object says it embeds, such as a browser window its current page.
     AccessibilityResult<std::vector<AccessibleObject>> embedded(const AccessibleObject& object);
 
+    /// The first document of a web page below the object that is on the screen, if there is one.
+    /// The program looks through its tree for it, up to that document.
+    AccessibilityResult<std::vector<AccessibleObject>> showingDocument(
+        const AccessibleObject& object);
+
     /// An attribute of a document; empty when the document does not have it.
     AccessibilityResult<QString> documentAttribute(
         const AccessibleObject& document, const QString& attribute);

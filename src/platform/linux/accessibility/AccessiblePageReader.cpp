@@ -141,9 +141,23 @@ AccessibilityResult<AccessibleObject> AccessiblePageReader::activeOne(
     return fail(AccessibilityProblem::refused);
 }
 
+AccessibilityResult<std::vector<AccessibleObject>> AccessiblePageReader::documentsOf(
+    const AccessibleObject& frame)
+{
+    auto embedded = bus_.embedded(frame);
+    const bool isSilent = embedded && std::ranges::all_of(*embedded, &AccessibleObject::isNull);
+    if (!isSilent)
+        return embedded;
+    // Firefox embeds nothing from going back on until the next load.
+    auto showing = bus_.showingDocument(frame);
+    if (!showing && showing.error() == AccessibilityProblem::refused)
+        return embedded;
+    return showing;
+}
+
 AccessibilityResult<std::string> AccessiblePageReader::pageOf(const AccessibleObject& frame)
 {
-    const auto documents = bus_.embedded(frame);
+    const auto documents = documentsOf(frame);
     if (!documents)
         return fail(documents.error());
     std::size_t count = 0;

@@ -56,6 +56,7 @@ private:
     AccessibilityResult<FoundFrame> findIn(const std::vector<AccessibleObject>& applications,
         const std::string& title, TitleMatch leastMatch);
     AccessibilityResult<AccessibleObject> activeOne(const std::vector<AccessibleObject>& frames);
+    AccessibilityResult<std::vector<AccessibleObject>> documentsOf(const AccessibleObject& frame);
     AccessibilityResult<std::string> pageOf(const AccessibleObject& frame);
 
     AccessibilityBus bus_;

@@ -125,6 +125,12 @@ int DesktopInputSources::select(const InputSourceProperties& source)
 
 Subscription DesktopInputSources::observeSelectionChanges(SelectionHandler handler)
 {
+    if (selectionObservers_.isEmpty()) {
+        // What has changed while nobody observed is nobody's choice.
+        notifiedSelection_ = backend_->current();
+        if (fcitx_)
+            fcitx_->resume();
+    }
     return selectionObservers_.add(std::move(handler));
 }
 
@@ -166,7 +172,9 @@ void DesktopInputSources::takeFcitx(bool isRunning, DBusDeadline deadline)
         dropFcitx();
     } else if (!fcitx_ || !fcitx_->hasReplied()) {
         dropFcitx();
-        fcitx_ = std::make_unique<Fcitx5InputSources>(bus_, connection_, registry_, deadline);
+        fcitx_ = std::make_unique<Fcitx5InputSources>(
+            bus_, connection_, registry_, [this] { return !selectionObservers_.isEmpty(); },
+            deadline);
         fcitxChanges_ = fcitx_->observe([this](SelectionCause hint) { changed(hint); });
     }
     settleSoon_.start();

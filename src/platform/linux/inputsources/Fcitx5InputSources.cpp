@@ -62,9 +62,10 @@ SelectionCause causeOf(Fcitx5Selection::Change change)
 
 } // namespace
 
-Fcitx5InputSources::Fcitx5InputSources(
-    QDBusConnection bus, X11Connection& connection, XkbRegistry& registry, DBusDeadline deadline)
-    : bus_(std::move(bus)), connection_(connection), registry_(registry)
+Fcitx5InputSources::Fcitx5InputSources(QDBusConnection bus, X11Connection& connection,
+    XkbRegistry& registry, std::function<bool()> isObserved, DBusDeadline deadline)
+    : bus_(std::move(bus)), connection_(connection), registry_(registry),
+      isObserved_(std::move(isObserved))
 {
     signals_.push_back(std::make_unique<DBusSignal>(bus_, QLatin1String(controllerPath),
         QLatin1String(controllerInterface), QStringLiteral("InputMethodGroupsChanged"),
@@ -74,7 +75,7 @@ Fcitx5InputSources::Fcitx5InputSources(
         [this](const QDBusMessage&) { poll(); }));
 
     pollTimer_.setInterval(pollInterval);
-    QObject::connect(&pollTimer_, &QTimer::timeout, &context_, [this] { poll(); });
+    QObject::connect(&pollTimer_, &QTimer::timeout, &context_, [this] { tick(); });
     firstCheck_.setSingleShot(true);
     firstCheck_.setInterval(Fcitx5Selection::firstCheckDelay);
     QObject::connect(&firstCheck_, &QTimer::timeout, &context_, [this] { check(); });
@@ -102,6 +103,7 @@ SelectionStatus Fcitx5InputSources::select(const std::string& id)
         return SelectionStatus::unknownSource;
     const auto method = methods_[static_cast<std::size_t>(found - sources_.begin())];
 
+    resume();
     const auto window = activeWindow(connection_);
     const int selection = selection_.select(method, window, Clock::now());
     firstCheck_.stop();
@@ -220,6 +222,20 @@ void Fcitx5InputSources::takeCurrent(const Fcitx5Look& look)
     const auto change = selection_.take(seenBy(look, 0), Clock::now());
     if (change != Fcitx5Selection::Change::none)
         notify(causeOf(change));
+}
+
+void Fcitx5InputSources::resume()
+{
+    if (!pollTimer_.isActive())
+        pollTimer_.start();
+}
+
+void Fcitx5InputSources::tick()
+{
+    if (isObserved_() || selection_.isKeeping())
+        poll();
+    else
+        pollTimer_.stop();
 }
 
 void Fcitx5InputSources::poll()

@@ -11,6 +11,7 @@
 #include <QObject>
 #include <QTimer>
 
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -31,7 +32,8 @@ struct Fcitx5Look {
 /// Fcitx notifies nobody of a selection: what is selected is read 4.5 times a second, at once when
 /// its tray item changes, and by `current` when the last reply is older than 50 ms. Each input
 /// context has a method of its own unless the user has made them share one: another method in
-/// another context is nobody's choice.
+/// another context is nobody's choice. While nobody wants to know of changes nothing is read by
+/// itself.
 ///
 /// A selection goes to the input context of the window that has the keyboard, and each window may
 /// have a method of its own. A window that has just come to the front may get the keyboard only
@@ -42,14 +44,19 @@ struct Fcitx5Look {
 class Fcitx5InputSources final : public InputSourceBackend {
 public:
     /// Requests what the daemon has; waits for that until the deadline and goes on from the loop.
+    /// `isObserved` returns whether anybody wants to know of changes; `resume` follows when
+    /// somebody does so again.
     Fcitx5InputSources(QDBusConnection bus, X11Connection& connection, XkbRegistry& registry,
-        DBusDeadline deadline);
+        std::function<bool()> isObserved, DBusDeadline deadline);
 
     std::string_view name() const override { return "Fcitx 5"; }
     bool isUsable() const override { return hasReplied() && !sources_.empty(); }
     std::optional<std::string> current() override;
     const std::vector<InputSource>& sources() override { return sources_; }
     SelectionStatus select(const std::string& id) override;
+
+    /// Reads by itself again.
+    void resume();
 
     /// Whether the daemon has replied to all requests of the beginning.
     bool hasReplied() const { return hasMethods_ && selection_.hasRead(); }
@@ -66,6 +73,7 @@ private:
     void takeCurrent(const Fcitx5Look& look);
     /// Requests the method of a selection; returns what is pending of the contexts before it.
     QDBusPendingCall request(int selection, const std::string& method);
+    void tick();
     void poll();
     void check();
     void endCheck(int selection, const Fcitx5Selection::Observation& seen);
@@ -75,6 +83,7 @@ private:
     QDBusConnection bus_;
     X11Connection& connection_;
     XkbRegistry& registry_;
+    std::function<bool()> isObserved_;
     QObject context_;
     std::vector<std::unique_ptr<DBusSignal>> signals_;
     QTimer pollTimer_;

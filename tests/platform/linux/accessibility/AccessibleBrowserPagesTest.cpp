@@ -29,6 +29,23 @@ TEST_F(AccessibleBrowserPagesTest, readsTheAddressAsFirefoxNamesIt)
     EXPECT_EQ(on.read(), "https://example.com/");
 }
 
+TEST_F(AccessibleBrowserPagesTest, findsTheShowingPageOfAWindowThatEmbedsNone)
+{
+    on.browser.offer({{.name = "Page - Browser",
+        .url = "https://example.com/",
+        .attribute = "DocURL",
+        .embeds = false}});
+
+    EXPECT_EQ(on.read(), "https://example.com/");
+}
+
+TEST_F(AccessibleBrowserPagesTest, knowsNothingOfAWindowThatNeitherEmbedsNorShowsAPage)
+{
+    on.browser.offer({{.name = "Page - Browser", .embeds = false}});
+
+    EXPECT_EQ(on.read(), std::nullopt);
+}
+
 TEST_F(AccessibleBrowserPagesTest, findsTheWindowByItsTitle)
 {
     on.browser.offer({{.name = "Other - Browser", .url = "https://example.org/", .isActive = true},

@@ -1,5 +1,6 @@
 #include "platform/linux/inputsources/DesktopInputSourcesSteps.h"
 
+#include "support/bus/BusCalls.h"
 #include "support/bus/SessionBus.h"
 #include "support/daemons/FcitxDaemon.h"
 #include "support/screen/DesktopWindows.h"
@@ -30,6 +31,43 @@ TEST(DesktopInputSources, findsFcitxAgainAfterItWasKilled)
     daemon.start();
     EXPECT_TRUE(becomes(sources, "Fcitx 5"));
     EXPECT_EQ(idsOf(sources), (std::vector<std::string>{"xkb:us::eng", "fcitx5:pinyin"}));
+}
+
+TEST(DesktopInputSources, asksFcitxForNothingWhileNobodyObserves)
+{
+    VirtualDesktop desktop;
+    FcitxDaemon daemon(desktop, fcitxMethods);
+    const XConnection server;
+    const DesktopWindows windows(server);
+    const TypingWindow window(windows, "Typing");
+    const SessionBus bus;
+    X11Connection connection;
+    DesktopInputSources sources(connection, bus.get());
+    ASSERT_TRUE(becomes(sources, "Fcitx 5"));
+    std::vector<SelectionCause> causes;
+    const auto observe = [&] {
+        return sources.observeSelectionChanges(
+            [&](SelectionCause cause) { causes.push_back(cause); });
+    };
+    BusCalls reads("CurrentInputMethod");
+    auto observation = observe();
+    ASSERT_TRUE(loopUntil([&] { return reads.taken() > 0; }));
+
+    observation.reset();
+    // Several times as long as between two reads; one of them may be under way.
+    loopThroughout(std::chrono::seconds{1}, [] { return true; });
+    EXPECT_LE(reads.taken(), 1);
+    loopThroughout(std::chrono::seconds{1}, [] { return true; });
+    EXPECT_EQ(reads.taken(), 0);
+
+    ASSERT_TRUE(daemon.select("pinyin"));
+    observation = observe();
+    EXPECT_EQ(currentID(sources), "fcitx5:pinyin");
+    int taken = 0;
+    ASSERT_TRUE(loopUntil([&] { return (taken += reads.taken()) > 3; }));
+    EXPECT_TRUE(causes.empty()) << "It was selected before.";
+    ASSERT_TRUE(daemon.select("keyboard-us"));
+    EXPECT_TRUE(loopUntil([&] { return !causes.empty(); }));
 }
 
 TEST(DesktopInputSources, doesNotHangWithAnFcitxThatHangs)
