@@ -33,7 +33,7 @@ const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheir
     {"DesktopInputSourcesTest, with real daemons",
         {"Fcitx5Method", "IBusConnection", "IBusEngine", "XkbRegistry"}},
     {"DBusNotificationsTest and DBusProgramInstancesTest, on a real bus",
-        {"DBusReply", "DBusSignal", "SessionBus"}},
+        {"DBusReply", "DBusSignal", "OwnBusConnection", "SessionBus"}},
     {"PreferenceFileTest", {"FolderLock"}},
     {"SwitchReducerSelectionTest and its neighbours", {"SwitchAttempt"}},
     {"X11ApplicationOpeningTest, with a shell on a real bus", {"DesktopOverview"}},

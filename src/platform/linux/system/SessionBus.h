@@ -1,6 +1,7 @@
 #pragma once
 
-#include <QDBusConnection>
+#include "platform/linux/system/OwnBusConnection.h"
+
 #include <QDBusMessage>
 
 #include <optional>
@@ -20,12 +21,9 @@ public:
     SessionBus();
     /// A connection of its own to the bus at the address.
     explicit SessionBus(const std::string& address);
-    ~SessionBus();
-    SessionBus(const SessionBus&) = delete;
-    SessionBus& operator=(const SessionBus&) = delete;
 
-    QDBusConnection& connection() { return connection_; }
-    bool isConnected() const { return connection_.isConnected(); }
+    QDBusConnection& connection() { return connection_.get(); }
+    bool isConnected() const { return connection_.get().isConnected(); }
 
     /// Asks the bus itself; nothing when it does not reply within half a second.
     std::optional<QDBusMessage> ask(const QString& member, const QVariantList& arguments = {});
@@ -34,7 +32,7 @@ public:
     void flush() { ask(QStringLiteral("GetId")); }
 
 private:
-    QDBusConnection connection_;
+    OwnBusConnection connection_;
 };
 
 } // namespace brindlex

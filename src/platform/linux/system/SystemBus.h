@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QDBusConnection>
+#include "platform/linux/system/OwnBusConnection.h"
 
 namespace brindlex {
 
@@ -11,14 +11,11 @@ namespace brindlex {
 class SystemBus {
 public:
     SystemBus();
-    ~SystemBus();
-    SystemBus(const SystemBus&) = delete;
-    SystemBus& operator=(const SystemBus&) = delete;
 
-    const QDBusConnection& connection() const { return connection_; }
+    const QDBusConnection& connection() const { return connection_.get(); }
 
 private:
-    QDBusConnection connection_;
+    OwnBusConnection connection_;
 };
 
 } // namespace brindlex
