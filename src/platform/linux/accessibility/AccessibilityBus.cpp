@@ -1,6 +1,7 @@
 #include "platform/linux/accessibility/AccessibilityBus.h"
 
 #include "log/Log.h"
+#include "platform/linux/accessibility/AccessibilityInterfaces.h"
 #include "platform/linux/accessibility/AccessibilityReply.h"
 #include "platform/linux/bus/BusReachability.h"
 #include "platform/linux/bus/SessionBusAddress.h"
@@ -14,13 +15,12 @@ namespace brindlex {
 namespace {
 
 using namespace std::chrono_literals;
-using Clock = std::chrono::steady_clock;
+using accessibilityInterface::accessible;
+using accessibilityInterface::properties;
 
 // Names and numbers of https://gitlab.gnome.org/GNOME/at-spi2-core/-/tree/main/xml.
-const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");
 const QString rootPath = QStringLiteral("/org/a11y/atspi/accessible/root");
 const QString nullPath = QStringLiteral("/org/a11y/atspi/null");
-const QString properties = QStringLiteral("org.freedesktop.DBus.Properties");
 constexpr unsigned relationEmbeds = 13;
 constexpr unsigned stateActive = 1;
 constexpr int stateShowing = 25;
@@ -112,7 +112,7 @@ AccessibilityBus::~AccessibilityBus()
 bool AccessibilityBus::begin(std::optional<std::chrono::milliseconds> time)
 {
     const bool isThere = connection_.isConnected() || connect();
-    deadline_ = Clock::now() + time.value_or(limits_.perReading);
+    deadline_ = std::chrono::steady_clock::now() + time.value_or(limits_.perReading);
     return isThere;
 }
 
@@ -268,8 +268,8 @@ AccessibilityResult<QString> AccessibilityBus::documentAttribute(
 AccessibilityResult<QVariant> AccessibilityBus::ask(const AccessibleObject& object,
     const QString& interface, const QString& member, const QVariantList& arguments)
 {
-    const auto left
-        = std::chrono::duration_cast<std::chrono::milliseconds>(deadline_ - Clock::now());
+    const auto left = std::chrono::duration_cast<std::chrono::milliseconds>(
+        deadline_ - std::chrono::steady_clock::now());
     if (left <= 0ms)
         return fail(AccessibilityProblem::noReply);
     const auto reply

@@ -1,5 +1,6 @@
 #include "platform/linux/accessibility/AccessibleElementReader.h"
 
+#include "platform/linux/accessibility/AccessibilityInterfaces.h"
 #include "platform/linux/accessibility/AccessibilityReply.h"
 #include "platform/linux/accessibility/AccessibilityRole.h"
 
@@ -11,11 +12,9 @@ namespace brindlex {
 namespace {
 
 using namespace std::chrono_literals;
-
-// Names of https://gitlab.gnome.org/GNOME/at-spi2-core/-/tree/main/xml.
-const QString accessible = QStringLiteral("org.a11y.atspi.Accessible");
-const QString component = QStringLiteral("org.a11y.atspi.Component");
-const QString properties = QStringLiteral("org.freedesktop.DBus.Properties");
+using accessibilityInterface::accessible;
+using accessibilityInterface::component;
+using accessibilityInterface::properties;
 
 /// The time of a question ends with its deadline, not before.
 constexpr AccessibilityLimits untilDeadline{1000ms, 1000ms};

@@ -19,7 +19,6 @@ constexpr auto fcitxName = "org.fcitx.Fcitx5";
 constexpr auto ibusName = "org.freedesktop.IBus";
 constexpr auto busName = "org.freedesktop.DBus";
 constexpr auto busPath = "/org/freedesktop/DBus";
-constexpr int callLimitMilliseconds = 5000;
 constexpr auto startWait = 100ms;
 /// A program that keeps a layout for each window may set it twice for one change of the window.
 constexpr auto calmTime = 100ms;

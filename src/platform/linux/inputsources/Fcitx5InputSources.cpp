@@ -19,11 +19,9 @@ constexpr auto daemonName = "org.fcitx.Fcitx5";
 constexpr auto controllerPath = "/controller";
 constexpr auto controllerInterface = "org.fcitx.Fcitx.Controller1";
 
-constexpr int callLimitMilliseconds = 5000;
 constexpr auto pollInterval = 222ms;
 /// A reply takes 0.2 ms, a selection 1 to 3 ms; a daemon that hangs must not hold us up.
 constexpr auto readWait = 20ms;
-constexpr auto selectionWait = 30ms;
 
 bool isError(const QDBusMessage& reply) { return reply.type() == QDBusMessage::ErrorMessage; }
 

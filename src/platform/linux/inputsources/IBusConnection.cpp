@@ -1,6 +1,7 @@
 #include "platform/linux/inputsources/IBusConnection.h"
 
 #include "platform/linux/inputsources/IBusAddress.h"
+#include "platform/linux/inputsources/InputSourceBackend.h"
 
 #include <QDBusError>
 #include <QDBusMessage>
@@ -12,9 +13,6 @@ namespace {
 
 constexpr IBusConnection::Service bus{
     "org.freedesktop.DBus", "/org/freedesktop/DBus", "org.freedesktop.DBus"};
-
-/// How long a reply is worth anything.
-constexpr int callLimitMilliseconds = 5000;
 
 QString newConnectionName()
 {

@@ -22,9 +22,6 @@ constexpr IBusConnection::Service daemonProperties{
 constexpr IBusConnection::Service settings{
     "org.freedesktop.IBus.Config", "/org/freedesktop/IBus/Config", "org.freedesktop.IBus.Config"};
 
-/// How long `select` waits: a warm engine takes 1 to 15 ms, one that has to be started 120 ms.
-constexpr auto selectionWait = 30ms;
-
 QStringList textsOf(const QVariant& value)
 {
     auto inner = value;

@@ -4,6 +4,7 @@
 #include "foundation/Subscription.h"
 #include "platform/KeyboardInputSources.h"
 
+#include <chrono>
 #include <functional>
 #include <optional>
 #include <string>
@@ -32,6 +33,13 @@ enum class SelectionStatus : int {
     /// The daemon returned an error, or did nothing.
     refused = 3,
 };
+
+/// How long a daemon's reply is worth anything to one who does not wait for it.
+inline constexpr int callLimitMilliseconds = 5000;
+
+/// How long `select` waits for a daemon: a warm engine takes 1 to 15 ms, one that has to be started
+/// 120 ms; a daemon that hangs must not hold us up.
+inline constexpr std::chrono::milliseconds selectionWait{30};
 
 /// One of the programs by which a desktop switches input sources. Main thread only.
 class InputSourceBackend {

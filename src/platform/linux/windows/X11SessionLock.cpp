@@ -19,8 +19,6 @@ constexpr std::array<std::string_view, 4> menuTypes{"_NET_WM_WINDOW_TYPE_MENU",
     "_NET_WM_WINDOW_TYPE_POPUP_MENU", "_NET_WM_WINDOW_TYPE_DROPDOWN_MENU",
     "_NET_WM_WINDOW_TYPE_COMBO"};
 
-constexpr std::uint32_t someAtoms = 32 * sizeof(std::uint32_t);
-
 bool isOthers(std::uint8_t status)
 {
     return status == XCB_GRAB_STATUS_ALREADY_GRABBED || status == XCB_GRAB_STATUS_FROZEN;

@@ -6,8 +6,6 @@
 namespace brindlex {
 namespace {
 
-constexpr std::uint32_t someAtoms = 32 * sizeof(std::uint32_t);
-
 using Name = std::pair<std::string_view, bool X11WindowKind::*>;
 
 constexpr std::array typeNames{

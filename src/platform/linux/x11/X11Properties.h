@@ -9,6 +9,9 @@
 
 namespace brindlex {
 
+/// The limit of a request for a list of atoms: room for 32, more than any window has.
+inline constexpr std::uint32_t someAtoms = 32 * sizeof(std::uint32_t);
+
 /// A request for a property of a window that has been sent and has no reply yet.
 ///
 /// Send several before the first has a reply: they then cost one round trip together. What a window
