@@ -8,8 +8,6 @@
 namespace brindlex {
 namespace {
 
-using Effect = MouseActionEffect::Any;
-
 std::uint16_t keyCodeOf(const MouseAction::SendKeystroke& keystroke)
 {
     if (!std::in_range<std::uint16_t>(keystroke.keyCode))
@@ -30,6 +28,7 @@ std::string_view logLabel(const MouseAction::Any& action)
 
 MouseActionEffect::Any effectOf(const MouseAction::Any& action)
 {
+    using Effect = MouseActionEffect::Any;
     return match(
         action, [](MouseAction::Plain plain) -> Effect { return plainMouseAction(plain).effect; },
         [](const MouseAction::SendKeystroke& keystroke) -> Effect {

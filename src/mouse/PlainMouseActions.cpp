@@ -7,15 +7,11 @@
 #include <array>
 
 namespace brindlex {
-namespace {
-
-using Plain = MouseAction::Plain;
-using Effect = MouseActionEffect;
-
-} // namespace
 
 std::span<const PlainMouseAction> plainMouseActions()
 {
+    using Plain = MouseAction::Plain;
+    using Effect = MouseActionEffect;
     static const std::array<PlainMouseAction, 6> rows{{
         {Plain::missionControl, "missionControl", "Mission Control",
             Effect::OpenApplication{"/System/Applications/Mission Control.app"}},

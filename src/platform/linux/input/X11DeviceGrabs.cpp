@@ -11,13 +11,11 @@
 namespace brindlex {
 namespace {
 
-using Kind = X11InputDevice::Kind;
-
 /// What comes of a device while it is taken. Its fine motion comes raw: the place of a floating
 /// device is not that of the cursor.
 std::uint32_t eventsOf(const X11InputDevice& device)
 {
-    if (device.kind == Kind::keyboard)
+    if (device.kind == X11InputDevice::Kind::keyboard)
         return XCB_INPUT_XI_EVENT_MASK_KEY_PRESS | XCB_INPUT_XI_EVENT_MASK_KEY_RELEASE;
     return XCB_INPUT_XI_EVENT_MASK_BUTTON_PRESS | XCB_INPUT_XI_EVENT_MASK_BUTTON_RELEASE
         | (device.isAbsolute ? XCB_INPUT_XI_EVENT_MASK_MOTION : XCB_INPUT_XI_EVENT_MASK_RAW_MOTION);
@@ -25,7 +23,8 @@ std::uint32_t eventsOf(const X11InputDevice& device)
 
 std::uint8_t grabTypeOf(const X11InputDevice& device)
 {
-    return device.kind == Kind::keyboard ? XCB_INPUT_GRAB_TYPE_KEYCODE : XCB_INPUT_GRAB_TYPE_BUTTON;
+    return device.kind == X11InputDevice::Kind::keyboard ? XCB_INPUT_GRAB_TYPE_KEYCODE
+                                                         : XCB_INPUT_GRAB_TYPE_BUTTON;
 }
 
 /// The modifiers that no trigger knows of: Caps Lock, Num Lock and what layouts lock besides.
@@ -78,7 +77,7 @@ private:
 
 void reportRefused(const X11InputDevice& device, const TapDemand::Trigger& trigger)
 {
-    const auto what = device.kind == Kind::keyboard ? " key " : " button ";
+    const auto what = device.kind == X11InputDevice::Kind::keyboard ? " key " : " button ";
     Log::warn("Another program holds" + std::string(what) + std::to_string(trigger.first) + " of \""
             + device.name + "\"; it is tapped once it is given back",
         logCategory::mouse);
@@ -91,7 +90,7 @@ bool X11DeviceGrabs::apply(
 {
     bool isDone = true;
     for (const auto& device : devices) {
-        const bool isKeyboard = device.kind == Kind::keyboard;
+        const bool isKeyboard = device.kind == X11InputDevice::Kind::keyboard;
         const bool wantsAll = isKeyboard ? demand.takesKeyboards : demand.takesMice;
         auto& grab = grabs_[device.id];
         if (wantsAll && !grab.isTaken)

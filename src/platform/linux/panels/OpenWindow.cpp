@@ -8,7 +8,7 @@ namespace brindlex {
 namespace {
 
 /// No row has room for more, and laying out text costs time in proportion to its length.
-constexpr std::size_t mostCharacters = 256;
+constexpr std::size_t longestTitle = 256;
 
 bool isControl(char32_t scalar) { return scalar < 0x20 || (scalar >= 0x7F && scalar <= 0x9F); }
 
@@ -32,9 +32,9 @@ std::string oneLine(const std::string& text)
     }
     auto whole = trimmed(utf8(line));
     const auto parts = characters(whole);
-    if (parts.size() <= mostCharacters)
+    if (parts.size() <= longestTitle)
         return whole;
-    const auto end = parts[mostCharacters].data() - whole.data();
+    const auto end = parts[longestTitle].data() - whole.data();
     return whole.substr(0, static_cast<std::size_t>(end)) + "…";
 }
 

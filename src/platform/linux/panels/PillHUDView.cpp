@@ -11,7 +11,7 @@ namespace brindlex {
 namespace {
 
 /// No label needs more, and laying out text costs time in proportion to its length.
-constexpr int mostCharacters = 512;
+constexpr int longestLabel = 512;
 
 QFont systemFont()
 {
@@ -23,7 +23,7 @@ QFont systemFont()
 /// The text with its line ends as the text layout knows them.
 QString prepared(const QString& label)
 {
-    auto text = label.left(mostCharacters);
+    auto text = label.left(longestLabel);
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     text.replace(u'\n', QChar::LineSeparator);
     return text;

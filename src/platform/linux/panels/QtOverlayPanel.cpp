@@ -20,7 +20,7 @@ namespace {
 constexpr int fadeInMilliseconds = 120;
 constexpr int fadeOutMilliseconds = 250;
 /// Leaves a part of the screen at both sides of a long text.
-constexpr double mostShareOfScreen = 0.8;
+constexpr double mostShareForText = 0.8;
 
 } // namespace
 
@@ -59,7 +59,7 @@ public:
         prepare();
         fade_.stop();
         const auto space = screen->availableGeometry();
-        view_.emplace(text, static_cast<int>(space.width() * mostShareOfScreen));
+        view_.emplace(text, static_cast<int>(space.width() * mostShareForText));
         fill_ = hasCompositor() ? PillHUDView::Fill::translucent : PillHUDView::Fill::opaque;
 
         // Nobody sees the title; it is for programs that ask what a window says.

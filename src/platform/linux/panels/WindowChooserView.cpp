@@ -11,7 +11,7 @@ namespace brindlex {
 namespace {
 
 /// Leaves a part of the screen around a long list.
-constexpr double mostShareOfScreen = 0.8;
+constexpr double mostShareForList = 0.8;
 constexpr double mostShareOfApplication = 0.35;
 constexpr int titleSize = 16;
 constexpr int applicationSize = 13;
@@ -54,9 +54,9 @@ double drawElided(QPainter& painter, const QRectF& area, Qt::AlignmentFlag side,
 
 WindowChooserView::WindowChooserView(std::vector<WindowLabel> labels, const QSize& screen)
     : labels_(std::move(labels)),
-      width_(std::min(mostWidth, static_cast<int>(screen.width() * mostShareOfScreen)))
+      width_(std::min(mostWidth, static_cast<int>(screen.width() * mostShareForList)))
 {
-    const auto room = static_cast<int>(screen.height() * mostShareOfScreen) - 2 * padding;
+    const auto room = static_cast<int>(screen.height() * mostShareForList) - 2 * padding;
     const auto rows = static_cast<std::size_t>(std::max(room / rowHeight, 1));
     seen_ = std::min(rows, labels_.size());
 }

@@ -13,7 +13,7 @@ using Finding = PreferenceFile::Finding;
 constexpr Seconds writeDelay = 0.03;
 constexpr Seconds longestRetryDelay = 60;
 /// How long an editor may take to put a new file in the place of the old one.
-constexpr Seconds settlingTime = 1;
+constexpr Seconds replacementTime = 1;
 
 } // namespace
 
@@ -85,7 +85,7 @@ PreferenceFileSync::Actions PreferenceFileSync::endLook(Finding found)
         return actions;
     stop(Timer::settle, actions);
     if (found == Finding::unsettled)
-        start(Timer::settle, settlingTime, actions);
+        start(Timer::settle, replacementTime, actions);
     if (found == Finding::setAside) {
         isFileLost_ = true;
         writeSoon(actions);
