@@ -13,9 +13,9 @@ namespace {
 using namespace std::chrono_literals;
 
 /// How long nothing further must come for what came to be all.
-constexpr auto longEnough = 150ms;
+constexpr auto longEnoughForEvents = 150ms;
 /// Programs that sleep this long wait for nobody but the user.
-constexpr auto restful = 40ms;
+constexpr auto restfulWindows = 40ms;
 
 } // namespace
 
@@ -66,7 +66,7 @@ void MouseDesk::settle() const
     for (const PlayedDevice* device :
         std::initializer_list<const PlayedDevice*>{&mouse, &secondMouse, &keyboard})
         device->settle();
-    eventually([this] { return staysTheSame(restful, [this] { return timesAtRest(); }); });
+    eventually([this] { return staysTheSame(restfulWindows, [this] { return timesAtRest(); }); });
     server.sync();
 }
 
@@ -89,7 +89,7 @@ std::optional<long> MouseDesk::timesAtRest() const
 bool MouseDesk::receives(EventLogWindow& window, const Lines& expected) const
 {
     return eventually([&] { return window.lines().size() >= expected.size(); })
-        && throughout(longEnough, [&] { return window.lines() == expected; });
+        && throughout(longEnoughForEvents, [&] { return window.lines() == expected; });
 }
 
 std::uint32_t MouseDesk::currentDesktop() const

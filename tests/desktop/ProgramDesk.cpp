@@ -5,7 +5,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto longEnough = 400ms;
+constexpr auto longEnoughForLayouts = 400ms;
 
 } // namespace
 
@@ -35,7 +35,7 @@ bool ProgramDesk::usesGroup(int group) const
 
 bool ProgramDesk::keepsGroup(int group) const
 {
-    return throughout(longEnough, [&] { return keyboardGroup(server) == group; });
+    return throughout(longEnoughForLayouts, [&] { return keyboardGroup(server) == group; });
 }
 
 } // namespace brindlex

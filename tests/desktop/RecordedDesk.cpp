@@ -10,11 +10,11 @@ namespace {
 using namespace std::chrono_literals;
 
 /// A desktop that is the same for this long has done what it was to do.
-constexpr auto restful = 120ms;
+constexpr auto restfulState = 120ms;
 constexpr auto timeToStart = 20s;
 
 /// Everything that the mouse and the keys do on a usual desktop.
-constexpr auto configuration = R"(<?xml version="1.0" encoding="UTF-8"?>
+constexpr auto recordedConfiguration = R"(<?xml version="1.0" encoding="UTF-8"?>
 <openbox_config xmlns="http://openbox.org/3.4/rc">
   <focus><focusNew>yes</focusNew><followMouse>no</followMouse></focus>
   <theme><name>Clearlooks</name><animateIconify>no</animateIconify></theme>
@@ -56,7 +56,7 @@ constexpr auto configuration = R"(<?xml version="1.0" encoding="UTF-8"?>
 void configureWindowManager(const MouseDesk& desk)
 {
     const auto folder = desk.desktop.configFolder() / "openbox";
-    write(folder / "rc.xml", configuration);
+    write(folder / "rc.xml", recordedConfiguration);
     run({.command = {"openbox", "--reconfigure"}}, timeToStart);
     const auto isRead = [&] {
         const auto area = desk.server.values(desk.server.root(), "_NET_WORKAREA");
@@ -87,7 +87,7 @@ void RecordedDesk::note(const std::string& heading)
     auto now = state();
     const auto isSteady = [&] {
         now = state();
-        return throughout(restful, [&] { return state() == now; });
+        return throughout(restfulState, [&] { return state() == now; });
     };
     if (!eventually(isSteady))
         record_ += "never still\n";

@@ -11,14 +11,14 @@ using namespace std::chrono_literals;
 using Lines = MouseDesk::Lines;
 using Position = EventLogWindow::Position;
 
-constexpr auto timeToStart = 20s;
+constexpr auto timeToReconfigure = 20s;
 /// A window that stands still for this long stands where it is to be.
-constexpr auto restful = 100ms;
+constexpr auto restfulArea = 100ms;
 /// How often a reply about an element may come too late for the press that asked.
 constexpr int mostTries = 50;
 
 /// A window manager whose windows are resized by the handle below their contents.
-constexpr auto configuration = R"(<?xml version="1.0" encoding="UTF-8"?>
+constexpr auto resizingConfiguration = R"(<?xml version="1.0" encoding="UTF-8"?>
 <openbox_config xmlns="http://openbox.org/3.4/rc">
   <focus><focusNew>yes</focusNew><followMouse>no</followMouse></focus>
   <theme><name>Clearlooks</name><animateIconify>no</animateIconify></theme>
@@ -42,8 +42,8 @@ class Resizing : public testing::Test {
 protected:
     Resizing()
     {
-        write(desk.desktop.configFolder() / "openbox/rc.xml", configuration);
-        run({.command = {"openbox", "--reconfigure"}}, timeToStart);
+        write(desk.desktop.configFolder() / "openbox/rc.xml", resizingConfiguration);
+        run({.command = {"openbox", "--reconfigure"}}, timeToReconfigure);
         const auto isRead = [&] {
             const auto workArea = desk.server.values(desk.server.root(), "_NET_WORKAREA");
             return workArea.size() > 1 && workArea[1] == 2;
@@ -52,7 +52,7 @@ protected:
         window.emplace("Resized", ScreenArea{300, 200, 400, 300});
         const auto stands = [&] {
             const auto before = area();
-            return throughout(restful, [&] { return area() == before; });
+            return throughout(restfulArea, [&] { return area() == before; });
         };
         EXPECT_TRUE(eventually(stands));
         MouseConfig config;

@@ -7,7 +7,7 @@
 namespace brindlex {
 namespace {
 
-constexpr auto all
+constexpr auto allModifiers
     = ModifierSet::command | ModifierSet::option | ModifierSet::control | ModifierSet::shift;
 
 TEST(ModifierSet, takesExactlyFourOfAnEventsFlags)
@@ -17,20 +17,20 @@ TEST(ModifierSet, takesExactlyFourOfAnEventsFlags)
     EXPECT_EQ(ModifierSet::fromEventFlags(0x40000), ModifierSet{4});
     EXPECT_EQ(ModifierSet::fromEventFlags(0x20000), ModifierSet{8});
     EXPECT_EQ(ModifierSet::fromEventFlags(~std::uint64_t{0x1E0000}), ModifierSet{});
-    EXPECT_EQ(ModifierSet::fromEventFlags(~std::uint64_t{0}), all);
+    EXPECT_EQ(ModifierSet::fromEventFlags(~std::uint64_t{0}), allModifiers);
 }
 
 TEST(ModifierSet, givesBackTheFlags)
 {
     EXPECT_EQ(ModifierSet{}.eventFlags(), 0u);
-    EXPECT_EQ(all.eventFlags(), 0x1E0000u);
+    EXPECT_EQ(allModifiers.eventFlags(), 0x1E0000u);
     EXPECT_EQ((ModifierSet::command | ModifierSet::shift).eventFlags(), 0x120000u);
 }
 
 TEST(ModifierSet, showsItsFlagsInOneOrder)
 {
     EXPECT_EQ(ModifierSet{}.displayText(), "");
-    EXPECT_EQ(all.displayText(), "^ Option Shift Command");
+    EXPECT_EQ(allModifiers.displayText(), "^ Option Shift Command");
     EXPECT_EQ(ModifierSet::control.displayText(), "^");
     EXPECT_EQ(ModifierSet::option.displayText(), "Option");
 }

@@ -1,6 +1,7 @@
 #include "foundation/JsonForm.h"
 
 #include "foundation/JsonCoding.h"
+#include "support/basics/JsonReading.h"
 
 #include <gtest/gtest.h>
 
@@ -60,11 +61,11 @@ struct Clamped {
     void afterDecoding() { percent = percent > 100 ? 100 : percent; }
 };
 
-using Read = Result<Record, JsonProblem>;
+using ReadRecord = Result<Record, JsonProblem>;
 
-Read read(const std::string& text) { return fromJson<Record>(parseJson(text).value()); }
+ReadRecord readRecord(const std::string& text) { return readJson<Record>(text); }
 
-Read refusal(const std::string& path, const std::string& reason)
+ReadRecord refusal(const std::string& path, const std::string& reason)
 {
     return fail(JsonProblem{path, reason});
 }
@@ -84,49 +85,50 @@ TEST(JsonForm, readsWhatItWrote)
 {
     for (const auto& record :
         {Record{}, Record{"t", false, "n", 5, {{1}, {2}}}, Record{"漢\n\"", true, "", -1, {}}})
-        EXPECT_EQ(fromJson<Record>(toJson(record)), Read(record));
+        EXPECT_EQ(fromJson<Record>(toJson(record)), ReadRecord(record));
 }
 
 TEST(JsonForm, readsTheKeysInAnyOrderAndLeavesUnknownOnesAlone)
 {
-    EXPECT_EQ(read(R"({"new":{"a":[1]},"name":"n","text":"t","on":false})"),
-        Read(Record{"t", false, "n", {}, {}}));
+    EXPECT_EQ(readRecord(R"({"new":{"a":[1]},"name":"n","text":"t","on":false})"),
+        ReadRecord(Record{"t", false, "n", {}, {}}));
 }
 
 TEST(JsonForm, givesEachMissingKeyItsMeaning)
 {
-    EXPECT_EQ(read(R"({"text":"t"})"), Read(Record{"t", true, "computed", {}, {}}));
-    EXPECT_EQ(read(R"({"on":false})"), refusal("text", "is missing"));
-    EXPECT_EQ(read("{}"), refusal("text", "is missing"));
+    EXPECT_EQ(readRecord(R"({"text":"t"})"), ReadRecord(Record{"t", true, "computed", {}, {}}));
+    EXPECT_EQ(readRecord(R"({"on":false})"), refusal("text", "is missing"));
+    EXPECT_EQ(readRecord("{}"), refusal("text", "is missing"));
 }
 
 TEST(JsonForm, takesNullForMissingExceptWhereAKeyIsRequired)
 {
-    EXPECT_EQ(read(R"({"text":"t","on":null,"name":null,"limit":null,"inners":null})"),
-        Read(Record{"t", true, "computed", {}, {}}));
-    EXPECT_EQ(read(R"({"text":null})"), refusal("text", "is not text"));
+    EXPECT_EQ(readRecord(R"({"text":"t","on":null,"name":null,"limit":null,"inners":null})"),
+        ReadRecord(Record{"t", true, "computed", {}, {}}));
+    EXPECT_EQ(readRecord(R"({"text":null})"), refusal("text", "is not text"));
 }
 
 TEST(JsonForm, saysWhereAValueIsOfAnotherType)
 {
-    EXPECT_EQ(read(R"({"text":5})"), refusal("text", "is not text"));
-    EXPECT_EQ(read(R"({"text":"t","on":1})"), refusal("on", "is not a Boolean"));
-    EXPECT_EQ(read(R"({"text":"t","name":[]})"), refusal("name", "is not text"));
-    EXPECT_EQ(
-        read(R"({"text":"t","limit":"5"})"), refusal("limit", "is not a whole number in range"));
-    EXPECT_EQ(read(R"({"text":"t","inners":{}})"), refusal("inners", "is not a list"));
-    EXPECT_EQ(read(R"({"text":"t","inners":[{"number":1},{"number":true}]})"),
+    EXPECT_EQ(readRecord(R"({"text":5})"), refusal("text", "is not text"));
+    EXPECT_EQ(readRecord(R"({"text":"t","on":1})"), refusal("on", "is not a Boolean"));
+    EXPECT_EQ(readRecord(R"({"text":"t","name":[]})"), refusal("name", "is not text"));
+    EXPECT_EQ(readRecord(R"({"text":"t","limit":"5"})"),
+        refusal("limit", "is not a whole number in range"));
+    EXPECT_EQ(readRecord(R"({"text":"t","inners":{}})"), refusal("inners", "is not a list"));
+    EXPECT_EQ(readRecord(R"({"text":"t","inners":[{"number":1},{"number":true}]})"),
         refusal("inners.1.number", "is not a whole number in range"));
-    EXPECT_EQ(read(R"({"text":"t","inners":[{"number":1},{}]})"),
+    EXPECT_EQ(readRecord(R"({"text":"t","inners":[{"number":1},{}]})"),
         refusal("inners.1.number", "is missing"));
-    EXPECT_EQ(read(R"({"text":"t","inners":[null]})"), refusal("inners.0", "is not an object"));
+    EXPECT_EQ(
+        readRecord(R"({"text":"t","inners":[null]})"), refusal("inners.0", "is not an object"));
     for (const auto* text : {"null", "[]", "5", "\"text\"", "true"})
-        EXPECT_EQ(read(text), refusal("", "is not an object")) << text;
+        EXPECT_EQ(readRecord(text), refusal("", "is not an object")) << text;
 }
 
 TEST(JsonForm, saysTheFirstOfManyProblems)
 {
-    EXPECT_EQ(read(R"({"inners":5,"on":"x","text":7})"), refusal("text", "is not text"));
+    EXPECT_EQ(readRecord(R"({"inners":5,"on":"x","text":7})"), refusal("text", "is not text"));
 }
 
 TEST(JsonForm, endsReadingWithTheRecordsOwnStep)

@@ -7,11 +7,11 @@
 namespace brindlex {
 namespace {
 
-using Parsed = Result<int, std::string>;
+using Number = Result<int, std::string>;
 
 TEST(Result, holdsAValue)
 {
-    const Parsed result = 5;
+    const Number result = 5;
 
     EXPECT_TRUE(result);
     EXPECT_EQ(result.value(), 5);
@@ -20,7 +20,7 @@ TEST(Result, holdsAValue)
 
 TEST(Result, holdsAProblem)
 {
-    const Parsed result = fail("is no number");
+    const Number result = fail("is no number");
 
     EXPECT_FALSE(result);
     EXPECT_EQ(result.error(), "is no number");
@@ -39,11 +39,11 @@ TEST(Result, keepsTheSidesApartWhenTheirTypesAreTheSame)
 
 TEST(Result, comparesSideAndContent)
 {
-    EXPECT_EQ(Parsed(5), Parsed(5));
-    EXPECT_NE(Parsed(5), Parsed(6));
-    EXPECT_EQ(Parsed(fail("a")), Parsed(fail("a")));
-    EXPECT_NE(Parsed(fail("a")), Parsed(fail("b")));
-    EXPECT_NE(Parsed(5), Parsed(fail("a")));
+    EXPECT_EQ(Number(5), Number(5));
+    EXPECT_NE(Number(5), Number(6));
+    EXPECT_EQ(Number(fail("a")), Number(fail("a")));
+    EXPECT_NE(Number(fail("a")), Number(fail("b")));
+    EXPECT_NE(Number(5), Number(fail("a")));
 }
 
 TEST(Result, givesAccessToTheMembersOfItsValue)

@@ -9,8 +9,8 @@
 namespace brindlex {
 namespace {
 
-constexpr Uuid sample{{0x01, 0x23, 0x45, 0x67, 0x89, 0xAB, 0xCD, 0xEF, 0xFE, 0xDC, 0xBA, 0x98, 0x76,
-    0x54, 0x32, 0x10}};
+constexpr Uuid sampleUuid{{0x01, 0x23, 0x45, 0x67, 0x89, 0xAB, 0xCD, 0xEF, 0xFE, 0xDC, 0xBA, 0x98,
+    0x76, 0x54, 0x32, 0x10}};
 
 TEST(Uuid, isAllZerosByDefault)
 {
@@ -19,14 +19,14 @@ TEST(Uuid, isAllZerosByDefault)
 
 TEST(Uuid, writesItsTextInUpperCase)
 {
-    EXPECT_EQ(sample.text(), "01234567-89AB-CDEF-FEDC-BA9876543210");
+    EXPECT_EQ(sampleUuid.text(), "01234567-89AB-CDEF-FEDC-BA9876543210");
 }
 
 TEST(Uuid, isReadInEitherCase)
 {
-    EXPECT_EQ(Uuid::fromText("01234567-89AB-CDEF-FEDC-BA9876543210"), sample);
-    EXPECT_EQ(Uuid::fromText("01234567-89ab-cdef-fedc-ba9876543210"), sample);
-    EXPECT_EQ(Uuid::fromText("01234567-89Ab-cDeF-fEdC-Ba9876543210"), sample);
+    EXPECT_EQ(Uuid::fromText("01234567-89AB-CDEF-FEDC-BA9876543210"), sampleUuid);
+    EXPECT_EQ(Uuid::fromText("01234567-89ab-cdef-fedc-ba9876543210"), sampleUuid);
+    EXPECT_EQ(Uuid::fromText("01234567-89Ab-cDeF-fEdC-Ba9876543210"), sampleUuid);
     EXPECT_EQ(Uuid::fromText("00000000-0000-0000-0000-000000000000"), Uuid());
 }
 
@@ -57,13 +57,13 @@ TEST(Uuid, isRandomOfVersion4WhenNew)
 
 TEST(Uuid, isOrderedByItsBytesAndMayBeAKey)
 {
-    auto next = sample;
+    auto next = sampleUuid;
     next.bytes[15] = 0x11;
-    EXPECT_LT(sample, next);
+    EXPECT_LT(sampleUuid, next);
 
-    const std::unordered_set<Uuid> keys{sample, next, sample};
+    const std::unordered_set<Uuid> keys{sampleUuid, next, sampleUuid};
     EXPECT_EQ(keys.size(), 2u);
-    EXPECT_TRUE(keys.contains(sample));
+    EXPECT_TRUE(keys.contains(sampleUuid));
     EXPECT_FALSE(keys.contains(Uuid()));
 }
 

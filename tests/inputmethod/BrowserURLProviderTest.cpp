@@ -8,12 +8,12 @@
 namespace brindlex {
 namespace {
 
-struct Row {
+struct BrowserRow {
     std::string bundleID;
     std::string tab;
 };
 
-class BrowserURLProviderTable : public testing::TestWithParam<Row> { };
+class BrowserURLProviderTable : public testing::TestWithParam<BrowserRow> { };
 
 TEST_P(BrowserURLProviderTable, namesABrowserAndItsWordForTheCurrentTab)
 {
@@ -31,14 +31,17 @@ TEST_P(BrowserURLProviderTable, namesABrowserAndItsWordForTheCurrentTab)
 }
 
 INSTANTIATE_TEST_SUITE_P(BrowserURLProvider, BrowserURLProviderTable,
-    testing::Values(Row{"com.apple.Safari", "current tab"},
-        Row{"com.apple.SafariTechnologyPreview", "current tab"},
-        Row{"com.google.Chrome", "active tab"}, Row{"com.google.Chrome.canary", "active tab"},
-        Row{"com.microsoft.edgemac", "active tab"},
-        Row{"com.microsoft.edgemac.Canary", "active tab"}, Row{"com.brave.Browser", "active tab"},
-        Row{"com.brave.Browser.beta", "active tab"}, Row{"com.operasoftware.Opera", "active tab"},
-        Row{"company.thebrowser.Browser", "active tab"},
-        Row{"org.chromium.Chromium", "active tab"}));
+    testing::Values(BrowserRow{"com.apple.Safari", "current tab"},
+        BrowserRow{"com.apple.SafariTechnologyPreview", "current tab"},
+        BrowserRow{"com.google.Chrome", "active tab"},
+        BrowserRow{"com.google.Chrome.canary", "active tab"},
+        BrowserRow{"com.microsoft.edgemac", "active tab"},
+        BrowserRow{"com.microsoft.edgemac.Canary", "active tab"},
+        BrowserRow{"com.brave.Browser", "active tab"},
+        BrowserRow{"com.brave.Browser.beta", "active tab"},
+        BrowserRow{"com.operasoftware.Opera", "active tab"},
+        BrowserRow{"company.thebrowser.Browser", "active tab"},
+        BrowserRow{"org.chromium.Chromium", "active tab"}));
 
 TEST(BrowserURLProvider, knowsFirefoxWhichCannotBeAskedByScript)
 {

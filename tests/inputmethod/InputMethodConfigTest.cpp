@@ -1,6 +1,7 @@
 #include "inputmethod/InputMethodConfig.h"
 
 #include "foundation/JsonCoding.h"
+#include "support/basics/JsonReading.h"
 #include "support/switching/SwitchRecords.h"
 #include "support/switching/SwitchText.h"
 
@@ -11,47 +12,40 @@
 namespace brindlex {
 namespace {
 
-const std::string id = "0E7A5C1E-3B52-4F64-9D1C-8A2B7D9F4E10";
+const std::string ruleID = "0E7A5C1E-3B52-4F64-9D1C-8A2B7D9F4E10";
 
-Result<InputMethodConfig, JsonProblem> read(const std::string& text)
-{
-    const auto document = parseJson(text);
-    if (!document)
-        return fail(document.error());
-    return fromJson<InputMethodConfig>(*document);
-}
-
-InputMethodConfig full()
+InputMethodConfig fullConfig()
 {
     return {
         .enabled = false,
-        .rules = {{*Uuid::fromText(id), {"com.example.Editor", "Editor", "/icon.png"}, "german"}},
+        .rules
+        = {{*Uuid::fromText(ruleID), {"com.example.Editor", "Editor", "/icon.png"}, "german"}},
         .domainRulesEnabled = true,
-        .domainRules = {{*Uuid::fromText(id), "example.com", "english"}},
+        .domainRules = {{*Uuid::fromText(ruleID), "example.com", "english"}},
         .showHUD = false,
     };
 }
 
-const std::string fullText = R"({"enabled":false,"rules":[{"id":")" + id
+const std::string fullText = R"({"enabled":false,"rules":[{"id":")" + ruleID
     + R"(","app":{"bundleID":"com.example.Editor","displayName":"Editor","iconPath":"/icon.png"},)"
       R"("inputSourceID":"german"}],"domainRulesEnabled":true,"domainRules":[{"id":")"
-    + id + R"(","domainSuffix":"example.com","inputSourceID":"english"}],"showHUD":false})";
+    + ruleID + R"(","domainSuffix":"example.com","inputSourceID":"english"}],"showHUD":false})";
 
 TEST(InputMethodConfig, isWrittenWithTheNamesOfItsFields)
 {
-    EXPECT_EQ(jsonText(toJson(full())), fullText);
+    EXPECT_EQ(jsonText(toJson(fullConfig())), fullText);
 }
 
 TEST(InputMethodConfig, readsWhatItWrote)
 {
-    const auto config = read(fullText);
+    const auto config = readText<InputMethodConfig>(fullText);
     ASSERT_TRUE(config);
-    EXPECT_EQ(*config, full());
+    EXPECT_EQ(*config, fullConfig());
 }
 
 TEST(InputMethodConfig, switchesByDefaultWithoutWebsiteRules)
 {
-    const auto config = read("{}");
+    const auto config = readText<InputMethodConfig>("{}");
     ASSERT_TRUE(config);
     EXPECT_EQ(*config, InputMethodConfig{});
     EXPECT_TRUE(config->enabled);
@@ -66,7 +60,7 @@ TEST(InputMethodConfig, takesTheDefaultForEachMissingOrNullKey)
     const auto document = *parseJson(fullText);
     const InputMethodConfig defaults;
     const auto with = [](auto InputMethodConfig::*member, auto value) {
-        auto config = full();
+        auto config = fullConfig();
         config.*member = value;
         return config;
     };
@@ -93,7 +87,7 @@ TEST(InputMethodConfig, isUnreadableWithAValueOfAnotherType)
              R"({"rules":[null]})", R"({"domainRulesEnabled":0})", R"({"domainRules":"x"})",
              R"({"domainRules":[[]]})", R"({"showHUD":[]})", "[]", "null", "3", "\"text\"", "", "{",
              "{\"enabled\":true", "\xFF"})
-        EXPECT_FALSE(read(text)) << text;
+        EXPECT_FALSE(readText<InputMethodConfig>(text)) << text;
 }
 
 TEST(InputMethodConfig, isUnreadableWithARuleThatLacksAKey)
@@ -127,12 +121,13 @@ TEST(InputMethodConfig, isUnreadableWithARuleThatLacksAKey)
 
 TEST(InputMethodConfig, ignoresKeysThatItDoesNotKnow)
 {
-    EXPECT_EQ(read(R"({"enabled":false,"newer":{"x":[1]}})")->enabled, false);
+    EXPECT_EQ(
+        readText<InputMethodConfig>(R"({"enabled":false,"newer":{"x":[1]}})")->enabled, false);
 }
 
 TEST(InputMethodConfig, keepsRepeatedRulesAsTheyAre)
 {
-    auto config = full();
+    auto config = fullConfig();
     config.rules.push_back(config.rules.front());
     config.domainRules.push_back(config.domainRules.front());
     EXPECT_EQ(fromJson<InputMethodConfig>(toJson(config)), config);

@@ -1,6 +1,7 @@
 #include "inputmethod/SmartInputMethodConfig.h"
 
 #include "foundation/JsonCoding.h"
+#include "support/basics/JsonReading.h"
 #include "support/switching/SwitchRecords.h"
 #include "support/switching/SwitchText.h"
 
@@ -11,33 +12,23 @@ namespace {
 
 using Config = SmartInputMethodConfig;
 
-const std::string editor = "com.example.Editor";
-
-Result<Config, JsonProblem> read(const std::string& text)
+Config fullRecord()
 {
-    const auto document = parseJson(text);
-    if (!document)
-        return fail(document.error());
-    return fromJson<Config>(*document);
-}
-
-Config full()
-{
-    auto config = learnedConfig(editor, "german");
+    auto config = learnedConfig(exampleEditor, "german");
     config.learningEnabled = false;
     config.priority = SmartInputMethodPriority::highest;
     config.thresholdRatio = SmartInputMethodThresholdRatio::ninety;
     config.windowSize = SmartInputMethodWindowSize::thirty;
     config.appLimit = SmartInputMethodAppLimit::unlimited;
     config.appStats[0].lastRecordedAt = Date{12.5};
-    config.appActivations = {{editor, {Date{1.5}, Date{-2}}}, {"", {}}};
+    config.appActivations = {{exampleEditor, {Date{1.5}, Date{-2}}}, {"", {}}};
     config.normalizeStats();
     return config;
 }
 
 TEST(SmartInputMethodConfig, learnsWithoutDecidingByDefault)
 {
-    const auto config = read("{}");
+    const auto config = readText<Config>("{}");
     ASSERT_TRUE(config);
     EXPECT_EQ(*config, Config{});
     EXPECT_FALSE(config->enabled);
@@ -52,7 +43,7 @@ TEST(SmartInputMethodConfig, learnsWithoutDecidingByDefault)
 
 TEST(SmartInputMethodConfig, isWrittenWithTheNamesOfItsFields)
 {
-    auto config = full();
+    auto config = fullRecord();
     config.appStats[0].samples.resize(1);
     config.normalizeStats();
     const auto statsId = config.appStats[0].id.text();
@@ -71,13 +62,13 @@ TEST(SmartInputMethodConfig, isWrittenWithTheNamesOfItsFields)
 
 TEST(SmartInputMethodConfig, readsWhatItWrote)
 {
-    const auto config = full();
+    const auto config = fullRecord();
     EXPECT_EQ(fromJson<Config>(*parseJson(jsonText(toJson(config)))), config);
 }
 
 TEST(SmartInputMethodConfig, takesTheDefaultForEachMissingOrNullKey)
 {
-    auto config = full();
+    auto config = fullRecord();
     config.appStats.clear();
     const auto document = toJson(config);
     const auto expectDefault = [&](const char* key, auto Config::*member) {
@@ -98,12 +89,13 @@ TEST(SmartInputMethodConfig, takesTheDefaultForEachMissingOrNullKey)
     expectDefault("windowSize", &Config::windowSize);
     expectDefault("appLimit", &Config::appLimit);
     expectDefault("appActivations", &Config::appActivations);
-    EXPECT_TRUE(read(R"({"appStats":null})")->appStats.empty());
+    EXPECT_TRUE(readText<Config>(R"({"appStats":null})")->appStats.empty());
 }
 
 TEST(SmartInputMethodConfig, fillsInWhatAnEntryLacks)
 {
-    const auto config = read(R"({"appStats":[{"app":{"bundleID":"a","displayName":"A"}}]})");
+    const auto config
+        = readText<Config>(R"({"appStats":[{"app":{"bundleID":"a","displayName":"A"}}]})");
     ASSERT_TRUE(config);
     ASSERT_EQ(config->appStats.size(), 1u);
     SmartInputMethodAppStats expected;
@@ -118,7 +110,7 @@ TEST(SmartInputMethodConfig, isUnreadableWithAnUnknownOption)
     for (const char* text : {R"({"priority":"lowest"})", R"({"priority":0})",
              R"({"thresholdRatio":85})", R"({"thresholdRatio":"eighty"})", R"({"windowSize":40})",
              R"({"windowSize":"ten"})", R"({"appLimit":"top40"})", R"({"appLimit":10})"})
-        EXPECT_FALSE(read(text)) << text;
+        EXPECT_FALSE(readText<Config>(text)) << text;
 }
 
 TEST(SmartInputMethodConfig, isUnreadableWithAValueOfAnotherType)
@@ -138,12 +130,12 @@ TEST(SmartInputMethodConfig, isUnreadableWithAValueOfAnotherType)
              R"({"appActivations":[]})", R"({"appActivations":{"a":3}})",
              R"({"appActivations":{"a":[null]}})", R"({"appActivations":{"a":["1"]}})",
              R"({"appActivations":{"a":[1e999]}})", "[]", "", "NaN"})
-        EXPECT_FALSE(read(text)) << text;
+        EXPECT_FALSE(readText<Config>(text)) << text;
 }
 
 TEST(SmartInputMethodConfig, isNormalAfterReading)
 {
-    auto stored = learnedConfig(editor, "german");
+    auto stored = learnedConfig(exampleEditor, "german");
     stored.appStats[0].samples = samples(12, "english");
     stored.appStats[0].samples[0].inputSourceID = "german";
     stored.appStats[0].recommendedInputSourceID = "french";

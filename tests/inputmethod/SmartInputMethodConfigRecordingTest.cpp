@@ -15,24 +15,21 @@ namespace {
 
 using Config = SmartInputMethodConfig;
 
-const std::string editor = "com.example.Editor";
-const AppIdentifier editorApp{editor, "Editor"};
-constexpr Date now{800'000'000};
-constexpr Seconds days180 = 15'552'000;
+const AppIdentifier editorApp{exampleEditor, "Editor"};
 
 TEST(SmartInputMethodConfig, makesAnEntryAtTheFirstSample)
 {
     Config config;
-    config.recordSample("german", editorApp, now);
+    config.recordSample("german", editorApp, today);
 
     ASSERT_EQ(config.appStats.size(), 1u);
     SmartInputMethodAppStats expected;
     expected.id = config.appStats[0].id;
     expected.app = editorApp;
-    expected.samples = {{config.appStats[0].samples.at(0).id, "german", now}};
+    expected.samples = {{config.appStats[0].samples.at(0).id, "german", today}};
     expected.recommendedInputSourceID = "german";
     expected.recommendationPercent = 100;
-    expected.lastRecordedAt = now;
+    expected.lastRecordedAt = today;
     EXPECT_EQ(config.appStats[0], expected);
     EXPECT_NE(expected.id, Uuid{});
     EXPECT_NE(expected.samples[0].id, Uuid{});
@@ -43,9 +40,9 @@ TEST(SmartInputMethodConfig, makesAnEntryAtTheFirstSample)
 TEST(SmartInputMethodConfig, appendsEntriesInTheOrderOfTheFirstSample)
 {
     Config config;
-    config.recordSample("german", {"z", "Z"}, now);
-    config.recordSample("german", {"a", "A"}, now);
-    config.recordSample("german", {"z", "Z"}, now);
+    config.recordSample("german", {"z", "Z"}, today);
+    config.recordSample("german", {"a", "A"}, today);
+    config.recordSample("german", {"z", "Z"}, today);
     ASSERT_EQ(config.appStats.size(), 2u);
     EXPECT_EQ(config.appStats[0].app.bundleID, "z");
     EXPECT_EQ(config.appStats[0].samples.size(), 2u);
@@ -73,8 +70,8 @@ TEST(SmartInputMethodConfig, keepsTheNewestSamplesOfTheWindow)
 TEST(SmartInputMethodConfig, keepsTheApplicationAsItWasFirstSeen)
 {
     Config config;
-    config.recordSample("german", editorApp, now);
-    config.recordSample("german", {editor, "Renamed", "/icon.png"}, now);
+    config.recordSample("german", editorApp, today);
+    config.recordSample("german", {exampleEditor, "Renamed", "/icon.png"}, today);
     EXPECT_EQ(config.appStats.at(0).app, editorApp);
     EXPECT_EQ(config.appStats.at(0).samples.size(), 2u);
 }
@@ -82,8 +79,8 @@ TEST(SmartInputMethodConfig, keepsTheApplicationAsItWasFirstSeen)
 TEST(SmartInputMethodConfig, recordsInTheFirstOfSeveralEntries)
 {
     Config config;
-    config.appStats = {statsOf(editor, {}), statsOf(editor, {})};
-    config.recordSample("german", editorApp, now);
+    config.appStats = {statsOf(exampleEditor, {}), statsOf(exampleEditor, {})};
+    config.recordSample("german", editorApp, today);
     EXPECT_EQ(config.appStats[0].samples.size(), 1u);
     EXPECT_TRUE(config.appStats[1].samples.empty());
 }
@@ -100,11 +97,12 @@ TEST(SmartInputMethodConfig, notesATimeThatWentBackwards)
 TEST(SmartInputMethodConfig, notesManualSwitchesInOrder)
 {
     Config config;
-    config.recordActivation(editor, now);
-    config.recordActivation("a", now);
-    config.recordActivation(editor, now + 1);
+    config.recordActivation(exampleEditor, today);
+    config.recordActivation("a", today);
+    config.recordActivation(exampleEditor, today + 1);
     EXPECT_EQ(config.appActivations,
-        (std::map<std::string, std::vector<Date>>{{editor, {now, now + 1}}, {"a", {now}}}));
+        (std::map<std::string, std::vector<Date>>{
+            {exampleEditor, {today, today + 1}}, {"a", {today}}}));
     EXPECT_TRUE(config.appStats.empty());
 }
 
@@ -112,42 +110,44 @@ TEST(SmartInputMethodConfig, dropsTheOldestOf501ManualSwitches)
 {
     Config config;
     for (int number = 0; number < 500; ++number)
-        config.recordActivation(editor, now + number);
-    EXPECT_EQ(config.appActivations[editor].size(), 500u);
-    EXPECT_EQ(config.appActivations[editor].front(), now);
+        config.recordActivation(exampleEditor, today + number);
+    EXPECT_EQ(config.appActivations[exampleEditor].size(), 500u);
+    EXPECT_EQ(config.appActivations[exampleEditor].front(), today);
 
-    config.recordActivation(editor, now + 500);
-    EXPECT_EQ(config.appActivations[editor].size(), 500u);
-    EXPECT_EQ(config.appActivations[editor].front(), now + 1);
-    EXPECT_EQ(config.appActivations[editor].back(), now + 500);
+    config.recordActivation(exampleEditor, today + 500);
+    EXPECT_EQ(config.appActivations[exampleEditor].size(), 500u);
+    EXPECT_EQ(config.appActivations[exampleEditor].front(), today + 1);
+    EXPECT_EQ(config.appActivations[exampleEditor].back(), today + 500);
 }
 
 TEST(SmartInputMethodConfig, dropsDownTo500FromAnOverlongRecord)
 {
     Config config;
-    config.appActivations[editor] = std::vector<Date>(2000, now);
-    config.recordActivation(editor, now + 1);
-    EXPECT_EQ(config.appActivations[editor].size(), 500u);
-    EXPECT_EQ(config.appActivations[editor].back(), now + 1);
+    config.appActivations[exampleEditor] = std::vector<Date>(2000, today);
+    config.recordActivation(exampleEditor, today + 1);
+    EXPECT_EQ(config.appActivations[exampleEditor].size(), 500u);
+    EXPECT_EQ(config.appActivations[exampleEditor].back(), today + 1);
 }
 
 TEST(SmartInputMethodConfig, forgetsManualSwitchesOlderThan180Days)
 {
     Config config;
-    const Date justOld{std::nextafter((now - days180).secondsSinceReferenceDate, 0.0)};
-    config.appActivations[editor] = {justOld, now - days180, now - days180 - 1, now - 1};
+    const Date justOld{std::nextafter((today - days180).secondsSinceReferenceDate, 0.0)};
+    config.appActivations[exampleEditor]
+        = {justOld, today - days180, today - days180 - 1, today - 1};
     config.appActivations["other"] = {justOld};
-    config.recordActivation(editor, now);
-    EXPECT_EQ(config.appActivations[editor], (std::vector<Date>{now - days180, now - 1, now}));
+    config.recordActivation(exampleEditor, today);
+    EXPECT_EQ(config.appActivations[exampleEditor],
+        (std::vector<Date>{today - days180, today - 1, today}));
     EXPECT_EQ(config.appActivations["other"], std::vector<Date>{justOld});
 }
 
 TEST(SmartInputMethodConfig, keepsManualSwitchesFromTheFuture)
 {
     Config config;
-    config.recordActivation(editor, now);
-    config.recordActivation(editor, now - 3600);
-    EXPECT_EQ(config.appActivations[editor], (std::vector<Date>{now, now - 3600}));
+    config.recordActivation(exampleEditor, today);
+    config.recordActivation(exampleEditor, today - 3600);
+    EXPECT_EQ(config.appActivations[exampleEditor], (std::vector<Date>{today, today - 3600}));
 }
 
 } // namespace

@@ -8,14 +8,14 @@
 namespace brindlex {
 namespace {
 
-const AppIdentifier editor{"org.example.editor", "Editor", {}};
+const AppIdentifier storedApp{"org.example.editor", "Editor", {}};
 
 /// A record with samples whose derived fields have not been brought up to date.
 SmartInputMethodConfig unnormalized()
 {
     SmartInputMethodConfig config;
     for (int sample = 0; sample < 10; ++sample)
-        config.recordSample("ibus:libpinyin", editor, Date{double(sample)});
+        config.recordSample("ibus:libpinyin", storedApp, Date{double(sample)});
     config.appStats[0].isActive = false;
     config.appStats[0].recommendationPercent = 0;
     return config;

@@ -14,9 +14,6 @@ namespace {
 
 using Config = SmartInputMethodConfig;
 
-const std::string editor = "com.example.Editor";
-constexpr Date now{800'000'000};
-
 TEST(SmartInputMethodConfig, hasADefaultThatIsNormal)
 {
     Config config;
@@ -42,16 +39,16 @@ TEST(SmartInputMethodConfig, normalizesEachEntryByTheSettings)
 
 TEST(SmartInputMethodConfig, switchesALearnedRuleOffAndOn)
 {
-    auto config = learnedConfig(editor, "german");
+    auto config = learnedConfig(exampleEditor, "german");
     const auto before = config;
 
-    config.setDisabled(editor, true);
+    config.setDisabled(exampleEditor, true);
     auto expected = before;
     expected.appStats[0].isDisabled = true;
     expected.appStats[0].isActive = false;
     EXPECT_EQ(config, expected);
 
-    config.setDisabled(editor, false);
+    config.setDisabled(exampleEditor, false);
     EXPECT_EQ(config, before);
     config.setDisabled("com.example.Unknown", true);
     EXPECT_EQ(config, before);
@@ -59,69 +56,69 @@ TEST(SmartInputMethodConfig, switchesALearnedRuleOffAndOn)
 
 TEST(SmartInputMethodConfig, switchesTheFirstOfSeveralEntriesOff)
 {
-    auto config = learnedConfig(editor, "german");
+    auto config = learnedConfig(exampleEditor, "german");
     config.appStats.push_back(config.appStats[0]);
-    config.setDisabled(editor, true);
+    config.setDisabled(exampleEditor, true);
     EXPECT_TRUE(config.appStats[0].isDisabled);
     EXPECT_FALSE(config.appStats[1].isDisabled);
 }
 
 TEST(SmartInputMethodConfig, givesTheStatisticsOfARuleInForce)
 {
-    const auto config = learnedConfig(editor, "german");
-    EXPECT_EQ(config.activeSmartStats(editor, now), config.appStats[0]);
+    const auto config = learnedConfig(exampleEditor, "german");
+    EXPECT_EQ(config.activeSmartStats(exampleEditor, today), config.appStats[0]);
 }
 
 TEST(SmartInputMethodConfig, givesNothingWhileSwitchedOff)
 {
-    auto config = learnedConfig(editor, "german");
+    auto config = learnedConfig(exampleEditor, "german");
     config.enabled = false;
-    EXPECT_EQ(config.activeSmartStats(editor, now), std::nullopt);
+    EXPECT_EQ(config.activeSmartStats(exampleEditor, today), std::nullopt);
 }
 
 TEST(SmartInputMethodConfig, givesNothingWithoutAnApplicationOrAnEntry)
 {
-    const auto config = learnedConfig(editor, "german");
-    EXPECT_EQ(config.activeSmartStats(std::nullopt, now), std::nullopt);
-    EXPECT_EQ(config.activeSmartStats("com.example.Unknown", now), std::nullopt);
-    EXPECT_EQ(config.activeSmartStats("", now), std::nullopt);
+    const auto config = learnedConfig(exampleEditor, "german");
+    EXPECT_EQ(config.activeSmartStats(std::nullopt, today), std::nullopt);
+    EXPECT_EQ(config.activeSmartStats("com.example.Unknown", today), std::nullopt);
+    EXPECT_EQ(config.activeSmartStats("", today), std::nullopt);
 }
 
 TEST(SmartInputMethodConfig, givesNothingForARuleThatIsSwitchedOff)
 {
-    auto config = learnedConfig(editor, "german");
-    config.setDisabled(editor, true);
-    EXPECT_EQ(config.activeSmartStats(editor, now), std::nullopt);
+    auto config = learnedConfig(exampleEditor, "german");
+    config.setDisabled(exampleEditor, true);
+    EXPECT_EQ(config.activeSmartStats(exampleEditor, today), std::nullopt);
 }
 
 TEST(SmartInputMethodConfig, appliesChangedSettingsAtOnceAndStoresNothing)
 {
-    auto config = learnedConfig(editor, "german");
+    auto config = learnedConfig(exampleEditor, "german");
     config.appStats[0].samples[0].inputSourceID = "english";
     config.appStats[0].samples[1].inputSourceID = "english";
     config.appStats[0].isActive = false;
     const auto before = config;
 
-    const auto stats = config.activeSmartStats(editor, now);
+    const auto stats = config.activeSmartStats(exampleEditor, today);
     ASSERT_TRUE(stats);
     EXPECT_EQ(stats->recommendationPercent, 80);
     EXPECT_TRUE(stats->isActive);
     EXPECT_EQ(config, before);
 
     config.thresholdRatio = SmartInputMethodThresholdRatio::ninety;
-    EXPECT_EQ(config.activeSmartStats(editor, now), std::nullopt);
+    EXPECT_EQ(config.activeSmartStats(exampleEditor, today), std::nullopt);
     config.thresholdRatio = SmartInputMethodThresholdRatio::seventy;
     config.windowSize = SmartInputMethodWindowSize::twenty;
-    EXPECT_EQ(config.activeSmartStats(editor, now), std::nullopt);
+    EXPECT_EQ(config.activeSmartStats(exampleEditor, today), std::nullopt);
 }
 
 TEST(SmartInputMethodConfig, looksAtTheFirstOfSeveralEntries)
 {
-    auto config = learnedConfig(editor, "german");
-    config.appStats.insert(config.appStats.begin(), statsOf(editor, samples(3, "english")));
-    EXPECT_EQ(config.activeSmartStats(editor, now), std::nullopt);
+    auto config = learnedConfig(exampleEditor, "german");
+    config.appStats.insert(config.appStats.begin(), statsOf(exampleEditor, samples(3, "english")));
+    EXPECT_EQ(config.activeSmartStats(exampleEditor, today), std::nullopt);
     std::swap(config.appStats[0], config.appStats[1]);
-    EXPECT_EQ(config.activeSmartStats(editor, now)->recommendedInputSourceID, "german");
+    EXPECT_EQ(config.activeSmartStats(exampleEditor, today)->recommendedInputSourceID, "german");
 }
 
 } // namespace

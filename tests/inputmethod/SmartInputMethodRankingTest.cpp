@@ -14,9 +14,6 @@ namespace {
 using Config = SmartInputMethodConfig;
 using Top = std::optional<std::set<std::string>>;
 
-constexpr Date now{800'000'000};
-constexpr Seconds days180 = 15'552'000;
-
 std::string numbered(int number) { return "app" + std::to_string(100 + number); }
 
 Config limitedTo(SmartInputMethodAppLimit limit)
@@ -29,7 +26,7 @@ Config limitedTo(SmartInputMethodAppLimit limit)
 
 Config top10() { return limitedTo(SmartInputMethodAppLimit::top10); }
 
-std::vector<Date> recent(std::size_t count) { return std::vector<Date>(count, now - 1); }
+std::vector<Date> recent(std::size_t count) { return std::vector<Date>(count, today - 1); }
 
 /// Ten applications with so many recent manual switches each.
 Config tenWith(std::size_t count)
@@ -42,7 +39,7 @@ Config tenWith(std::size_t count)
 
 bool isInTop(const Config& config, const std::string& bundleID)
 {
-    const auto top = config.topAppBundleIDs(now);
+    const auto top = config.topAppBundleIDs(today);
     return top && top->contains(bundleID);
 }
 
@@ -50,16 +47,16 @@ TEST(SmartInputMethodRanking, hasNoLimitWhenUnlimited)
 {
     auto config = limitedTo(SmartInputMethodAppLimit::unlimited);
     config.appActivations["a"] = recent(3);
-    EXPECT_EQ(config.topAppBundleIDs(now), Top());
+    EXPECT_EQ(config.topAppBundleIDs(today), Top());
 }
 
 TEST(SmartInputMethodRanking, hasNoLimitWithoutScores)
 {
     auto config = top10();
-    EXPECT_EQ(config.topAppBundleIDs(now), Top());
+    EXPECT_EQ(config.topAppBundleIDs(today), Top());
     config.appStats = {statsOf("a", {})};
-    config.appActivations = {{"b", {}}, {"c", {now - days180 - 1}}};
-    EXPECT_EQ(config.topAppBundleIDs(now), Top());
+    config.appActivations = {{"b", {}}, {"c", {today - days180 - 1}}};
+    EXPECT_EQ(config.topAppBundleIDs(today), Top());
 }
 
 TEST(SmartInputMethodRanking, takesAsManyAsTheLimitSays)
@@ -75,7 +72,7 @@ TEST(SmartInputMethodRanking, takesAsManyAsTheLimitSays)
             if (number >= 60 - count)
                 expected.insert(numbered(number));
         }
-        EXPECT_EQ(config.topAppBundleIDs(now), expected);
+        EXPECT_EQ(config.topAppBundleIDs(today), expected);
     }
 }
 
@@ -84,7 +81,7 @@ TEST(SmartInputMethodRanking, takesAllWhenThereAreFewer)
     auto config = top10();
     config.appActivations = {{"a", recent(1)}, {"b", recent(7)}};
     config.appStats = {statsOf("c", samples(1, "german"))};
-    EXPECT_EQ(config.topAppBundleIDs(now), Top({"a", "b", "c"}));
+    EXPECT_EQ(config.topAppBundleIDs(today), Top({"a", "b", "c"}));
 }
 
 TEST(SmartInputMethodRanking, ordersEqualScoresByIdentifier)
@@ -95,7 +92,7 @@ TEST(SmartInputMethodRanking, ordersEqualScoresByIdentifier)
     auto expected = std::set<std::string>{"aaa"};
     for (int number = 0; number < 9; ++number)
         expected.insert(numbered(number));
-    EXPECT_EQ(config.topAppBundleIDs(now), expected);
+    EXPECT_EQ(config.topAppBundleIDs(today), expected);
 }
 
 TEST(SmartInputMethodRanking, ordersIdentifiersByPlainText)
@@ -123,8 +120,8 @@ TEST(SmartInputMethodRanking, scoresByTheLargerOfSwitchesAndSamples)
 TEST(SmartInputMethodRanking, countsSwitchesFrom180DaysAgoOn)
 {
     auto config = tenWith(1);
-    const Date justOld{std::nextafter((now - days180).secondsSinceReferenceDate, 0.0)};
-    config.appActivations["a"] = {now - days180};
+    const Date justOld{std::nextafter((today - days180).secondsSinceReferenceDate, 0.0)};
+    config.appActivations["a"] = {today - days180};
     config.appActivations["b"] = {justOld, justOld};
     EXPECT_TRUE(isInTop(config, "a"));
     EXPECT_FALSE(isInTop(config, "b"));
@@ -134,14 +131,14 @@ TEST(SmartInputMethodRanking, countsSwitchesInAnyOrderOfTime)
 {
     auto config = tenWith(2);
     config.appActivations["zzz"]
-        = {now + 5000, now - days180 - 1, now - 1, now - days180 - 2, now - days180};
+        = {today + 5000, today - days180 - 1, today - 1, today - days180 - 2, today - days180};
     EXPECT_TRUE(isInTop(config, "zzz"));
 }
 
 TEST(SmartInputMethodRanking, scoresAnApplicationWithOldSwitchesByItsSamples)
 {
     auto config = tenWith(3);
-    config.appActivations["zzz"] = std::vector<Date>(500, now - days180 - 1);
+    config.appActivations["zzz"] = std::vector<Date>(500, today - days180 - 1);
     EXPECT_FALSE(isInTop(config, "zzz"));
     config.appStats = {statsOf("zzz", samples(4, "german"))};
     EXPECT_TRUE(isInTop(config, "zzz"));
@@ -160,19 +157,19 @@ TEST(SmartInputMethodRanking, admitsALearnedRuleOfTheTopOnly)
 {
     auto config = tenWith(11);
     config.appStats = {statsOf("zzz", samples(10, "german"))};
-    EXPECT_EQ(config.activeSmartStats("zzz", now), std::nullopt);
+    EXPECT_EQ(config.activeSmartStats("zzz", today), std::nullopt);
 
     config.appActivations["zzz"] = recent(12);
-    EXPECT_TRUE(config.activeSmartStats("zzz", now));
+    EXPECT_TRUE(config.activeSmartStats("zzz", today));
 
     config.appActivations["zzz"] = recent(11);
-    EXPECT_EQ(config.activeSmartStats("zzz", now), std::nullopt);
+    EXPECT_EQ(config.activeSmartStats("zzz", today), std::nullopt);
 
     config.appLimit = SmartInputMethodAppLimit::top20;
-    EXPECT_TRUE(config.activeSmartStats("zzz", now));
+    EXPECT_TRUE(config.activeSmartStats("zzz", today));
     config.appLimit = SmartInputMethodAppLimit::unlimited;
     config.appActivations.erase("zzz");
-    EXPECT_TRUE(config.activeSmartStats("zzz", now));
+    EXPECT_TRUE(config.activeSmartStats("zzz", today));
 }
 
 TEST(SmartInputMethodRanking, losesALearnedRuleToTheTimeThatPasses)
@@ -182,9 +179,9 @@ TEST(SmartInputMethodRanking, losesALearnedRuleToTheTimeThatPasses)
     config.appActivations["zzz"] = recent(12);
     for (auto& [bundleID, dates] : config.appActivations)
         if (bundleID != "zzz")
-            dates = std::vector<Date>(11, now + days180);
-    EXPECT_TRUE(config.activeSmartStats("zzz", now));
-    EXPECT_EQ(config.activeSmartStats("zzz", now + days180), std::nullopt);
+            dates = std::vector<Date>(11, today + days180);
+    EXPECT_TRUE(config.activeSmartStats("zzz", today));
+    EXPECT_EQ(config.activeSmartStats("zzz", today + days180), std::nullopt);
 }
 
 TEST(SmartInputMethodRanking, survivesDatesThatAreNone)
@@ -211,7 +208,7 @@ Config randomConfig(std::mt19937& random)
         auto& dates = config.appActivations[application()];
         for (auto more = below(14); more > 0; --more)
             dates.push_back(
-                now - days180 * static_cast<double>(below(4)) / 2 + (below(2) ? 1 : -1));
+                today - days180 * static_cast<double>(below(4)) / 2 + (below(2) ? 1 : -1));
     }
     return config;
 }
@@ -224,7 +221,7 @@ TEST(SmartInputMethodRanking, admitsExactlyWhatStandsInTheTop)
     for (int round = 0; round < 1500; ++round) {
         const auto config = randomConfig(random);
         const auto limit = 1 + random() % 12;
-        const SmartInputMethodRanking ranking(config, now);
+        const SmartInputMethodRanking ranking(config, today);
         const auto top = ranking.top(limit);
         for (int number = 0; number < 21; ++number) {
             const auto bundleID = numbered(number);
@@ -247,7 +244,7 @@ std::set<std::string> plainTop(const Config& config, std::size_t limit)
     for (const auto& [bundleID, dates] : config.appActivations) {
         std::size_t count = 0;
         for (const auto date : dates)
-            if (!(date < now - days180))
+            if (!(date < today - days180))
                 ++count;
         scores[bundleID] = std::max(scores[bundleID], count);
     }
@@ -271,7 +268,7 @@ TEST(SmartInputMethodRanking, ranksLikeItsPlainestForm)
     for (int round = 0; round < 1500; ++round) {
         const auto config = randomConfig(random);
         const auto limit = 1 + random() % 12;
-        ASSERT_EQ(SmartInputMethodRanking(config, now).top(limit), plainTop(config, limit))
+        ASSERT_EQ(SmartInputMethodRanking(config, today).top(limit), plainTop(config, limit))
             << "round " << round << " limit " << limit;
     }
 }

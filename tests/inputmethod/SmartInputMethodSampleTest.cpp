@@ -7,10 +7,10 @@
 namespace brindlex {
 namespace {
 
-const std::string id = "0E7A5C1E-3B52-4F64-9D1C-8A2B7D9F4E10";
-const SmartInputMethodSample sample{*Uuid::fromText(id), "german", Date{800'000'000.25}};
+const std::string sampleID = "0E7A5C1E-3B52-4F64-9D1C-8A2B7D9F4E10";
+const SmartInputMethodSample sample{*Uuid::fromText(sampleID), "german", Date{800'000'000.25}};
 const std::string sampleText
-    = R"({"id":")" + id + R"(","inputSourceID":"german","recordedAt":800000000.25})";
+    = R"({"id":")" + sampleID + R"(","inputSourceID":"german","recordedAt":800000000.25})";
 
 TEST(SmartInputMethodSample, isWrittenWithTheNamesOfItsFields)
 {
@@ -38,8 +38,8 @@ TEST(SmartInputMethodSample, getsANewIdentityForAMissingOne)
 
 TEST(SmartInputMethodSample, isOfTheEmptySourceWithoutOne)
 {
-    const auto read
-        = fromJson<SmartInputMethodSample>(*parseJson(R"({"id":")" + id + R"(","recordedAt":1})"));
+    const auto read = fromJson<SmartInputMethodSample>(
+        *parseJson(R"({"id":")" + sampleID + R"(","recordedAt":1})"));
     EXPECT_EQ(read, (SmartInputMethodSample{sample.id, "", Date{1}}));
 }
 

@@ -15,7 +15,6 @@ using Source = InputMethodSwitchDecisionSource;
 using Text = std::optional<std::string>;
 
 const std::string browser = "com.example.Browser";
-constexpr Date now{800'000'000};
 
 /// A browser with a rule of each kind, each for a source of its own.
 struct SwitchDecision : testing::Test {
@@ -40,16 +39,17 @@ struct SwitchDecision : testing::Test {
     Decision decide() const
     {
         return resolveSwitchDecision(
-            bundleID, host, current, config, &smartConfig, allowsAppRules, now);
+            bundleID, host, current, config, &smartConfig, allowsAppRules, today);
     }
     Decision decideWithoutLearning() const
     {
-        return resolveSwitchDecision(bundleID, host, current, config, nullptr, allowsAppRules, now);
+        return resolveSwitchDecision(
+            bundleID, host, current, config, nullptr, allowsAppRules, today);
     }
     std::optional<Context::Any> context() const
     {
         return resolveAutoSwitchContext(
-            bundleID, host, current, config, &smartConfig, allowsAppRules, now);
+            bundleID, host, current, config, &smartConfig, allowsAppRules, today);
     }
     void withoutWebsiteRule() { config.domainRules.clear(); }
     void withoutManualRule() { config.rules.clear(); }
@@ -191,10 +191,10 @@ TEST_F(SwitchDecision, asksTheTopApplicationsOfTheGivenTime)
     smartConfig.priority = Priority::highest;
     smartConfig.appLimit = SmartInputMethodAppLimit::top10;
     for (int number = 0; number < 10; ++number)
-        smartConfig.appActivations["app" + std::to_string(number)] = std::vector<Date>(11, now);
+        smartConfig.appActivations["app" + std::to_string(number)] = std::vector<Date>(11, today);
     EXPECT_EQ(decide(), byWebsite);
     EXPECT_EQ(resolveSwitchDecision(
-                  bundleID, host, current, config, &smartConfig, true, now + 15'552'001),
+                  bundleID, host, current, config, &smartConfig, true, today + 15'552'001),
         byLearnedRule);
 }
 

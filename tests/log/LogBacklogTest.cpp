@@ -5,7 +5,7 @@
 namespace brindlex {
 namespace {
 
-constexpr Date now = Date::fromUnixTime(1'794'795'385.123);
+constexpr Date callTime = Date::fromUnixTime(1'794'795'385.123);
 
 LogCall call(std::string_view message)
 {
@@ -32,9 +32,9 @@ std::size_t lineCount(const std::vector<LogChunk>& chunks)
 TEST(LogBacklog, keepsLinesAndTheirParts)
 {
     LogBacklog backlog;
-    backlog.append(now, call("one"));
-    backlog.append(now, call("two\nlines"));
-    const auto chunks = backlog.take(now);
+    backlog.append(callTime, call("one"));
+    backlog.append(callTime, call("two\nlines"));
+    const auto chunks = backlog.take(callTime);
 
     ASSERT_EQ(chunks.size(), 1u);
     const auto& chunk = chunks.front();
@@ -54,10 +54,10 @@ TEST(LogBacklog, keepsLinesAndTheirParts)
 TEST(LogBacklog, isEmptyOnceItWasTaken)
 {
     LogBacklog backlog;
-    backlog.append(now, call("one"));
-    (void)backlog.take(now);
+    backlog.append(callTime, call("one"));
+    (void)backlog.take(callTime);
 
-    EXPECT_TRUE(backlog.take(now).empty());
+    EXPECT_TRUE(backlog.take(callTime).empty());
 }
 
 TEST(LogBacklog, keepsTheOrderThroughChunksThatAreUsedAgain)
@@ -67,10 +67,10 @@ TEST(LogBacklog, keepsTheOrderThroughChunksThatAreUsedAgain)
         std::string expected;
         for (int number = 0; number < 10'000; ++number) {
             const auto message = std::to_string(round) + " " + std::to_string(number);
-            backlog.append(now, call(message));
+            backlog.append(callTime, call(message));
             expected += "2026-11-16T02:16:25.123Z WARN   [mouse] Brindlex/A:5 — " + message + "\n";
         }
-        auto chunks = backlog.take(now);
+        auto chunks = backlog.take(callTime);
         EXPECT_GT(chunks.size(), 1u);
         EXPECT_EQ(textOf(chunks), expected);
         backlog.giveBack(chunks);
@@ -80,15 +80,15 @@ TEST(LogBacklog, keepsTheOrderThroughChunksThatAreUsedAgain)
 TEST(LogBacklog, takesALineOfAnySizeWhileItIsEmpty)
 {
     LogBacklog backlog(1'000);
-    backlog.append(now, call(std::string(1'000'000, 'x')));
-    backlog.append(now, call("dropped"));
-    auto chunks = backlog.take(now);
+    backlog.append(callTime, call(std::string(1'000'000, 'x')));
+    backlog.append(callTime, call("dropped"));
+    auto chunks = backlog.take(callTime);
 
     EXPECT_EQ(lineCount(chunks), 2u);
     EXPECT_NE(textOf(chunks).find("could be written: 1\n"), std::string::npos);
     backlog.giveBack(chunks);
-    backlog.append(now, call("afterwards"));
-    EXPECT_EQ(lineCount(backlog.take(now)), 1u);
+    backlog.append(callTime, call("afterwards"));
+    EXPECT_EQ(lineCount(backlog.take(callTime)), 1u);
 }
 
 TEST(LogBacklog, isBoundedAndSaysHowManyLinesThatCost)
@@ -97,8 +97,8 @@ TEST(LogBacklog, isBoundedAndSaysHowManyLinesThatCost)
     LogBacklog backlog(limit);
     constexpr std::size_t count = 100'000;
     for (std::size_t number = 0; number < count; ++number)
-        backlog.append(now, call("a message of a flood"));
-    const auto chunks = backlog.take(now);
+        backlog.append(callTime, call("a message of a flood"));
+    const auto chunks = backlog.take(callTime);
 
     std::size_t bytes = 0;
     for (const auto& chunk : chunks)

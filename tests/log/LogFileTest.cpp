@@ -16,7 +16,7 @@ namespace brindlex {
 namespace {
 
 namespace fs = std::filesystem;
-using Lines = std::vector<std::string_view>;
+using LineViews = std::vector<std::string_view>;
 using Names = std::vector<std::string>;
 
 class LogFile : public testing::Test {
@@ -45,7 +45,7 @@ protected:
 
 TEST_F(LogFile, isMadeForTheUserAloneByTheFirstLine)
 {
-    appendToLogFile(file, Lines{"one\n"});
+    appendToLogFile(file, LineViews{"one\n"});
 
     EXPECT_EQ(contentOf(file), "one\n");
     EXPECT_EQ(fs::status(file).permissions(), fs::perms(0600));
@@ -55,8 +55,8 @@ TEST_F(LogFile, growsAtItsEnd)
 {
     write(file, "before\n");
 
-    appendToLogFile(file, Lines{"one\n", "two\n"});
-    appendToLogFile(file, Lines{"three\n"});
+    appendToLogFile(file, LineViews{"one\n", "two\n"});
+    appendToLogFile(file, LineViews{"three\n"});
     appendToLogFile(file, {});
 
     EXPECT_EQ(contentOf(file), "before\none\ntwo\nthree\n");
@@ -65,7 +65,7 @@ TEST_F(LogFile, growsAtItsEnd)
 TEST_F(LogFile, takesManyAndLongLines)
 {
     const std::string longLine = std::string(1'000'000, 'x') + "\n";
-    Lines lines(10'000, "short\n");
+    LineViews lines(10'000, "short\n");
     lines[5'000] = longLine;
     std::string expected;
     for (const auto& line : lines)
@@ -79,12 +79,12 @@ TEST_F(LogFile, takesManyAndLongLines)
 TEST_F(LogFile, rotatesAtItsLimitAndNoByteBefore)
 {
     makeSparse(52'428'799);
-    appendToLogFile(file, Lines{"x\n"});
+    appendToLogFile(file, LineViews{"x\n"});
     EXPECT_EQ(names(), Names{""});
     EXPECT_EQ(fs::file_size(file), 52'428'801u);
 
     fs::resize_file(file, 52'428'800);
-    appendToLogFile(file, Lines{"first of the new file\n"});
+    appendToLogFile(file, LineViews{"first of the new file\n"});
     EXPECT_EQ(names(), (Names{"", ".1"}));
     EXPECT_EQ(contentOf(file), "first of the new file\n");
     EXPECT_EQ(fs::file_size(numbered(1)), 52'428'800u);
@@ -94,13 +94,13 @@ TEST_F(LogFile, rotatesBetweenTheLinesThatAreWrittenTogether)
 {
     makeSparse(52'428'800 - 4);
 
-    appendToLogFile(file, Lines{"old\n", "new\n", "er\n"});
+    appendToLogFile(file, LineViews{"old\n", "new\n", "er\n"});
 
     EXPECT_EQ(fs::file_size(numbered(1)), 52'428'800u);
     EXPECT_EQ(contentOf(file), "new\ner\n");
 
     makeSparse(52'428'800 - 3);
-    appendToLogFile(file, Lines{"old\n", "new\n"});
+    appendToLogFile(file, LineViews{"old\n", "new\n"});
     EXPECT_EQ(fs::file_size(numbered(1)), 52'428'801u);
     EXPECT_EQ(contentOf(file), "new\n");
 }
@@ -111,7 +111,7 @@ TEST_F(LogFile, losesTheOldestOfFiveAndMovesTheOthersOn)
         write(numbered(number), "was " + std::to_string(number));
     makeSparse(logFileLimit);
 
-    appendToLogFile(file, Lines{"new\n"});
+    appendToLogFile(file, LineViews{"new\n"});
 
     EXPECT_EQ(names(), (Names{"", ".1", ".2", ".3", ".4", ".5"}));
     EXPECT_EQ(contentOf(file), "new\n");
@@ -143,7 +143,7 @@ TEST_F(LogFile, goesOnWhenAMoveFailsAndOverwritesNothing)
         write(numbered(number), "was " + std::to_string(number));
     makeSparse(logFileLimit);
 
-    appendToLogFile(file, Lines{"new\n"});
+    appendToLogFile(file, LineViews{"new\n"});
 
     for (int number = 1; number <= 4; ++number)
         EXPECT_EQ(contentOf(numbered(number)), "was " + std::to_string(number));
@@ -151,7 +151,7 @@ TEST_F(LogFile, goesOnWhenAMoveFailsAndOverwritesNothing)
 
     // A gap lets those below it move on, and the current file with them.
     fs::remove(numbered(3));
-    appendToLogFile(file, Lines{"newer\n"});
+    appendToLogFile(file, LineViews{"newer\n"});
     EXPECT_EQ(contentOf(file), "newer\n");
     EXPECT_EQ(fs::file_size(numbered(1)), logFileLimit + 4);
     EXPECT_EQ(contentOf(numbered(2)), "was 1");
@@ -173,28 +173,28 @@ TEST_F(LogFile, isLeftAloneByARotationThatIsNotDue)
 
 TEST_F(LogFile, mayBeRemovedOrEmptiedWhileTheProgramRuns)
 {
-    appendToLogFile(file, Lines{"one\n"});
+    appendToLogFile(file, LineViews{"one\n"});
     fs::resize_file(file, 0);
-    appendToLogFile(file, Lines{"two\n"});
+    appendToLogFile(file, LineViews{"two\n"});
     EXPECT_EQ(contentOf(file), "two\n");
 
     fs::remove(file);
-    appendToLogFile(file, Lines{"three\n"});
+    appendToLogFile(file, LineViews{"three\n"});
     EXPECT_EQ(contentOf(file), "three\n");
 }
 
 TEST_F(LogFile, losesItsLinesInSilenceWhereItCannotBe)
 {
-    appendToLogFile(folder.path() / "missing" / "x.log", Lines{"lost\n", "lost\n"});
-    appendToLogFile("/proc/brindlex.log", Lines{"lost\n"});
-    appendToLogFile("/dev/full", Lines{"lost\n"});
+    appendToLogFile(folder.path() / "missing" / "x.log", LineViews{"lost\n", "lost\n"});
+    appendToLogFile("/proc/brindlex.log", LineViews{"lost\n"});
+    appendToLogFile("/dev/full", LineViews{"lost\n"});
     fs::create_directory(file);
-    appendToLogFile(file, Lines{"lost\n"});
+    appendToLogFile(file, LineViews{"lost\n"});
     EXPECT_EQ(names(), Names{""});
 
     const auto pipe = folder.path() / (fileName + "pipe");
     ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
-    appendToLogFile(pipe, Lines{"lost\n"});
+    appendToLogFile(pipe, LineViews{"lost\n"});
     EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
@@ -207,11 +207,11 @@ TEST_F(LogFile, goesOnWithAWholeLineWhenTheDiskHasSpaceAgain)
         ::setrlimit(RLIMIT_FSIZE, &limit);
         const std::string_view together = "whole\nhalf\nlost\n";
         appendToLogFile(
-            file, Lines{together.substr(0, 6), together.substr(6, 5), together.substr(11)});
-        appendToLogFile(file, Lines{"lost too\n"});
+            file, LineViews{together.substr(0, 6), together.substr(6, 5), together.substr(11)});
+        appendToLogFile(file, LineViews{"lost too\n"});
         limit.rlim_cur = RLIM_INFINITY;
         ::setrlimit(RLIMIT_FSIZE, &limit);
-        appendToLogFile(file, Lines{"later\n"});
+        appendToLogFile(file, LineViews{"later\n"});
         ::_exit(0);
     }
     int status = -1;

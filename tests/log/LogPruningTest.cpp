@@ -14,7 +14,7 @@ namespace {
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
 
-constexpr Date now = Date::fromUnixTime(1'794'795'385);
+constexpr Date pruningTime = Date::fromUnixTime(1'794'795'385);
 constexpr Seconds thirtyDays = 2'592'000;
 
 class LogPruningTest : public testing::Test {
@@ -27,7 +27,7 @@ protected:
 
     void setAge(const std::string& name, Seconds age) const
     {
-        const std::chrono::duration<Seconds> sinceEpoch((now - age).unixTime());
+        const std::chrono::duration<Seconds> sinceEpoch((pruningTime - age).unixTime());
         const std::chrono::sys_time<std::chrono::nanoseconds> time(
             std::chrono::duration_cast<std::chrono::nanoseconds>(sinceEpoch));
         fs::last_write_time(folder.path() / name, std::chrono::file_clock::from_sys(time));
@@ -57,7 +57,7 @@ TEST_F(LogPruningTest, removesWhatIsOlderThanThirtyDaysAndNothingElse)
     make("younger.log", thirtyDays - 1);
     make("future.log", -1000);
 
-    prune(now);
+    prune(pruningTime);
 
     EXPECT_EQ(names(), (Names{"exactly.log", "future.log", "younger.log"}));
 }
@@ -69,7 +69,7 @@ TEST_F(LogPruningTest, treatsCurrentAndRotatedFilesAlikeAndLeavesAllOthers)
              "app.log.3x", "app.log.3.gz", "app.LOG", "applog", "3"})
         make(name, 2 * thirtyDays);
 
-    prune(now);
+    prune(pruningTime);
 
     EXPECT_EQ(names(),
         (Names{"3", "app.LOG", "app.log.", "app.log.3.gz", "app.log.3x", "app.log.x", "applog",
@@ -83,7 +83,7 @@ TEST_F(LogPruningTest, leavesAFolderThatHasANameLikeALog)
     fs::create_directory(folder.path() / "sub");
     make("sub/deep.log", 2 * thirtyDays);
 
-    prune(now);
+    prune(pruningTime);
 
     EXPECT_EQ(names(), (Names{"old.log", "sub"}));
     EXPECT_TRUE(fs::exists(folder.path() / "sub" / "deep.log"));
@@ -91,50 +91,50 @@ TEST_F(LogPruningTest, leavesAFolderThatHasANameLikeALog)
 
 TEST_F(LogPruningTest, happensOnceWithinAnHour)
 {
-    prune(now);
+    prune(pruningTime);
     make("old.log", thirtyDays + 1);
 
-    prune(now);
-    prune(now + 3599.999);
+    prune(pruningTime);
+    prune(pruningTime + 3599.999);
     EXPECT_EQ(names(), Names{"old.log"});
     EXPECT_EQ(asked, 1);
 
-    prune(now + 3600.0);
+    prune(pruningTime + 3600.0);
     EXPECT_EQ(names(), Names{});
     EXPECT_EQ(asked, 2);
 }
 
 TEST_F(LogPruningTest, waitsWhenTheClockWasSetBack)
 {
-    prune(now);
-    prune(now - 86'400.0);
-    prune(now - 86'400.0 + 3600.0);
+    prune(pruningTime);
+    prune(pruningTime - 86'400.0);
+    prune(pruningTime - 86'400.0 + 3600.0);
     EXPECT_EQ(asked, 1);
 
-    prune(now + 3600.0);
+    prune(pruningTime + 3600.0);
     EXPECT_EQ(asked, 2);
 }
 
 TEST_F(LogPruningTest, countsAsDoneWithoutAFolder)
 {
     make("old.log", thirtyDays + 1);
-    pruning.prune([] { return std::nullopt; }, now);
+    pruning.prune([] { return std::nullopt; }, pruningTime);
 
-    prune(now + 3599.0);
+    prune(pruningTime + 3599.0);
     EXPECT_EQ(asked, 0);
-    prune(now + 3600.0);
+    prune(pruningTime + 3600.0);
     EXPECT_EQ(names(), Names{});
 }
 
 TEST_F(LogPruningTest, countsAsDoneWhenTheFolderCannotBeRead)
 {
     make("file", 0);
-    pruning.prune([&] { return std::optional(folder.path() / "missing"); }, now);
-    prune(now + 3599.0);
+    pruning.prune([&] { return std::optional(folder.path() / "missing"); }, pruningTime);
+    prune(pruningTime + 3599.0);
     EXPECT_EQ(asked, 0);
 
     LogPruning other;
-    other.prune([&] { return std::optional(folder.path() / "file"); }, now);
+    other.prune([&] { return std::optional(folder.path() / "file"); }, pruningTime);
     EXPECT_EQ(names(), Names{"file"});
 }
 

@@ -14,7 +14,7 @@ namespace brindlex {
 namespace {
 
 namespace fs = std::filesystem;
-using Entries = std::vector<SimulatedSystemLog::Entry>;
+using SystemEntries = std::vector<SimulatedSystemLog::Entry>;
 
 TEST_F(LogWriterTest, touchesNothingDuringTheCall)
 {
@@ -22,7 +22,7 @@ TEST_F(LogWriterTest, touchesNothingDuringTheCall)
     writer->write(call("two"));
 
     EXPECT_FALSE(fs::exists(logs));
-    EXPECT_EQ(systemLog.entries(), Entries{});
+    EXPECT_EQ(systemLog.entries(), SystemEntries{});
     EXPECT_EQ(queue.waiting(), 1u);
     queue.drain();
     EXPECT_EQ(content(), line("one") + line("two"));

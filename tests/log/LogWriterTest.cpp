@@ -7,7 +7,7 @@ namespace brindlex {
 namespace {
 
 namespace fs = std::filesystem;
-using Entries = std::vector<SimulatedSystemLog::Entry>;
+using SystemEntries = std::vector<SimulatedSystemLog::Entry>;
 
 TEST_F(LogWriterTest, writesEachCallToTheFileAndToTheSystemLog)
 {
@@ -18,7 +18,7 @@ TEST_F(LogWriterTest, writesEachCallToTheFileAndToTheSystemLog)
         "2026-11-16T02:16:25.123Z NOTICE [lifecycle] Brindlex/AppLifecycleCoordinator:63 — "
         "Brindlex launched\n");
     EXPECT_EQ(systemLog.entries(),
-        (Entries{{SystemLogType::standard, "com.brindlex.Brindlex.app", "lifecycle",
+        (SystemEntries{{SystemLogType::standard, "com.brindlex.Brindlex.app", "lifecycle",
             "Brindlex launched"}}));
 }
 
@@ -30,7 +30,7 @@ TEST_F(LogWriterTest, givesEachLevelItsTypeInTheSystemLog)
 
     const std::string subsystem = "com.brindlex.Brindlex.app";
     EXPECT_EQ(systemLog.entries(),
-        (Entries{{SystemLogType::info, subsystem, "lifecycle", "m"},
+        (SystemEntries{{SystemLogType::info, subsystem, "lifecycle", "m"},
             {SystemLogType::standard, subsystem, "lifecycle", "m"},
             {SystemLogType::error, subsystem, "lifecycle", "m"},
             {SystemLogType::error, subsystem, "lifecycle", "m"}}));
@@ -44,7 +44,7 @@ TEST_F(LogWriterTest, neverWritesTheLevelOfLinesThatCouldNotBeRead)
     queue.drain();
 
     EXPECT_FALSE(fs::exists(logs));
-    EXPECT_EQ(systemLog.entries(), Entries{});
+    EXPECT_EQ(systemLog.entries(), SystemEntries{});
 }
 
 TEST_F(LogWriterTest, hasAFileForEachSubsystem)

@@ -4,7 +4,7 @@
 
 namespace brindlex {
 
-using Step = MouseScenarioStep;
+using MouseStep = MouseScenarioStep;
 
 void MemoryMouseExecutor::begin(const MouseScenario& scenario)
 {
@@ -32,9 +32,9 @@ std::vector<std::string> MemoryMouseExecutor::perform(const MouseScenario::Step&
 
 std::optional<EventVerdict> MemoryMouseExecutor::carryOut(const MouseScenarioStep::Any& step)
 {
-    if (const auto input = std::get_if<Step::Input>(&step))
+    if (const auto input = std::get_if<MouseStep::Input>(&step))
         return play(*input);
-    if (std::holds_alternative<Step::SwitchTapOff>(step))
+    if (std::holds_alternative<MouseStep::SwitchTapOff>(step))
         session_->input.switchTapsOff(EventType::tapDisabledByTimeout);
     else if (const auto change = std::get_if<MouseStageChange::Any>(&step))
         session_->stage.carryOut(*change);
@@ -43,7 +43,7 @@ std::optional<EventVerdict> MemoryMouseExecutor::carryOut(const MouseScenarioSte
 
 EventVerdict MemoryMouseExecutor::play(const MouseScenarioStep::Input& input)
 {
-    using Kind = Step::Input::Kind;
+    using Kind = MouseStep::Input::Kind;
     auto& mouse = input.mouse == 2 ? session_->secondMouse : session_->mouse;
     session_->keyboard.holdModifiers(input.flags);
     if (input.location && input.kind != Kind::drag)

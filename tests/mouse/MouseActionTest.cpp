@@ -1,6 +1,7 @@
 #include "mouse/MouseAction.h"
 
 #include "foundation/JsonCoding.h"
+#include "support/basics/JsonReading.h"
 
 #include <gtest/gtest.h>
 
@@ -12,10 +13,7 @@ namespace {
 
 using Action = MouseAction::Any;
 
-Result<Action, JsonProblem> read(std::string_view text)
-{
-    return fromJson<Action>(parseJson(text).value());
-}
+Result<Action, JsonProblem> readAction(std::string_view text) { return readJson<Action>(text); }
 
 TEST(MouseAction, isStoredUnderTheNameOfItsCase)
 {
@@ -32,13 +30,13 @@ TEST(MouseAction, isStoredUnderTheNameOfItsCase)
     };
     for (const auto& [action, text] : rows) {
         EXPECT_EQ(jsonText(toJson(action)), text);
-        EXPECT_EQ(read(text).value(), action) << text;
+        EXPECT_EQ(readAction(text).value(), action) << text;
     }
 }
 
 TEST(MouseAction, ofARetiredNameBecomesMissionControl)
 {
-    const auto action = read(R"({"launchpad":{}})").value();
+    const auto action = readAction(R"({"launchpad":{}})").value();
 
     EXPECT_EQ(action, Action(MouseAction::Plain::missionControl));
     EXPECT_EQ(jsonText(toJson(action)), R"({"missionControl":{}})");
@@ -48,7 +46,7 @@ TEST(MouseAction, looksOnlyForThePresenceOfAPlainKey)
 {
     for (const auto* text : {R"({"back":null})", R"({"back":7})", R"({"back":"x"})",
              R"({"back":{"extra":1}})", R"({"back":[]})"})
-        EXPECT_EQ(read(text).value(), Action(MouseAction::Plain::back)) << text;
+        EXPECT_EQ(readAction(text).value(), Action(MouseAction::Plain::back)) << text;
 }
 
 TEST(MouseAction, looksForItsKeysInOneOrder)
@@ -69,41 +67,42 @@ TEST(MouseAction, looksForItsKeysInOneOrder)
             document.erase("sendKeystroke");
         EXPECT_EQ(fromJson<Action>(document).value(), actions[first]) << jsonText(document);
     }
-    EXPECT_EQ(
-        read(R"({"back":{},"launchpad":{}})").value(), Action(MouseAction::Plain::missionControl));
+    EXPECT_EQ(readAction(R"({"back":{},"launchpad":{}})").value(),
+        Action(MouseAction::Plain::missionControl));
 }
 
 TEST(MouseAction, readsBothFormsOfAShellCommand)
 {
-    EXPECT_EQ(read(R"({"runShellCommand":{"_0":"x"}})").value(),
-        read(R"({"runShellCommand":"x"})").value());
-    EXPECT_EQ(read(R"({"runShellCommand":""})").value(), Action(MouseAction::RunShellCommand{""}));
+    EXPECT_EQ(readAction(R"({"runShellCommand":{"_0":"x"}})").value(),
+        readAction(R"({"runShellCommand":"x"})").value());
+    EXPECT_EQ(
+        readAction(R"({"runShellCommand":""})").value(), Action(MouseAction::RunShellCommand{""}));
 }
 
 TEST(MouseAction, withoutAKnownKeyIsUnknown)
 {
-    EXPECT_EQ(read("{}").error(), (JsonProblem{"", "Unknown mouse action"}));
-    EXPECT_EQ(read(R"({"Back":{}})").error(), (JsonProblem{"", "Unknown mouse action"}));
+    EXPECT_EQ(readAction("{}").error(), (JsonProblem{"", "Unknown mouse action"}));
+    EXPECT_EQ(readAction(R"({"Back":{}})").error(), (JsonProblem{"", "Unknown mouse action"}));
 }
 
 TEST(MouseAction, withABadPayloadTellsWhere)
 {
-    EXPECT_EQ(read(R"("back")").error(), (JsonProblem{"", "is not an object"}));
-    EXPECT_EQ(read(R"({"sendKeystroke":{"keyCode":1}})").error(),
+    EXPECT_EQ(readAction(R"("back")").error(), (JsonProblem{"", "is not an object"}));
+    EXPECT_EQ(readAction(R"({"sendKeystroke":{"keyCode":1}})").error(),
         (JsonProblem{"sendKeystroke.modifiers", "is missing"}));
-    EXPECT_EQ(read(R"({"sendKeystroke":{"keyCode":1.5,"modifiers":0}})").error().path,
+    EXPECT_EQ(readAction(R"({"sendKeystroke":{"keyCode":1.5,"modifiers":0}})").error().path,
         "sendKeystroke.keyCode");
-    EXPECT_EQ(read(R"({"runShellCommand":{}})").error(),
+    EXPECT_EQ(readAction(R"({"runShellCommand":{}})").error(),
         (JsonProblem{"runShellCommand._0", "is missing"}));
-    EXPECT_EQ(read(R"({"runShellCommand":{"_0":1}})").error(),
+    EXPECT_EQ(readAction(R"({"runShellCommand":{"_0":1}})").error(),
         (JsonProblem{"runShellCommand._0", "is not text"}));
-    EXPECT_EQ(read(R"({"runShellCommand":1})").error(),
+    EXPECT_EQ(readAction(R"({"runShellCommand":1})").error(),
         (JsonProblem{"runShellCommand", "is not an object"}));
 }
 
 TEST(MouseAction, doesNotFallBackFromABadPayloadToALaterKey)
 {
-    EXPECT_FALSE(read(R"({"sendKeystroke":1,"runShellCommand":"x"})"));
+    EXPECT_FALSE(readAction(R"({"sendKeystroke":1,"runShellCommand":"x"})"));
 }
 
 TEST(MouseAction, keepsAShellCommandToTheByte)
@@ -112,7 +111,7 @@ TEST(MouseAction, keepsAShellCommandToTheByte)
 
     const auto text = jsonText(toJson(action));
 
-    EXPECT_EQ(read(text).value(), action) << text;
+    EXPECT_EQ(readAction(text).value(), action) << text;
 }
 
 } // namespace

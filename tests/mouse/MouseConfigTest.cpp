@@ -2,6 +2,7 @@
 
 #include "eventtap/HotkeyCombo.h"
 #include "foundation/JsonCoding.h"
+#include "support/basics/JsonReading.h"
 
 #include <gtest/gtest.h>
 
@@ -10,22 +11,16 @@
 namespace brindlex {
 namespace {
 
-template <typename Value>
-Result<Value, JsonProblem> read(std::string_view text)
-{
-    return fromJson<Value>(parseJson(text).value());
-}
-
-constexpr auto id = "00112233-4455-6677-8899-AABBCCDDEEFF";
+constexpr auto bindingID = "00112233-4455-6677-8899-AABBCCDDEEFF";
 
 MouseConfig example()
 {
     MouseConfig config;
     config.click.enabled = false;
-    config.click.bindings = {{*Uuid::fromText(id), MouseButton::button4, ModifierSet::command,
-        MouseAction::Plain::back}};
-    config.gesture.bindings = {{*Uuid::fromText(id), MouseButton::right, {}, MouseDirection::up,
-        MouseAction::SendKeystroke{49, ModifierSet::option}}};
+    config.click.bindings = {{*Uuid::fromText(bindingID), MouseButton::button4,
+        ModifierSet::command, MouseAction::Plain::back}};
+    config.gesture.bindings = {{*Uuid::fromText(bindingID), MouseButton::right, {},
+        MouseDirection::up, MouseAction::SendKeystroke{49, ModifierSet::option}}};
     config.gesture.distanceThreshold = 45;
     config.scroll.smoothEnabled = true;
     config.scroll.disabledApps = {{"com.example.Editor", "Editor", {}}};
@@ -46,7 +41,7 @@ TEST(MouseConfig, readsWhatItWrote)
 {
     const auto text = jsonText(toJson(example()));
 
-    EXPECT_EQ(read<MouseConfig>(text).value(), example()) << text;
+    EXPECT_EQ(readJson<MouseConfig>(text).value(), example()) << text;
 }
 
 TEST(MouseConfig, storesABindingUnderTheNamesOfItsFields)
@@ -61,18 +56,18 @@ TEST(MouseConfig, storesABindingUnderTheNamesOfItsFields)
 
 TEST(MouseConfig, readsAScrollPartWithoutKeysAsTheDefault)
 {
-    EXPECT_EQ(read<MouseScrollConfig>("{}").value(), MouseScrollConfig{});
-    EXPECT_FALSE(read<MouseScrollConfig>("{}").value().smoothEnabled);
+    EXPECT_EQ(readJson<MouseScrollConfig>("{}").value(), MouseScrollConfig{});
+    EXPECT_FALSE(readJson<MouseScrollConfig>("{}").value().smoothEnabled);
 
     MouseScrollConfig fast;
     fast.speedMultiplier = 2.5;
-    EXPECT_EQ(read<MouseScrollConfig>(R"({"speedMultiplier":2.5})").value(), fast);
+    EXPECT_EQ(readJson<MouseScrollConfig>(R"({"speedMultiplier":2.5})").value(), fast);
 }
 
 TEST(MouseConfig, doesNotReadAScrollPartWithAKeyOfTheWrongType)
 {
-    EXPECT_FALSE(read<MouseScrollConfig>(R"({"smoothEnabled":1})"));
-    EXPECT_FALSE(read<MouseScrollConfig>(R"({"disabledApps":[{}]})"));
+    EXPECT_FALSE(readJson<MouseScrollConfig>(R"({"smoothEnabled":1})"));
+    EXPECT_FALSE(readJson<MouseScrollConfig>(R"({"disabledApps":[{}]})"));
 }
 
 TEST(MouseConfig, readsAnyNumberAboutTheWheel)
@@ -82,7 +77,7 @@ TEST(MouseConfig, readsAnyNumberAboutTheWheel)
         config.smoothDuration = number;
         config.speedMultiplier = number;
         config.acceleration = number;
-        EXPECT_EQ(read<MouseScrollConfig>(jsonText(toJson(config))).value(), config) << number;
+        EXPECT_EQ(readJson<MouseScrollConfig>(jsonText(toJson(config))).value(), config) << number;
     }
 }
 
@@ -90,10 +85,11 @@ TEST(MouseConfig, readsNothingThatIsNoNumberAboutTheWheel)
 {
     for (const std::string key : {"smoothDuration", "speedMultiplier", "acceleration"}) {
         for (const std::string value : {"\"NaN\"", "\"1\"", "true", "[1]", "{}"})
-            EXPECT_FALSE(read<MouseScrollConfig>("{\"" + key + "\":" + value + "}")) << value;
+            EXPECT_FALSE(readJson<MouseScrollConfig>("{\"" + key + "\":" + value + "}")) << value;
         for (const std::string value : {"NaN", "nan", "Infinity", "-inf", "1e999", "0x10", "1,5"})
             EXPECT_FALSE(parseJson("{\"" + key + "\":" + value + "}")) << value;
-        EXPECT_EQ(read<MouseScrollConfig>("{\"" + key + "\":null}").value(), MouseScrollConfig{});
+        EXPECT_EQ(
+            readJson<MouseScrollConfig>("{\"" + key + "\":null}").value(), MouseScrollConfig{});
     }
 }
 

@@ -25,7 +25,7 @@ TEST(MouseScenario, existsInNumbersForBothPlayers)
     EXPECT_GE(scenarioFiles(folder, "hardware").size(), 63u);
 }
 
-std::string problemOf(const std::string& line)
+std::string problemOfLine(const std::string& line)
 {
     const auto scenario = parseScenario<MouseVerbs>("a.txt", line + "\n0ms wait\n");
     return scenario ? "" : scenario.error();
@@ -33,17 +33,17 @@ std::string problemOf(const std::string& line)
 
 TEST(MouseScenario, isRefusedWithTheLineThatIsWrong)
 {
-    EXPECT_EQ(problemOf("0ms sing"), "a.txt:1: \"sing\" is unknown");
-    EXPECT_EQ(problemOf("0ms down button6"), "a.txt:1: \"button6\" is unknown");
-    EXPECT_EQ(problemOf("0ms drag left"), "a.txt:1: a word is missing");
-    EXPECT_EQ(problemOf("0ms drag left 1,2,3"), "a.txt:1: a place is written as 100,100");
-    EXPECT_EQ(problemOf("0ms wheel 1.5"), "a.txt:1: \"1.5\" is no whole number");
-    EXPECT_EQ(problemOf("0ms up left with alt"), "a.txt:1: \"alt\" is unknown");
-    EXPECT_EQ(problemOf("0ms set gestures maybe"), "a.txt:1: \"maybe\" is unknown");
-    EXPECT_EQ(problemOf("gesture left right dance"), "a.txt:1: \"dance\" is no action");
-    EXPECT_EQ(problemOf("gesture left in back"), "a.txt:1: \"in\" is no direction");
-    EXPECT_EQ(problemOf("scroll sideways"), "a.txt:1: \"sideways\" is unknown");
-    EXPECT_EQ(problemOf("threshold 4 points"), "a.txt:1: \"points\" is one word too many");
+    EXPECT_EQ(problemOfLine("0ms sing"), "a.txt:1: \"sing\" is unknown");
+    EXPECT_EQ(problemOfLine("0ms down button6"), "a.txt:1: \"button6\" is unknown");
+    EXPECT_EQ(problemOfLine("0ms drag left"), "a.txt:1: a word is missing");
+    EXPECT_EQ(problemOfLine("0ms drag left 1,2,3"), "a.txt:1: a place is written as 100,100");
+    EXPECT_EQ(problemOfLine("0ms wheel 1.5"), "a.txt:1: \"1.5\" is no whole number");
+    EXPECT_EQ(problemOfLine("0ms up left with alt"), "a.txt:1: \"alt\" is unknown");
+    EXPECT_EQ(problemOfLine("0ms set gestures maybe"), "a.txt:1: \"maybe\" is unknown");
+    EXPECT_EQ(problemOfLine("gesture left right dance"), "a.txt:1: \"dance\" is no action");
+    EXPECT_EQ(problemOfLine("gesture left in back"), "a.txt:1: \"in\" is no direction");
+    EXPECT_EQ(problemOfLine("scroll sideways"), "a.txt:1: \"sideways\" is unknown");
+    EXPECT_EQ(problemOfLine("threshold 4 points"), "a.txt:1: \"points\" is one word too many");
 }
 
 } // namespace

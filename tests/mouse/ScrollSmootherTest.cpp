@@ -11,7 +11,7 @@
 namespace brindlex {
 namespace {
 
-using Source = FrameDriver::Source;
+using FrameSource = FrameDriver::Source;
 
 class ScrollSmootherTest : public testing::Test {
 protected:
@@ -33,7 +33,7 @@ protected:
 TEST_F(ScrollSmootherTest, runsWithTheScreenUntilItIsDrained)
 {
     smoother.add(eventFlag::option, {100, 0});
-    EXPECT_EQ(driver.source(), Source::display);
+    EXPECT_EQ(driver.source(), FrameSource::display);
     EXPECT_EQ(displayLink.lastRate, std::nullopt);
     EXPECT_TRUE(posts.empty());
 
@@ -44,7 +44,7 @@ TEST_F(ScrollSmootherTest, runsWithTheScreenUntilItIsDrained)
     }
 
     EXPECT_EQ(timesDrained, 1);
-    EXPECT_EQ(driver.source(), Source::idle);
+    EXPECT_EQ(driver.source(), FrameSource::idle);
     EXPECT_EQ(posts.front().first, eventFlag::option);
     EXPECT_NEAR(posts.front().second.vertical, 8.843519709167577360, 1e-12);
     EXPECT_LT(smoother.motion().remainingY, 0.5);
@@ -55,14 +55,14 @@ TEST_F(ScrollSmootherTest, runsByATimerWithoutAScreen)
 {
     displayLink.framesPerSecond.reset();
     smoother.add(0, {100, 0});
-    EXPECT_EQ(driver.source(), Source::timer);
+    EXPECT_EQ(driver.source(), FrameSource::timer);
 
     mainThread.advance(1.0 / 60);
     EXPECT_EQ(posts.size(), 1u);
     EXPECT_NEAR(posts[0].second.vertical, 8.843519709167577360, 1e-9);
     mainThread.advance(5);
 
-    EXPECT_EQ(driver.source(), Source::idle);
+    EXPECT_EQ(driver.source(), FrameSource::idle);
     EXPECT_EQ(mainThread.timers(), 0u);
 }
 
@@ -95,7 +95,7 @@ TEST_F(ScrollSmootherTest, postsNothingForLessThanHalfAPixel)
     displayLink.frame(500);
 
     EXPECT_TRUE(posts.empty());
-    EXPECT_EQ(driver.source(), Source::idle);
+    EXPECT_EQ(driver.source(), FrameSource::idle);
 }
 
 TEST_F(ScrollSmootherTest, keepsTheTailForTheNextMotion)

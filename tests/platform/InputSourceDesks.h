@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/linux/inputsources/DesktopInputSources.h"
+#include "platform/linux/system/SessionBus.h"
 #include "platform/simulated/SimulatedClock.h"
 #include "platform/simulated/SimulatedInputSources.h"
 #include "platform/simulated/SimulatedMainThread.h"
-#include "support/bus/SessionBus.h"
 #include "support/daemons/FcitxDaemon.h"
 #include "support/daemons/IBusDaemon.h"
 #include "support/hardware/KeyboardGroup.h"
@@ -65,7 +65,7 @@ private:
     XConnection server_;
     SessionBus bus_;
     X11Connection connection_;
-    DesktopInputSources sources_{connection_, bus_.get()};
+    DesktopInputSources sources_{connection_, bus_.connection()};
 };
 
 /// A desktop with IBus.
@@ -96,7 +96,7 @@ private:
     IBusDaemon daemon_{desktop_, {"xkb:us::eng", "xkb:de::deu", "libpinyin"}};
     SessionBus bus_;
     X11Connection connection_;
-    DesktopInputSources sources_{connection_, bus_.get()};
+    DesktopInputSources sources_{connection_, bus_.connection()};
 };
 
 /// A desktop with Fcitx 5 and a window that types through it.
@@ -130,7 +130,7 @@ private:
     TypingWindow window_{windows_, "Typing"};
     SessionBus bus_;
     X11Connection connection_;
-    DesktopInputSources sources_{connection_, bus_.get()};
+    DesktopInputSources sources_{connection_, bus_.connection()};
 };
 
 } // namespace brindlex

@@ -14,7 +14,7 @@ namespace {
 
 using Store = ConfigurationStore<MouseScrollConfig>;
 
-const PreferenceKey<MouseScrollConfig> key{{}, "scroll"};
+const PreferenceKey<MouseScrollConfig> scrollKey{{}, "scroll"};
 
 MouseScrollConfig withDuration(double duration)
 {
@@ -33,7 +33,7 @@ TEST(ConfigurationStore, beginsWithTheStoredRecordAndWritesNothing)
     SimulatedUserDefaults defaults;
     defaults.set("scroll", stored(withDuration(0.3)));
 
-    const Store store(defaults, key);
+    const Store store(defaults, scrollKey);
 
     EXPECT_EQ(store.config().value(), withDuration(0.3));
     EXPECT_EQ(defaults.writes().size(), 1U);
@@ -44,7 +44,7 @@ TEST(ConfigurationStore, tellsASubscriberTheLoadedRecordOnceWithoutWriting)
 {
     SimulatedUserDefaults defaults;
     defaults.set("scroll", stored(withDuration(0.3)));
-    const Store store(defaults, key);
+    const Store store(defaults, scrollKey);
 
     std::vector<MouseScrollConfig> heard;
     const auto subscription
@@ -59,7 +59,7 @@ TEST(ConfigurationStore, beginsWithTheDefaultForMalformedTextWhichStaysUntilTheN
     SimulatedUserDefaults defaults;
     defaults.set("scroll", "{\"smoothDuration\":");
 
-    Store store(defaults, key);
+    Store store(defaults, scrollKey);
     EXPECT_EQ(store.config().value(), MouseScrollConfig{});
     EXPECT_EQ(defaults.value("scroll"), PreferenceValue("{\"smoothDuration\":"));
 
@@ -70,7 +70,7 @@ TEST(ConfigurationStore, beginsWithTheDefaultForMalformedTextWhichStaysUntilTheN
 TEST(ConfigurationStore, publishesBeforeItWrites)
 {
     SimulatedUserDefaults defaults;
-    Store store(defaults, key);
+    Store store(defaults, scrollKey);
     std::vector<std::optional<PreferenceValue>> seen;
     const auto subscription
         = store.config().subscribe([&](const auto&) { seen.push_back(defaults.value("scroll")); });
@@ -87,7 +87,7 @@ TEST(ConfigurationStore, publishesBeforeItWrites)
 TEST(ConfigurationStore, writesEveryAssignmentAlsoOfAnEqualRecord)
 {
     SimulatedUserDefaults defaults;
-    Store store(defaults, key);
+    Store store(defaults, scrollKey);
     store.setConfig({});
     store.setConfig({});
     store.setConfig(withDuration(0.25));
@@ -102,7 +102,7 @@ TEST(ConfigurationStore, writesEveryAssignmentAlsoOfAnEqualRecord)
 TEST(ConfigurationStore, writesARecordThatIsEqualAndReadsDifferently)
 {
     SimulatedUserDefaults defaults;
-    Store store(defaults, key);
+    Store store(defaults, scrollKey);
     store.setConfig(withDuration(0.0));
     store.setConfig(withDuration(-0.0));
     EXPECT_EQ(defaults.value("scroll"), stored(withDuration(-0.0)));
@@ -112,7 +112,7 @@ TEST(ConfigurationStore, writesARecordThatIsEqualAndReadsDifferently)
 TEST(ConfigurationStore, writesAnewOverWhatAnotherHasStored)
 {
     SimulatedUserDefaults defaults;
-    Store store(defaults, key);
+    Store store(defaults, scrollKey);
     store.setConfig(withDuration(0.25));
     defaults.set("scroll", "something else");
     store.setConfig(withDuration(0.25));
@@ -122,7 +122,7 @@ TEST(ConfigurationStore, writesAnewOverWhatAnotherHasStored)
 TEST(ConfigurationStore, writesTheEmptyTextForARecordThatCannotBeEncoded)
 {
     SimulatedUserDefaults defaults;
-    Store store(defaults, key);
+    Store store(defaults, scrollKey);
     store.setConfig(withDuration(std::numeric_limits<double>::infinity()));
     EXPECT_EQ(defaults.value("scroll"), PreferenceValue(""));
 }
@@ -130,7 +130,7 @@ TEST(ConfigurationStore, writesTheEmptyTextForARecordThatCannotBeEncoded)
 TEST(ConfigurationStore, publishesALoadedRecordAndLeavesThePreferences)
 {
     SimulatedUserDefaults defaults;
-    Store store(defaults, key);
+    Store store(defaults, scrollKey);
     std::vector<bool> guards;
     const auto subscription = store.config().subscribe(
         [&](const auto&) { guards.push_back(store.isApplyingLoadedConfig()); });
@@ -146,7 +146,7 @@ TEST(ConfigurationStore, publishesALoadedRecordAndLeavesThePreferences)
 TEST(ConfigurationStore, keepsAndStoresWhatASubscriberAssignsMeanwhile)
 {
     SimulatedUserDefaults defaults;
-    Store store(defaults, key);
+    Store store(defaults, scrollKey);
     const auto subscription = store.config().subscribe([&](const MouseScrollConfig& config) {
         if (config.smoothDuration > 1)
             store.setConfig(withDuration(1));
@@ -161,7 +161,7 @@ TEST(ConfigurationStore, keepsAndStoresWhatASubscriberAssignsMeanwhile)
 TEST(ConfigurationStore, takesOverWhatAnotherHasStored)
 {
     SimulatedUserDefaults defaults;
-    Store store(defaults, key);
+    Store store(defaults, scrollKey);
     std::vector<MouseScrollConfig> heard;
     const auto subscription = store.config().stream().withoutFirst().subscribe(
         [&](const auto& config) { heard.push_back(config); });
@@ -177,7 +177,7 @@ TEST(ConfigurationStore, takesOverWhatAnotherHasStored)
 TEST(ConfigurationStore, hearsNothingNewInItsOwnWrites)
 {
     SimulatedUserDefaults defaults;
-    Store store(defaults, key);
+    Store store(defaults, scrollKey);
     store.setConfig(withDuration(0.25));
     int heard = 0;
     const auto subscription
@@ -192,7 +192,7 @@ TEST(ConfigurationStore, fallsBackToTheDefaultWhenAnotherRemovesTheRecord)
 {
     SimulatedUserDefaults defaults;
     defaults.set("scroll", stored(withDuration(0.25)));
-    Store store(defaults, key);
+    Store store(defaults, scrollKey);
     defaults.set("scroll", {});
 
     store.reload();
@@ -203,7 +203,7 @@ TEST(ConfigurationStore, fallsBackToTheDefaultWhenAnotherRemovesTheRecord)
 TEST(ConfigurationStore, takesOverARecordThatAPersonHasWrittenAsPlainJson)
 {
     SimulatedUserDefaults defaults;
-    Store store(defaults, key);
+    Store store(defaults, scrollKey);
     defaults.set("scroll", PreferenceJson{R"({"smoothDuration":0.25})"});
 
     store.reload();
@@ -216,7 +216,7 @@ TEST(ConfigurationStore, keepsThePresentRecordWhileTheStoredOneCannotBeRead)
     RecordedLog log;
     SimulatedUserDefaults defaults;
     defaults.set("scroll", stored(withDuration(0.25)));
-    Store store(defaults, key);
+    Store store(defaults, scrollKey);
     defaults.set("scroll", "{\"smoothDuration\":");
 
     store.reload();

@@ -14,7 +14,7 @@ namespace {
 const PreferenceKey<bool> flag{true, "flag"};
 const PreferenceKey<std::int64_t> number{200, "number"};
 const PreferenceKey<double> ratio{0.5, "ratio"};
-const PreferenceKey<std::string> text{"default", "text"};
+const PreferenceKey<std::string> textKey{"default", "text"};
 const PreferenceKey<std::vector<std::string>> list{{"default"}, "list"};
 const PreferenceKey<MainWindowTab> tab{MainWindowTab::general, "tab"};
 const PreferenceKey<LanguagePreference> language{LanguagePreference::system, "language"};
@@ -41,7 +41,7 @@ TEST(PreferenceKey, givesTheDefaultWhereNothingIsStored)
     const SimulatedUserDefaults defaults;
     EXPECT_EQ(readPreference(defaults, flag), true);
     EXPECT_EQ(readPreference(defaults, number), 200);
-    EXPECT_EQ(readPreference(defaults, text), "default");
+    EXPECT_EQ(readPreference(defaults, textKey), "default");
     EXPECT_EQ(readPreference(defaults, list), std::vector<std::string>{"default"});
     EXPECT_EQ(readPreference(defaults, tab), MainWindowTab::general);
     EXPECT_EQ(readPreference(defaults, hotkey), (HotkeyCombo{9, ModifierSet{9}}));
@@ -53,7 +53,7 @@ TEST(PreferenceKey, writesEachValueInItsStoredForm)
     writePreference(defaults, flag, false);
     writePreference(defaults, number, 12);
     writePreference(defaults, ratio, 0.75);
-    writePreference(defaults, text, "other");
+    writePreference(defaults, textKey, "other");
     writePreference(defaults, list, {"de", "en"});
     writePreference(defaults, tab, MainWindowTab::clipboard);
     writePreference(defaults, language, LanguagePreference::zhHant);
@@ -91,7 +91,7 @@ TEST(PreferenceKey, takesAnObjectOfAnotherTypeForNothingAndLeavesIt)
     expectDefaultForEveryKindBut(0, flag);
     expectDefaultForEveryKindBut(1, number);
     expectDefaultForEveryKindBut(2, ratio);
-    expectDefaultForEveryKindBut(3, text);
+    expectDefaultForEveryKindBut(3, textKey);
     expectDefaultForEveryKindBut(4, list);
     expectDefaultForEveryKindBut(3, tab);
     expectDefaultForEveryKindBut(3, language);

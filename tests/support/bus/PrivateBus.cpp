@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto timeToStart = 60s;
+constexpr auto timeForBus = 60s;
 
 } // namespace
 
@@ -23,7 +23,7 @@ PrivateBus::PrivateBus()
             "--print-address=" + std::to_string(address.writingEnd())},
         .inherited = address.writingEnd(),
     });
-    const auto line = address.read(timeToStart);
+    const auto line = address.read(timeForBus);
     if (!line)
         fatalError("The session bus did not start.");
     address_ = *line;
@@ -32,7 +32,7 @@ PrivateBus::PrivateBus()
 void PrivateBus::end()
 {
     daemon_->signal(SIGKILL);
-    daemon_->waitForEnd(timeToStart);
+    daemon_->waitForEnd(timeForBus);
 }
 
 void PrivateBus::freeze() { daemon_->signal(SIGSTOP); }

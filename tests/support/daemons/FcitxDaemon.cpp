@@ -13,8 +13,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto name = "org.fcitx.Fcitx5";
-constexpr auto path = "/controller";
+constexpr auto fcitxName = "org.fcitx.Fcitx5";
+constexpr auto fcitxPath = "/controller";
 constexpr auto interface = "org.fcitx.Fcitx.Controller1";
 
 std::string profile(const std::vector<std::string>& inputMethods)
@@ -49,8 +49,8 @@ void FcitxDaemon::start()
     });
     const auto replies = [] {
         const BusConnection bus;
-        return bus.hasOwner(name) && hasXInputMethodServer("fcitx")
-            && bus.call(name, path, interface, "CurrentInputMethodGroup");
+        return bus.hasOwner(fcitxName) && hasXInputMethodServer("fcitx")
+            && bus.call(fcitxName, fcitxPath, interface, "CurrentInputMethodGroup");
     };
     if (!eventually(replies, 60s))
         fatalError("Fcitx did not start.\n" + daemon_->output());
@@ -64,12 +64,12 @@ void FcitxDaemon::stop()
 
 std::string FcitxDaemon::current() const
 {
-    return BusConnection().call(name, path, interface, "CurrentInputMethod").text();
+    return BusConnection().call(fcitxName, fcitxPath, interface, "CurrentInputMethod").text();
 }
 
 std::string FcitxDaemon::context() const
 {
-    const auto all = BusConnection().call(name, path, interface, "DebugInfo").text();
+    const auto all = BusConnection().call(fcitxName, fcitxPath, interface, "DebugInfo").text();
     const auto end = all.find(" focus:1");
     const auto begin = all.rfind("IC [", end);
     return end == std::string::npos || begin == std::string::npos ? "" : all.substr(begin, 20);
@@ -86,7 +86,7 @@ bool FcitxDaemon::change(const std::string& inputMethod)
 {
     // While no window has the keyboard yet, the daemon says yes and does nothing.
     return eventually([&] {
-        return BusConnection().call(name, path, interface, "SetCurrentIM", {inputMethod})
+        return BusConnection().call(fcitxName, fcitxPath, interface, "SetCurrentIM", {inputMethod})
             && eventually([&] { return current() == inputMethod; }, 300ms);
     });
 }

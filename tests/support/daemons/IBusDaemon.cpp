@@ -13,8 +13,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto name = "org.freedesktop.IBus";
-constexpr auto path = "/org/freedesktop/IBus";
+constexpr auto ibusName = "org.freedesktop.IBus";
+constexpr auto ibusPath = "/org/freedesktop/IBus";
 
 void set(const VirtualDesktop& desktop, const std::string& key, const std::string& value)
 {
@@ -105,7 +105,7 @@ std::string IBusDaemon::current() const
     if (!bus)
         return {};
     // A variant in a variant: (type, attachments, name, ...).
-    auto reply = BusConnection(*bus).property(name, path, name, "GlobalEngine");
+    auto reply = BusConnection(*bus).property(ibusName, ibusPath, ibusName, "GlobalEngine");
     reply.enter();
     reply.enter();
     reply.skip();
@@ -125,7 +125,8 @@ bool IBusDaemon::change(const std::string& engine)
     // While the daemon has much to do, an engine may not start in its time.
     return eventually([&] {
         const auto bus = address();
-        return bus && BusConnection(*bus).call(name, path, name, "SetGlobalEngine", {engine});
+        return bus
+            && BusConnection(*bus).call(ibusName, ibusPath, ibusName, "SetGlobalEngine", {engine});
     });
 }
 

@@ -5,7 +5,7 @@
 namespace brindlex {
 namespace {
 
-constexpr std::chrono::milliseconds lookAgain{2};
+constexpr std::chrono::milliseconds guardingInterval{2};
 
 } // namespace
 
@@ -24,7 +24,7 @@ void LayoutGuard::guard(int group, std::chrono::milliseconds delay)
 {
     const XConnection server;
     while (!isOver_) {
-        std::this_thread::sleep_for(lookAgain);
+        std::this_thread::sleep_for(guardingInterval);
         if (keyboardGroup(server) == group)
             continue;
         std::this_thread::sleep_for(delay);

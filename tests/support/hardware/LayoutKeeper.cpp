@@ -8,7 +8,7 @@
 namespace brindlex {
 namespace {
 
-constexpr std::chrono::milliseconds lookAgain{2};
+constexpr std::chrono::milliseconds keepingInterval{2};
 
 } // namespace
 
@@ -39,7 +39,7 @@ void LayoutKeeper::keep(std::chrono::milliseconds delay)
             selectKeyboardGroup(server, groups[active]);
             front = active;
         }
-        std::this_thread::sleep_for(lookAgain);
+        std::this_thread::sleep_for(keepingInterval);
     }
 }
 

@@ -15,7 +15,7 @@
 namespace brindlex {
 namespace {
 
-constexpr std::chrono::milliseconds timeToEnd{2'000};
+constexpr std::chrono::milliseconds timeToLeave{2'000};
 
 /// The variables of this process with others put over them, as `NAME=value`.
 std::vector<std::string> environmentWith(std::map<std::string, std::string> variables)
@@ -116,7 +116,7 @@ void ChildProcess::stop()
     kill(-id_, SIGTERM);
     // A stopped process sees the request only when it goes on.
     kill(-id_, SIGCONT);
-    waitForEnd(timeToEnd);
+    waitForEnd(timeToLeave);
     kill(-id_, SIGKILL);
     waitpid(id_, nullptr, 0);
 }

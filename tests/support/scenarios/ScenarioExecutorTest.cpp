@@ -7,7 +7,7 @@
 namespace brindlex {
 namespace {
 
-std::string played(const std::string& text)
+std::string playedCounter(const std::string& text)
 {
     const auto scenario = parseScenario<CounterVerbs>("a.txt", text);
     if (!scenario)
@@ -26,13 +26,13 @@ const std::string story = "# A counter.\n"
 
 TEST(ScenarioExecutor, givesTheTextOfAScenarioThatGoesAsItIsWritten)
 {
-    EXPECT_EQ(played(story), story);
+    EXPECT_EQ(playedCounter(story), story);
 }
 
 TEST(ScenarioExecutor, givesTheRealEffectsWhateverIsWritten)
 {
-    EXPECT_EQ(played("# A counter.\nlimit 3\n0ms add 2 -> nothing\n10ms wait -> ring\n"
-                     "# The limit is reached.\n1500ms add 1\n"),
+    EXPECT_EQ(playedCounter("# A counter.\nlimit 3\n0ms add 2 -> nothing\n10ms wait -> ring\n"
+                            "# The limit is reached.\n1500ms add 1\n"),
         story);
 }
 

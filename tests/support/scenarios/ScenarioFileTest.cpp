@@ -5,7 +5,7 @@
 namespace brindlex {
 namespace {
 
-std::string problemOf(const std::string& text)
+std::string problemOfFile(const std::string& text)
 {
     const auto file = parseScenarioFile("a.txt", text);
     return file ? "none" : file.error();
@@ -43,53 +43,53 @@ TEST(ScenarioFile, isPlayedByAllThatItDoesNotExclude)
 
 TEST(ScenarioFile, isRefusedWithoutAStep)
 {
-    EXPECT_EQ(problemOf(""), "a.txt: has no step");
-    EXPECT_EQ(problemOf("\n\n"), "a.txt: has no step");
-    EXPECT_EQ(problemOf("# A comment.\nlimit 3\n"), "a.txt: has no step");
+    EXPECT_EQ(problemOfFile(""), "a.txt: has no step");
+    EXPECT_EQ(problemOfFile("\n\n"), "a.txt: has no step");
+    EXPECT_EQ(problemOfFile("# A comment.\nlimit 3\n"), "a.txt: has no step");
 }
 
 TEST(ScenarioFile, isRefusedForATimeThatIsNone)
 {
     const std::string form = " is no time in whole milliseconds, such as 1500ms";
-    EXPECT_EQ(problemOf("1s wait\n"), "a.txt:1: \"1s\"" + form);
-    EXPECT_EQ(problemOf("# x\n\n-5ms wait\n"), "a.txt:3: \"-5ms\"" + form);
-    EXPECT_EQ(problemOf("1.5ms wait\n"), "a.txt:1: \"1.5ms\"" + form);
-    EXPECT_EQ(problemOf("10 ms wait\n"), "a.txt:1: \"10\"" + form);
-    EXPECT_EQ(problemOf("99999999999ms wait\n"), "a.txt:1: \"99999999999ms\"" + form);
+    EXPECT_EQ(problemOfFile("1s wait\n"), "a.txt:1: \"1s\"" + form);
+    EXPECT_EQ(problemOfFile("# x\n\n-5ms wait\n"), "a.txt:3: \"-5ms\"" + form);
+    EXPECT_EQ(problemOfFile("1.5ms wait\n"), "a.txt:1: \"1.5ms\"" + form);
+    EXPECT_EQ(problemOfFile("10 ms wait\n"), "a.txt:1: \"10\"" + form);
+    EXPECT_EQ(problemOfFile("99999999999ms wait\n"), "a.txt:1: \"99999999999ms\"" + form);
 }
 
 TEST(ScenarioFile, isRefusedForATimeThatGoesBack)
 {
-    EXPECT_EQ(problemOf("9ms wait\n9ms wait\n"), "none");
-    EXPECT_EQ(problemOf("9ms wait\n# x\n8ms wait\n"), "a.txt:3: goes back in time");
+    EXPECT_EQ(problemOfFile("9ms wait\n9ms wait\n"), "none");
+    EXPECT_EQ(problemOfFile("9ms wait\n# x\n8ms wait\n"), "a.txt:3: goes back in time");
 }
 
 TEST(ScenarioFile, isRefusedForAStepWithoutWords)
 {
-    EXPECT_EQ(problemOf("0ms\n"), "a.txt:1: a word is missing");
-    EXPECT_EQ(problemOf("0ms -> pass\n"), "a.txt:1: a word is missing");
+    EXPECT_EQ(problemOfFile("0ms\n"), "a.txt:1: a word is missing");
+    EXPECT_EQ(problemOfFile("0ms -> pass\n"), "a.txt:1: a word is missing");
 }
 
 TEST(ScenarioFile, isRefusedForAPreparationAfterTheFirstStep)
 {
     const std::string problem = "stands after the first step and has no time";
-    EXPECT_EQ(problemOf("0ms wait\nlimit 3\n"), "a.txt:2: " + problem);
-    EXPECT_EQ(problemOf("0ms wait\nnot on desktop: no screen\n"), "a.txt:2: " + problem);
+    EXPECT_EQ(problemOfFile("0ms wait\nlimit 3\n"), "a.txt:2: " + problem);
+    EXPECT_EQ(problemOfFile("0ms wait\nnot on desktop: no screen\n"), "a.txt:2: " + problem);
 }
 
 TEST(ScenarioFile, isRefusedForAnExclusionWithoutAReason)
 {
     const std::string problem = "lacks the player or the reason: \"not on <player>: <reason>\"";
-    EXPECT_EQ(problemOf("not on desktop\n0ms wait\n"), "a.txt:1: " + problem);
-    EXPECT_EQ(problemOf("not on desktop: \n0ms wait\n"), "a.txt:1: " + problem);
-    EXPECT_EQ(problemOf("not on : no screen\n0ms wait\n"), "a.txt:1: " + problem);
+    EXPECT_EQ(problemOfFile("not on desktop\n0ms wait\n"), "a.txt:1: " + problem);
+    EXPECT_EQ(problemOfFile("not on desktop: \n0ms wait\n"), "a.txt:1: " + problem);
+    EXPECT_EQ(problemOfFile("not on : no screen\n0ms wait\n"), "a.txt:1: " + problem);
 }
 
 TEST(ScenarioFile, isRefusedWithTheLineEndsOfOtherSystems)
 {
-    EXPECT_EQ(problemOf("# x\n0ms wait\r\n"),
+    EXPECT_EQ(problemOfFile("# x\n0ms wait\r\n"),
         "a.txt:2: ends with CR LF; the lines of scenarios end with LF alone");
-    EXPECT_EQ(problemOf("\r\n0ms wait\n"),
+    EXPECT_EQ(problemOfFile("\r\n0ms wait\n"),
         "a.txt:1: ends with CR LF; the lines of scenarios end with LF alone");
 }
 

@@ -7,7 +7,7 @@
 namespace brindlex {
 namespace {
 
-std::string problemOf(const std::string& text)
+std::string problemOfCounter(const std::string& text)
 {
     const auto scenario = parseScenario<CounterVerbs>("a.txt", text);
     return scenario ? "none" : scenario.error();
@@ -29,25 +29,25 @@ TEST(Scenario, hasTheMeaningOfItsLines)
 
 TEST(Scenario, isRefusedForWordsThatTheSubsystemDoesNotKnow)
 {
-    EXPECT_EQ(problemOf("limits 3\n0ms wait\n"), "a.txt:1: \"limits\" is unknown");
-    EXPECT_EQ(problemOf("limit three\n0ms wait\n"), "a.txt:1: \"three\" is no whole number");
-    EXPECT_EQ(problemOf("limit 3 4\n0ms wait\n"), "a.txt:1: \"4\" is one word too many");
-    EXPECT_EQ(problemOf("limit 3\n\n0ms sing -> x\n"), "a.txt:3: \"sing\" is unknown");
-    EXPECT_EQ(problemOf("limit 3\n0ms add -> x\n"), "a.txt:2: a word is missing");
-    EXPECT_EQ(
-        problemOf("limit 3\n0ms wait -> x\n1ms wait 2\n"), "a.txt:3: \"2\" is one word too many");
+    EXPECT_EQ(problemOfCounter("limits 3\n0ms wait\n"), "a.txt:1: \"limits\" is unknown");
+    EXPECT_EQ(problemOfCounter("limit three\n0ms wait\n"), "a.txt:1: \"three\" is no whole number");
+    EXPECT_EQ(problemOfCounter("limit 3 4\n0ms wait\n"), "a.txt:1: \"4\" is one word too many");
+    EXPECT_EQ(problemOfCounter("limit 3\n\n0ms sing -> x\n"), "a.txt:3: \"sing\" is unknown");
+    EXPECT_EQ(problemOfCounter("limit 3\n0ms add -> x\n"), "a.txt:2: a word is missing");
+    EXPECT_EQ(problemOfCounter("limit 3\n0ms wait -> x\n1ms wait 2\n"),
+        "a.txt:3: \"2\" is one word too many");
 }
 
 TEST(Scenario, isRefusedForWhatIsMissing)
 {
-    EXPECT_EQ(problemOf("0ms wait\n"), "a.txt: has no limit");
-    EXPECT_EQ(problemOf("limit 3\n"), "a.txt: has no step");
+    EXPECT_EQ(problemOfCounter("0ms wait\n"), "a.txt: has no limit");
+    EXPECT_EQ(problemOfCounter("limit 3\n"), "a.txt: has no step");
 }
 
 TEST(Scenario, isRefusedForTheExclusionOfAPlayerThatDoesNotExist)
 {
-    EXPECT_EQ(problemOf("not on desktop: no screen\nlimit 3\n0ms wait\n"), "none");
-    EXPECT_EQ(problemOf("limit 3\nnot on desk: no screen\n0ms wait\n"),
+    EXPECT_EQ(problemOfCounter("not on desktop: no screen\nlimit 3\n0ms wait\n"), "none");
+    EXPECT_EQ(problemOfCounter("limit 3\nnot on desk: no screen\n0ms wait\n"),
         "a.txt:2: no player is named \"desk\"");
 }
 

@@ -10,6 +10,13 @@ namespace brindlex {
 
 /// Rules and learned data in few words, for tests.
 
+inline const std::string exampleEditor = "com.example.Editor";
+
+/// When something is learned.
+inline constexpr Date today{800'000'000};
+
+inline constexpr Seconds days180 = 15'552'000;
+
 InputMethodRule appRule(const std::string& bundleID, const std::string& inputSourceID);
 
 DomainInputMethodRule websiteRule(const std::string& domain, const std::string& inputSourceID);

@@ -14,7 +14,7 @@ namespace brindlex {
 namespace {
 
 /// Time enough on any machine.
-constexpr AccessibilityLimits patience{std::chrono::seconds(20), std::chrono::minutes(1)};
+constexpr AccessibilityLimits patientLimits{std::chrono::seconds(20), std::chrono::minutes(1)};
 
 using Lines = std::vector<std::string>;
 
@@ -36,7 +36,7 @@ TEST(AccessibilityBus, knowsTheProgramsAndTheirProcesses)
 {
     const VirtualDesktop desktop({.windowManager = false, .accessibility = true});
     const FakeBrowser browser;
-    AccessibilityBus bus(patience);
+    AccessibilityBus bus(patientLimits);
     ASSERT_TRUE(bus.begin());
 
     const auto applications = bus.applications();
@@ -51,7 +51,7 @@ TEST(AccessibilityBus, isAbsentWhereItIsOffWhichIsLoggedOnce)
 {
     const VirtualDesktop desktop({.windowManager = false});
     const RecordedLog log;
-    AccessibilityBus bus(patience);
+    AccessibilityBus bus(patientLimits);
 
     for (int attempt = 0; attempt < 3; ++attempt)
         EXPECT_FALSE(bus.begin());
@@ -61,7 +61,7 @@ TEST(AccessibilityBus, isAbsentWhereItIsOffWhichIsLoggedOnce)
 TEST(AccessibilityBus, startsNoService)
 {
     const VirtualDesktop desktop({.windowManager = false});
-    AccessibilityBus bus(patience);
+    AccessibilityBus bus(patientLimits);
     bus.begin();
 
     EXPECT_FALSE(BusConnection().hasOwner("org.a11y.Bus"));
@@ -71,7 +71,7 @@ TEST(AccessibilityBus, isAbsentWithoutASessionBus)
 {
     const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
     const RecordedLog log;
-    AccessibilityBus bus(patience);
+    AccessibilityBus bus(patientLimits);
 
     EXPECT_FALSE(bus.begin());
     EXPECT_EQ(log.lines(), Lines{absent});
@@ -80,7 +80,7 @@ TEST(AccessibilityBus, isAbsentWithoutASessionBus)
 TEST(AccessibilityBus, connectsOnceItIsThere)
 {
     const VirtualDesktop desktop({.windowManager = false});
-    AccessibilityBus bus(patience);
+    AccessibilityBus bus(patientLimits);
     ASSERT_FALSE(bus.begin());
     ASSERT_EQ(run({.command = {"dbus-send", "--session", "--print-reply", "--dest=org.a11y.Bus",
                        "/org/a11y/bus", "org.a11y.Bus.GetAddress"}},
@@ -98,7 +98,7 @@ TEST(AccessibilityBus, saysOnceThatProgramsOfferNothingWhileItIsOff)
                   usualDeadline),
         (ProcessEnd{0, {}}));
     const RecordedLog log;
-    AccessibilityBus bus(patience);
+    AccessibilityBus bus(patientLimits);
 
     EXPECT_TRUE(eventually([&] { return bus.begin(); }));
     EXPECT_TRUE(bus.begin());
@@ -116,7 +116,7 @@ TEST(AccessibilityBus, saysOnceThatProgramsOfferNothingWhileItIsOff)
 TEST(AccessibilityBus, connectsAgainAfterTheBusWasRestarted)
 {
     const VirtualDesktop desktop({.windowManager = false, .accessibility = true});
-    AccessibilityBus bus(patience);
+    AccessibilityBus bus(patientLimits);
     {
         const FakeBrowser browser;
         ASSERT_EQ(programs(bus), 1U);

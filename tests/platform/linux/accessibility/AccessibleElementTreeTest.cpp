@@ -14,10 +14,8 @@
 namespace brindlex {
 namespace {
 
-using Behaviour = FakeElements::Behaviour;
-
-constexpr Seconds patience = 20;
-constexpr Point centre{200, 150};
+constexpr Seconds deskPatience = 20;
+constexpr Point deskCentre{200, 150};
 
 const std::vector<FakeElements::Element> dividedWindow{
     {23, "frame", "", {{50, 50}, {300, 200}}, -1},
@@ -27,7 +25,7 @@ const std::vector<FakeElements::Element> dividedWindow{
 
 /// A desktop with a window of a program whose elements are read.
 struct ElementDesk {
-    explicit ElementDesk(std::optional<std::uint32_t> process = {}, Seconds time = patience)
+    explicit ElementDesk(std::optional<std::uint32_t> process = {}, Seconds time = deskPatience)
         : window(
             server, {.process = process.value_or(static_cast<std::uint32_t>(program.process()))}),
           tree(connection, queue, time)
@@ -37,10 +35,10 @@ struct ElementDesk {
 
     std::optional<std::string> roleAt(Point point)
     {
-        const auto element = tree.elementAt(point, patience);
+        const auto element = tree.elementAt(point, deskPatience);
         if (!element)
             return {};
-        element->setMessagingTimeout(patience);
+        element->setMessagingTimeout(deskPatience);
         return element->role();
     }
 
@@ -58,19 +56,19 @@ TEST(AccessibleElementTree, findsTheDividerOfASplitView)
     ElementDesk desk;
     desk.program.offer(dividedWindow);
 
-    EXPECT_EQ(desk.roleAt(centre), "AXSplitter");
+    EXPECT_EQ(desk.roleAt(deskCentre), "AXSplitter");
     EXPECT_EQ(desk.roleAt({100, 100}), "AXGroup");
 }
 
 TEST(AccessibleElementTree, findsElementsOfProgramsThatDoNotKnowWhereTheirWindowIs)
 {
     ElementDesk desk;
-    desk.program.offer(dividedWindow, Behaviour::ofWindow);
+    desk.program.offer(dividedWindow, FakeElements::Behaviour::ofWindow);
 
-    const auto element = desk.tree.elementAt({100, 100}, patience);
+    const auto element = desk.tree.elementAt({100, 100}, deskPatience);
 
     ASSERT_TRUE(element);
-    element->setMessagingTimeout(patience);
+    element->setMessagingTimeout(deskPatience);
     EXPECT_EQ(element->role(), "AXGroup");
     EXPECT_EQ(element->position(), (Point{50, 50}));
     EXPECT_EQ(element->size(), (Size{140, 200}));
@@ -86,7 +84,7 @@ TEST(AccessibleElementTree, takesOfSeveralWindowsTheOneThatLiesThere)
         {7, "check box", "", {{190, 140}, {20, 20}}, 1},
     });
 
-    EXPECT_EQ(desk.roleAt(centre), "AXCheckBox");
+    EXPECT_EQ(desk.roleAt(deskCentre), "AXCheckBox");
 }
 
 TEST(AccessibleElementTree, knowsNothingOfTheDesktopItself)
@@ -94,40 +92,40 @@ TEST(AccessibleElementTree, knowsNothingOfTheDesktopItself)
     ElementDesk desk;
     desk.program.offer(dividedWindow);
 
-    EXPECT_EQ(desk.tree.elementAt({900, 600}, patience), nullptr);
-    EXPECT_EQ(desk.tree.elementAt({-5, 1e9}, patience), nullptr);
+    EXPECT_EQ(desk.tree.elementAt({900, 600}, deskPatience), nullptr);
+    EXPECT_EQ(desk.tree.elementAt({-5, 1e9}, deskPatience), nullptr);
 }
 
 TEST(AccessibleElementTree, doesNotAskItsOwnProcess)
 {
     ElementDesk desk(static_cast<std::uint32_t>(getpid()));
 
-    EXPECT_EQ(desk.tree.elementAt(centre, patience), nullptr);
+    EXPECT_EQ(desk.tree.elementAt(deskCentre, deskPatience), nullptr);
 }
 
 TEST(AccessibleElementTree, survivesProgramsThatReplyNonsense)
 {
     ElementDesk desk;
-    desk.program.offer(dividedWindow, Behaviour::garbage);
-    EXPECT_EQ(desk.roleAt(centre), std::nullopt);
+    desk.program.offer(dividedWindow, FakeElements::Behaviour::garbage);
+    EXPECT_EQ(desk.roleAt(deskCentre), std::nullopt);
 
-    desk.program.offer(dividedWindow, Behaviour::circular);
-    EXPECT_EQ(desk.roleAt(centre), "AXWindow");
+    desk.program.offer(dividedWindow, FakeElements::Behaviour::circular);
+    EXPECT_EQ(desk.roleAt(deskCentre), "AXWindow");
 
-    desk.program.offer(dividedWindow, Behaviour::huge);
-    const auto element = desk.tree.elementAt({100, 100}, patience);
+    desk.program.offer(dividedWindow, FakeElements::Behaviour::huge);
+    const auto element = desk.tree.elementAt({100, 100}, deskPatience);
     ASSERT_TRUE(element);
-    element->setMessagingTimeout(patience);
+    element->setMessagingTimeout(deskPatience);
     EXPECT_EQ(element->roleDescription(), std::string(64, 'x'));
 }
 
 TEST(AccessibleElementTree, waitsForAllRepliesTogetherNoLongerThanItsTime)
 {
     ElementDesk desk({}, 0.06);
-    desk.program.offer(dividedWindow, Behaviour::silent);
+    desk.program.offer(dividedWindow, FakeElements::Behaviour::silent);
     const auto before = std::chrono::steady_clock::now();
 
-    const auto element = desk.tree.elementAt(centre, patience);
+    const auto element = desk.tree.elementAt(deskCentre, deskPatience);
 
     EXPECT_EQ(element, nullptr);
     // 0.06 s, on a machine that may be busy.
@@ -143,10 +141,10 @@ TEST(AccessibleElementTree, isEmptyWithoutAnAccessibilityBusWhichIsLoggedOnce)
     window.show();
     X11Connection connection;
     SerialQueue queue("elements");
-    AccessibleElementTree tree(connection, queue, patience);
+    AccessibleElementTree tree(connection, queue, deskPatience);
 
     for (int attempt = 0; attempt < 3; ++attempt)
-        EXPECT_EQ(tree.elementAt(centre, patience), nullptr);
+        EXPECT_EQ(tree.elementAt(deskCentre, deskPatience), nullptr);
 
     EXPECT_EQ(log.lines(),
         std::vector<std::string>{"INFO [mouse] No accessibility bus: the dividers of split views "

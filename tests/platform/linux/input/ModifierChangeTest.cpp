@@ -22,7 +22,7 @@ constexpr std::array held{HeldModifier{eventFlag::shift, 50, 62},
     HeldModifier{eventFlag::command, 133, 134}};
 
 /// An ordinary keyboard on which these keys are down.
-ModifierState keyboard(const Keys& down, bool isCapsLockOn = false)
+ModifierState keyboardWith(const Keys& down, bool isCapsLockOn = false)
 {
     ModifierState state{.keysOf = {{{50, 62, 0}, {66, 0, 0}, {37, 105, 0}, {64, 108, 205},
                             {77, 0, 0}, {203, 0, 0}, {133, 134, 206}, {92, 0, 0}}},
@@ -57,7 +57,7 @@ TEST(ModifierChange, pressesWhatIsMissingAndReleasesWhatIsTooMuch)
                 if (!isDown && isWanted)
                     expected.presses.push_back(held[index].left);
             }
-            EXPECT_EQ(changeToHold(flagsOf(wanted), keyboard(down)), expected)
+            EXPECT_EQ(changeToHold(flagsOf(wanted), keyboardWith(down)), expected)
                 << before << " " << wanted;
         }
 }
@@ -65,8 +65,8 @@ TEST(ModifierChange, pressesWhatIsMissingAndReleasesWhatIsTooMuch)
 TEST(ModifierChange, countsEitherKeyOfAModifier)
 {
     for (const auto& modifier : held) {
-        const auto right = keyboard({modifier.right});
-        const auto both = keyboard({modifier.right, modifier.left});
+        const auto right = keyboardWith({modifier.right});
+        const auto both = keyboardWith({modifier.right, modifier.left});
         EXPECT_EQ(changeToHold(modifier.flag, right), ModifierChange{});
         EXPECT_EQ(changeToHold(0, right), (ModifierChange{.releases = {modifier.right}}));
         EXPECT_EQ(changeToHold(modifier.flag, both), ModifierChange{});
@@ -77,19 +77,21 @@ TEST(ModifierChange, countsEitherKeyOfAModifier)
 
 TEST(ModifierChange, switchesCapsLockOffAndNeverOn)
 {
-    EXPECT_EQ(changeToHold(0, keyboard({}, true)), (ModifierChange{.switchesCapsLockOff = true}));
-    EXPECT_EQ(changeToHold(eventFlag::capsLock, keyboard({}, true)), ModifierChange{});
-    EXPECT_EQ(changeToHold(eventFlag::capsLock, keyboard({}, false)), ModifierChange{});
-    EXPECT_EQ(changeToHold(0, keyboard({}, false)), ModifierChange{});
+    EXPECT_EQ(
+        changeToHold(0, keyboardWith({}, true)), (ModifierChange{.switchesCapsLockOff = true}));
+    EXPECT_EQ(changeToHold(eventFlag::capsLock, keyboardWith({}, true)), ModifierChange{});
+    EXPECT_EQ(changeToHold(eventFlag::capsLock, keyboardWith({}, false)), ModifierChange{});
+    EXPECT_EQ(changeToHold(0, keyboardWith({}, false)), ModifierChange{});
 }
 
 TEST(ModifierChange, leavesKeysThatHoldNoneOfTheFour)
 {
     // Caps Lock, Num Lock, one of the layout's own modifiers, the key for the third level, a letter
     // and the numbers at the ends.
-    const auto state = keyboard({66, 77, 203, 92, 38, 0, 8, 255});
+    const auto state = keyboardWith({66, 77, 203, 92, 38, 0, 8, 255});
     for (unsigned wanted = 0; wanted < 16; ++wanted)
-        EXPECT_EQ(changeToHold(flagsOf(wanted), state), changeToHold(flagsOf(wanted), keyboard({})))
+        EXPECT_EQ(
+            changeToHold(flagsOf(wanted), state), changeToHold(flagsOf(wanted), keyboardWith({})))
             << wanted;
     EXPECT_EQ(changeToHold(0, state), ModifierChange{});
 }
@@ -97,7 +99,8 @@ TEST(ModifierChange, leavesKeysThatHoldNoneOfTheFour)
 TEST(ModifierChange, doesNotCareForFlagsOfOtherKinds)
 {
     const auto others = ~(eventFlag::modifiers | eventFlag::capsLock);
-    EXPECT_EQ(changeToHold(others, keyboard({50}, true)), changeToHold(0, keyboard({50}, true)));
+    EXPECT_EQ(
+        changeToHold(others, keyboardWith({50}, true)), changeToHold(0, keyboardWith({50}, true)));
 }
 
 TEST(ModifierChange, pressesTheFirstKeyThatIsOne)

@@ -18,13 +18,13 @@ namespace {
 using Lines = std::vector<std::string>;
 
 constexpr std::array buttons{1, 2, 3, 8, 9};
-constexpr std::array keys{keycode::control, keycode::a, keycode::s, keycode::d, keycode::shift,
-    keycode::alt, keycode::super};
+constexpr std::array playedKeys{keycode::control, keycode::a, keycode::s, keycode::d,
+    keycode::shift, keycode::alt, keycode::super};
 constexpr EventMask wheel = eventMask(EventType::scrollWheel);
-constexpr EventMask keyboard = keyMask | eventMask(EventType::flagsChanged);
+constexpr EventMask keyboardMask = keyMask | eventMask(EventType::flagsChanged);
 constexpr std::array masks{mouseButtonMaskOf(0) | mouseButtonMaskOf(1) | wheel,
-    mouseButtonMaskOf(2), wheel, eventMask(EventType::keyDown), keyboard,
-    mouseButtonMask | wheel | keyboard};
+    mouseButtonMaskOf(2), wheel, eventMask(EventType::keyDown), keyboardMask,
+    mouseButtonMask | wheel | keyboardMask};
 
 /// Two mice and a keyboard in the hands of somebody who does anything at all, in front of
 /// subscribers that come and go, swallow as they like and post.
@@ -121,7 +121,7 @@ private:
 
     void pressOrReleaseKey()
     {
-        const auto key = keys[static_cast<std::size_t>(number(keys.size()))];
+        const auto key = playedKeys[static_cast<std::size_t>(number(playedKeys.size()))];
         if (heldKeys_.erase(key) != 0) {
             desktop.keyboard.release(key);
         } else {

@@ -6,7 +6,7 @@
 namespace brindlex {
 namespace {
 
-constexpr EventMask keys = eventMask(EventType::keyDown);
+constexpr EventMask keyDowns = eventMask(EventType::keyDown);
 const Event keyDown{EventType::keyDown, {}, 0, {}};
 
 class TapChainTest : public testing::Test {
@@ -14,7 +14,7 @@ protected:
     std::unique_ptr<EventTap> add(const std::string& name, EventVerdict verdict)
     {
         auto tap = chain_.add(
-            keys, {{keys, {}}},
+            keyDowns, {{keyDowns, {}}},
             [this, name, verdict](const Event&) {
                 seen_ += name;
                 return verdict;
@@ -51,7 +51,7 @@ TEST_F(TapChainTest, tellsOfEveryChangeOfWhatIsWanted)
 {
     auto tap = add("a", EventVerdict::pass);
     EXPECT_EQ(changes_, 1);
-    EXPECT_EQ(chain_.interests(), (std::vector<EventInterest>{{keys, {}}}));
+    EXPECT_EQ(chain_.interests(), (std::vector<EventInterest>{{keyDowns, {}}}));
 
     tap->setInterests({});
     EXPECT_EQ(changes_, 2);
@@ -59,7 +59,7 @@ TEST_F(TapChainTest, tellsOfEveryChangeOfWhatIsWanted)
     tap->setEnabled(false);
     tap->setEnabled(false);
     EXPECT_EQ(changes_, 3);
-    tap->setInterests({{keys, {}}});
+    tap->setInterests({{keyDowns, {}}});
     tap.reset();
     EXPECT_EQ(changes_, 3);
 }
@@ -73,7 +73,7 @@ TEST_F(TapChainTest, switchesOffOnlyWhatIsOn)
     chain_.switchOff(EventType::tapDisabledByTimeout);
 
     EXPECT_EQ(seen_, "a");
-    EXPECT_FALSE(chain_.sees(keys));
+    EXPECT_FALSE(chain_.sees(keyDowns));
 }
 
 } // namespace

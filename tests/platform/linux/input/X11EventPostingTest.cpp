@@ -14,12 +14,12 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-constexpr std::int64_t tag = 0x4D4F534547535452;
+constexpr std::int64_t ownTag = 0x4D4F534547535452;
 
 SyntheticEvent button(EventType type, std::int64_t number, std::optional<Point> location = {})
 {
     return {type, location, {},
-        {{EventField::mouseEventButtonNumber, number}, {EventField::eventSourceUserData, tag}}};
+        {{EventField::mouseEventButtonNumber, number}, {EventField::eventSourceUserData, ownTag}}};
 }
 
 SyntheticEvent key(EventType type, std::int64_t code, std::optional<std::uint64_t> flags)
@@ -71,7 +71,7 @@ TEST_F(X11EventPostingContract, showsTheEventToTheOwnTapsFirstWithAllItsFields)
 
     EXPECT_TRUE(desktop_.receives({"press 1", "release 1"}));
     const EventFields fields{
-        {EventField::mouseEventButtonNumber, 3}, {EventField::eventSourceUserData, tag}};
+        {EventField::mouseEventButtonNumber, 3}, {EventField::eventSourceUserData, ownTag}};
     EXPECT_EQ(seen,
         (std::vector<Event>{{EventType::otherMouseDown, {10, 20}, 0, fields},
             {EventType::otherMouseUp, {10, 20}, 0, fields}}));

@@ -12,7 +12,7 @@ namespace {
 using Key = X11InputEvent::Key;
 
 constexpr Point place{200, 100};
-constexpr std::uint16_t keyboard = 12;
+constexpr std::uint16_t keyboardDevice = 12;
 
 const std::map<std::uint8_t, std::uint64_t> flagsOfModifierKeys{{37, eventFlag::control},
     {105, eventFlag::control}, {50, eventFlag::shift}, {62, eventFlag::shift},
@@ -24,10 +24,10 @@ TEST(X11KeyEvent, isAPressOrAReleaseForEveryKeyButTheModifiers)
     for (int code = 0; code < 256; ++code) {
         const auto keycode = static_cast<std::uint8_t>(code);
         const bool isModifier = flagsOfModifierKeys.contains(keycode);
-        EXPECT_EQ(eventTypeOf({keyboard, keycode, true, false}),
+        EXPECT_EQ(eventTypeOf({keyboardDevice, keycode, true, false}),
             isModifier ? EventType::flagsChanged : EventType::keyDown)
             << code;
-        EXPECT_EQ(eventTypeOf({keyboard, keycode, false, false}),
+        EXPECT_EQ(eventTypeOf({keyboardDevice, keycode, false, false}),
             isModifier ? EventType::flagsChanged : EventType::keyUp)
             << code;
     }
@@ -41,10 +41,10 @@ TEST(X11KeyEvent, hasTheFlagsThatWereHeldBeforeIt)
         if (flagsOfModifierKeys.contains(keycode))
             continue;
         const EventFields fields{{EventField::keyboardEventKeycode, virtualKeyCode(keycode)}};
-        EXPECT_EQ(eventOf({keyboard, keycode, true, false}, {place, held}),
+        EXPECT_EQ(eventOf({keyboardDevice, keycode, true, false}, {place, held}),
             (Event{EventType::keyDown, place, held, fields}))
             << code;
-        EXPECT_EQ(eventOf({keyboard, keycode, false, false}, {place, held}),
+        EXPECT_EQ(eventOf({keyboardDevice, keycode, false, false}, {place, held}),
             (Event{EventType::keyUp, place, held, fields}))
             << code;
     }
@@ -57,14 +57,14 @@ TEST(X11KeyEvent, countsAModifierFromItsOwnEventOn)
         if (flag == eventFlag::capsLock)
             continue;
         const EventFields fields{{EventField::keyboardEventKeycode, virtualKeyCode(keycode)}};
-        const auto press = eventOf({keyboard, keycode, true, false}, {place, 0});
+        const auto press = eventOf({keyboardDevice, keycode, true, false}, {place, 0});
         EXPECT_EQ(press, (Event{EventType::flagsChanged, place, flag, fields})) << int{keycode};
-        const auto release = eventOf({keyboard, keycode, false, false}, {place, all});
+        const auto release = eventOf({keyboardDevice, keycode, false, false}, {place, all});
         EXPECT_EQ(release, (Event{EventType::flagsChanged, place, all & ~flag, fields}))
             << int{keycode};
         // The second of two presses, and a release of what is not held.
-        EXPECT_EQ(eventOf({keyboard, keycode, true, false}, {place, all}).flags, all);
-        EXPECT_EQ(eventOf({keyboard, keycode, false, false}, {place, 0}).flags, 0U);
+        EXPECT_EQ(eventOf({keyboardDevice, keycode, true, false}, {place, all}).flags, all);
+        EXPECT_EQ(eventOf({keyboardDevice, keycode, false, false}, {place, 0}).flags, 0U);
     }
 }
 
@@ -73,7 +73,7 @@ TEST(X11KeyEvent, leavesCapsLockToTheServerWhichSwitchesIt)
     constexpr std::uint8_t capsLock = 66;
     for (const bool isPress : {true, false})
         for (const std::uint64_t flags : {std::uint64_t{0}, eventFlag::capsLock})
-            EXPECT_EQ(eventOf({keyboard, capsLock, isPress, false}, {place, flags}),
+            EXPECT_EQ(eventOf({keyboardDevice, capsLock, isPress, false}, {place, flags}),
                 (Event{EventType::flagsChanged, place, flags,
                     {{EventField::keyboardEventKeycode, 57}}}));
 }
@@ -82,7 +82,7 @@ TEST(X11KeyEvent, saysThatItIsARepeat)
 {
     const EventFields fields{
         {EventField::keyboardEventKeycode, 0}, {EventField::keyboardEventAutorepeat, 1}};
-    EXPECT_EQ(eventOf({keyboard, 38, true, true}, {place, eventFlag::option}),
+    EXPECT_EQ(eventOf({keyboardDevice, 38, true, true}, {place, eventFlag::option}),
         (Event{EventType::keyDown, place, eventFlag::option, fields}));
 }
 

@@ -1,7 +1,7 @@
 #include "platform/linux/inputsources/DesktopInputSourcesSteps.h"
 
+#include "platform/linux/system/SessionBus.h"
 #include "support/bus/BusCalls.h"
-#include "support/bus/SessionBus.h"
 #include "support/daemons/FcitxDaemon.h"
 #include "support/screen/DesktopWindows.h"
 #include "support/windows/PlainWindow.h"
@@ -19,9 +19,9 @@ const std::vector<std::string> fcitxMethods{"keyboard-us", "pinyin"};
 TEST(DesktopInputSources, findsFcitxAgainAfterItWasKilled)
 {
     VirtualDesktop desktop;
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     EXPECT_EQ(sources.backendName(), "XKB");
     FcitxDaemon daemon(desktop, fcitxMethods);
     EXPECT_TRUE(becomes(sources, "Fcitx 5"));
@@ -40,9 +40,9 @@ TEST(DesktopInputSources, asksFcitxForNothingWhileNobodyObserves)
     const XConnection server;
     const DesktopWindows windows(server);
     const TypingWindow window(windows, "Typing");
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     ASSERT_TRUE(becomes(sources, "Fcitx 5"));
     std::vector<SelectionCause> causes;
     const auto observe = [&] {
@@ -79,9 +79,9 @@ TEST(DesktopInputSources, doesNotHangWithAnFcitxThatHangs)
     const TypingWindow window(windows, "Typing");
     const auto process = processOf(desktop, "fcitx5");
     ASSERT_GT(process, 0);
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     ASSERT_TRUE(becomes(sources, "Fcitx 5"));
     ASSERT_TRUE(loopUntil([&] { return !currentID(sources).empty(); }));
     ::kill(process, SIGSTOP);
@@ -96,9 +96,9 @@ TEST(DesktopInputSources, goesOnWithTheServersGroupsWhenTheBusEnds)
 {
     VirtualDesktop desktop({.keyboardLayouts = "us,de"});
     FcitxDaemon daemon(desktop, fcitxMethods);
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     ASSERT_TRUE(becomes(sources, "Fcitx 5"));
     desktop.endSessionBus();
     EXPECT_TRUE(becomes(sources, "XKB"));
@@ -135,7 +135,7 @@ protected:
     DesktopWindows windows_{server_};
     SessionBus bus_;
     X11Connection connection_;
-    DesktopInputSources sources_{connection_, bus_.get()};
+    DesktopInputSources sources_{connection_, bus_.connection()};
 };
 
 TEST_F(InputSourcesOfFcitx, takeASelectionBeforeAnyWindowTypes)

@@ -1,7 +1,7 @@
 #include "platform/linux/inputsources/DesktopInputSourcesSteps.h"
 
+#include "platform/linux/system/SessionBus.h"
 #include "support/basics/RecordedLog.h"
-#include "support/bus/SessionBus.h"
 #include "support/daemons/IBusDaemon.h"
 #include "support/hardware/KeyboardGroup.h"
 #include "support/hardware/PlayedInput.h"
@@ -23,10 +23,10 @@ const std::vector<std::string> ibusEngines{"xkb:us::eng", "libpinyin"};
 TEST(DesktopInputSources, findsIBusAgainAfterItWasKilled)
 {
     VirtualDesktop desktop({.keyboardLayouts = "us,de"});
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
     RecordedLog log;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     EXPECT_EQ(sources.backendName(), "XKB");
     IBusDaemon daemon(desktop, ibusEngines);
     EXPECT_TRUE(becomes(sources, "IBus"));
@@ -56,9 +56,9 @@ TEST(DesktopInputSources, readsKeysOfAnEngineWithItsLayout)
     VirtualDesktop desktop({.keyboardLayouts = "us,de"});
     IBusDaemon daemon(desktop, {"xkb:us::eng", "xkb:de::deu", "libpinyin"});
     const XConnection server;
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     ASSERT_TRUE(becomes(sources, "IBus"));
     EXPECT_EQ(selectID(sources, "xkb:de::deu"), 0);
     EXPECT_EQ(keyboardGroup(server), 1);
@@ -70,9 +70,9 @@ TEST(DesktopInputSources, leavesAnIBusWithOnePlainLayoutAlone)
 {
     VirtualDesktop desktop({.keyboardLayouts = "us,de"});
     IBusDaemon daemon(desktop, {"xkb:us::eng"});
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     EXPECT_TRUE(loopThroughout(200ms, [&] { return sources.backendName() == "XKB"; }));
 }
 
@@ -83,9 +83,9 @@ TEST(DesktopInputSources, isNotMisledByAnAddressFileThatWasLeftBehind)
         IBusDaemon daemon(desktop, ibusEngines);
         daemon.stop();
     }
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     EXPECT_EQ(sources.backendName(), "XKB");
     EXPECT_EQ(selectID(sources, "xkb:de::deu"), 0);
 }
@@ -96,15 +96,15 @@ TEST(DesktopInputSources, doesNotHangWithAnIBusThatHangs)
     IBusDaemon daemon(desktop, ibusEngines);
     const auto process = processOf(desktop, "ibus-daemon");
     ASSERT_GT(process, 0);
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     ASSERT_TRUE(becomes(sources, "IBus"));
     ::kill(process, SIGSTOP);
     EXPECT_TRUE(isBounded([&] { selectID(sources, "ibus:libpinyin"); }));
     EXPECT_TRUE(isBounded([&] { currentID(sources); }));
     {
-        DesktopInputSources late(connection, bus.get());
+        DesktopInputSources late(connection, bus.connection());
         EXPECT_EQ(late.backendName(), "XKB");
         ::kill(process, SIGCONT);
         EXPECT_TRUE(becomes(late, "IBus"));
@@ -118,9 +118,9 @@ TEST(DesktopInputSources, takesAnEngineThatIsRefusedLateForNobodysChoice)
     IBusDaemon daemon(desktop, ibusEngines);
     ASSERT_TRUE(daemon.select("xkb:us::eng"));
     const auto process = processOf(desktop, "ibus-daemon");
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     ASSERT_TRUE(becomes(sources, "IBus"));
     ASSERT_TRUE(loopUntil([&] { return currentID(sources) == "xkb:us::eng"; }));
     std::vector<std::pair<std::string, SelectionCause>> notified;
@@ -145,9 +145,9 @@ TEST(DesktopInputSources, hasTheEnginesThatAreEnabledAsGnomeDoes)
     VirtualDesktop desktop({.keyboardLayouts = "us,de"});
     const auto daemon
         = IBusDaemon::inGnome(desktop, "[('xkb', 'de'), ('ibus', 'libpinyin'), ('xkb', 'zz')]");
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     ASSERT_TRUE(becomes(sources, "IBus"));
     EXPECT_EQ(idsOf(sources), (std::vector<std::string>{"xkb:de::deu", "ibus:libpinyin"}));
     EXPECT_EQ(selectID(sources, "ibus:libpinyin"), 0);
@@ -169,9 +169,9 @@ TEST(DesktopInputSources, endsInTheLastOfTwoEnginesWhenTheFirstHasToStart)
     const DesktopWindows windows(server);
     const TypingWindow first(windows, "First");
     const TypingWindow second(windows, "Second");
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     ASSERT_TRUE(becomes(sources, "IBus"));
     // By the user, so that nothing that was requested is still on its way.
     ASSERT_TRUE(daemon.select("xkb:us::eng"));

@@ -1,7 +1,7 @@
 #include "platform/linux/inputsources/DesktopInputSourcesSteps.h"
 
+#include "platform/linux/system/SessionBus.h"
 #include "support/basics/RecordedLog.h"
-#include "support/bus/SessionBus.h"
 #include "support/hardware/KeyboardGroup.h"
 
 #include <gtest/gtest.h>
@@ -17,9 +17,9 @@ TEST(DesktopInputSources, followsLayoutsThatAreSetWhileItRuns)
 {
     VirtualDesktop desktop({.keyboardLayouts = "us,de"});
     const XConnection server;
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     EXPECT_EQ(idsOf(sources), (std::vector<std::string>{"xkb:us::eng", "xkb:de::deu"}));
     int notifications = 0;
     const auto subscription
@@ -38,9 +38,9 @@ TEST(DesktopInputSources, distinguishesTwoGroupsWithTheSameLayout)
 {
     const VirtualDesktop desktop({.keyboardLayouts = "us,de,us"});
     const XConnection server;
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     EXPECT_EQ(
         idsOf(sources), (std::vector<std::string>{"xkb:us::eng", "xkb:de::deu", "xkb:us::eng#2"}));
     EXPECT_EQ(selectID(sources, "xkb:us::eng#2"), 0);
@@ -53,9 +53,9 @@ TEST(DesktopInputSources, distinguishesTwoGroupsWithTheSameLayout)
 TEST(DesktopInputSources, acceptsTheOtherCodeOfALanguage)
 {
     const VirtualDesktop desktop({.keyboardLayouts = "us,de"});
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     EXPECT_EQ(selectID(sources, "xkb:de::ger"), 0);
     EXPECT_EQ(currentID(sources), "xkb:de::deu");
 }
@@ -63,10 +63,10 @@ TEST(DesktopInputSources, acceptsTheOtherCodeOfALanguage)
 TEST(DesktopInputSources, worksWithoutASessionBus)
 {
     const VirtualDesktop desktop({.keyboardLayouts = "us,de", .sessionBus = false});
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
     RecordedLog log;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     EXPECT_EQ(sources.backendName(), "XKB");
     EXPECT_EQ(selectID(sources, "xkb:de::deu"), 0);
     EXPECT_EQ(currentID(sources), "xkb:de::deu");
@@ -77,9 +77,9 @@ TEST(DesktopInputSources, worksWithoutASessionBus)
 TEST(DesktopInputSources, saysNothingOnceTheServerHasGone)
 {
     VirtualDesktop desktop({.sessionBus = false});
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     const auto german = sources.list({.id = "xkb:de::deu"}).value().at(0);
     desktop.endDisplayServer();
     EXPECT_TRUE(loopUntil([&] { return !connection.isAlive(); }));
@@ -91,9 +91,9 @@ TEST(DesktopInputSources, saysNothingOnceTheServerHasGone)
 TEST(DesktopInputSources, startsNoDaemonByAsking)
 {
     const VirtualDesktop desktop;
-    const SessionBus bus;
+    SessionBus bus;
     X11Connection connection;
-    DesktopInputSources sources(connection, bus.get());
+    DesktopInputSources sources(connection, bus.connection());
     EXPECT_TRUE(loopThroughout(300ms, [&] {
         return sources.backendName() == "XKB" && processOf(desktop, "ibus-daemon") == -1
             && processOf(desktop, "fcitx5") == -1;

@@ -5,12 +5,12 @@
 namespace brindlex {
 namespace {
 
-using Windows = std::vector<std::uint32_t>;
+using WindowNumbers = std::vector<std::uint32_t>;
 
 TEST(RecentWindows, keepsTheGivenOrderOfWindowsThatWereNeverUsed)
 {
-    EXPECT_EQ(RecentWindows().ordered({3, 1, 2}), (Windows{3, 1, 2}));
-    EXPECT_EQ(RecentWindows().ordered({}), Windows{});
+    EXPECT_EQ(RecentWindows().ordered({3, 1, 2}), (WindowNumbers{3, 1, 2}));
+    EXPECT_EQ(RecentWindows().ordered({}), WindowNumbers{});
 }
 
 TEST(RecentWindows, putsTheLastUsedFirst)
@@ -19,7 +19,7 @@ TEST(RecentWindows, putsTheLastUsedFirst)
     for (const auto window : {1U, 2U, 3U, 1U})
         recent.note(window);
 
-    EXPECT_EQ(recent.ordered({2, 9, 3, 8, 1}), (Windows{1, 3, 2, 9, 8}));
+    EXPECT_EQ(recent.ordered({2, 9, 3, 8, 1}), (WindowNumbers{1, 3, 2, 9, 8}));
 }
 
 TEST(RecentWindows, namesNoneThatHasGone)
@@ -28,7 +28,7 @@ TEST(RecentWindows, namesNoneThatHasGone)
     recent.note(1);
     recent.note(2);
 
-    EXPECT_EQ(recent.ordered({1}), Windows{1});
+    EXPECT_EQ(recent.ordered({1}), WindowNumbers{1});
 }
 
 TEST(RecentWindows, takesNoneForNoWindow)
@@ -37,7 +37,7 @@ TEST(RecentWindows, takesNoneForNoWindow)
     recent.note(1);
     recent.note(0);
 
-    EXPECT_EQ(recent.ordered({0, 1}), (Windows{1, 0}));
+    EXPECT_EQ(recent.ordered({0, 1}), (WindowNumbers{1, 0}));
 }
 
 TEST(RecentWindows, forgetsAllButTheLast256)
@@ -46,7 +46,7 @@ TEST(RecentWindows, forgetsAllButTheLast256)
     for (std::uint32_t window = 1; window <= 257; ++window)
         recent.note(window);
 
-    EXPECT_EQ(recent.ordered({500, 1, 2}), (Windows{2, 500, 1}));
+    EXPECT_EQ(recent.ordered({500, 1, 2}), (WindowNumbers{2, 500, 1}));
 }
 
 } // namespace

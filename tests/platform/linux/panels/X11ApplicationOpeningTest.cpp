@@ -1,7 +1,7 @@
 #include "platform/linux/panels/X11ApplicationOpening.h"
 
+#include "platform/linux/system/SessionBus.h"
 #include "support/basics/RecordedLog.h"
-#include "support/bus/SessionBus.h"
 #include "support/hardware/PlayedInput.h"
 #include "support/loops/LoopUntil.h"
 #include "support/screen/DesktopWindows.h"
@@ -20,13 +20,13 @@ namespace {
 
 using namespace std::chrono_literals;
 
-const std::filesystem::path missionControl = "/System/Applications/Mission Control.app";
+const std::filesystem::path overviewApplication = "/System/Applications/Mission Control.app";
 
 /// The shell of a desktop with an overview, which notes what it is told.
 class FakeShell : public QDBusVirtualObject {
 public:
     FakeShell(const QStringList& names, const QStringList& paths)
-        : bus_(session_.get()), names_(names)
+        : bus_(session_.connection()), names_(names)
     {
         for (const auto& path : paths)
             EXPECT_TRUE(bus_.registerVirtualObject(path, this));
@@ -93,13 +93,13 @@ TEST_F(X11ApplicationOpeningTest, opensTheListFromTheLoopAndClosesItTheNextTime)
 {
     const PlainWindow window(server, {.wmClass = wmClass("Editor"), .title = "Letter"});
 
-    opening.open(missionControl);
+    opening.open(overviewApplication);
     EXPECT_FALSE(isListShown());
     EXPECT_TRUE(becomesShown());
-    opening.open(missionControl);
+    opening.open(overviewApplication);
     EXPECT_TRUE(isListShown());
     EXPECT_TRUE(becomesGone());
-    opening.open(missionControl);
+    opening.open(overviewApplication);
     EXPECT_TRUE(becomesShown());
 }
 
@@ -118,7 +118,7 @@ TEST_F(X11ApplicationOpeningTest, knowsMissionControlByItsNameAlone)
 
 TEST_F(X11ApplicationOpeningTest, onlyLogsWhereNoWindowIsOpen)
 {
-    opening.open(missionControl);
+    opening.open(overviewApplication);
 
     EXPECT_TRUE(loopUntil([&] { return !log.lines().empty(); }));
     EXPECT_EQ(
@@ -133,7 +133,7 @@ TEST_F(X11ApplicationOpeningTest, bringsTheWindowBeforeToTheFront)
     ASSERT_TRUE(windows.activate(first.window()));
     ASSERT_TRUE(windows.activate(second.window()));
     ASSERT_TRUE(loopUntil([&] { return activeWindow.window() == second.window(); }));
-    opening.open(missionControl);
+    opening.open(overviewApplication);
     ASSERT_TRUE(becomesShown());
 
     // The list may not have the keys yet: the key is played again until it has.
@@ -150,7 +150,7 @@ TEST_F(X11ApplicationOpeningTest, forgetsTheListWithItself)
     const PlainWindow window(server, {.wmClass = wmClass("Editor"), .title = "Letter"});
     {
         X11ApplicationOpening other(connection, applications);
-        other.open(missionControl);
+        other.open(overviewApplication);
     }
     EXPECT_TRUE(loopThroughout(50ms, [&] { return !isListShown(); }));
 }
@@ -159,7 +159,7 @@ class DesktopWithAnOverview : public X11ApplicationOpeningTest {
 protected:
     void expectOverview(const FakeShell& shell, const std::vector<std::string>& calls)
     {
-        opening.open(missionControl);
+        opening.open(overviewApplication);
 
         EXPECT_TRUE(loopUntil([&] { return shell.calls == calls; }))
             << testing::PrintToString(shell.calls);
@@ -168,7 +168,7 @@ protected:
     }
     void expectList(const std::string& reason)
     {
-        opening.open(missionControl);
+        opening.open(overviewApplication);
 
         EXPECT_TRUE(becomesShown());
         EXPECT_EQ(log.lines(),
@@ -223,7 +223,7 @@ TEST_F(DesktopWithAnOverview, hasTheListWhereItRefuses)
     FakeShell shell({QStringLiteral("org.gnome.Shell")}, {QStringLiteral("/org/gnome/Shell")});
     shell.refuses = true;
 
-    opening.open(missionControl);
+    opening.open(overviewApplication);
 
     EXPECT_TRUE(becomesShown());
     ASSERT_EQ(log.lines().size(), 1U);

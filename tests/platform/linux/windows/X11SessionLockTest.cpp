@@ -8,7 +8,7 @@
 namespace brindlex {
 namespace {
 
-using Windows = std::vector<X11UnmanagedWindow>;
+using UnmanagedWindows = std::vector<X11UnmanagedWindow>;
 
 constexpr X11UnmanagedWindow tooltip{};
 constexpr X11UnmanagedWindow menu{.isMenu = true};
@@ -17,12 +17,12 @@ constexpr X11UnmanagedWindow cover{.coversScreen = true};
 
 TEST(X11SessionLock, knowsAMenuThatNothingHides)
 {
-    EXPECT_TRUE(isMenuOpen(Windows{menu}));
-    EXPECT_TRUE(isMenuOpen(Windows{tooltip, menu, cover}));
-    EXPECT_TRUE(isMenuOpen(Windows{largeMenu}));
-    EXPECT_FALSE(isMenuOpen(Windows{}));
-    EXPECT_FALSE(isMenuOpen(Windows{tooltip}));
-    EXPECT_FALSE(isMenuOpen(Windows{cover, menu})) << "a locker over what was open";
+    EXPECT_TRUE(isMenuOpen(UnmanagedWindows{menu}));
+    EXPECT_TRUE(isMenuOpen(UnmanagedWindows{tooltip, menu, cover}));
+    EXPECT_TRUE(isMenuOpen(UnmanagedWindows{largeMenu}));
+    EXPECT_FALSE(isMenuOpen(UnmanagedWindows{}));
+    EXPECT_FALSE(isMenuOpen(UnmanagedWindows{tooltip}));
+    EXPECT_FALSE(isMenuOpen(UnmanagedWindows{cover, menu})) << "a locker over what was open";
 }
 
 class X11SessionLockTest : public testing::Test {
