@@ -1,7 +1,6 @@
 #include "platform/linux/inputsources/DesktopInputSources.h"
 
 #include "log/Log.h"
-#include "platform/InputSourceIdentifiers.h"
 #include "platform/linux/inputsources/UndoingReason.h"
 #include "platform/linux/windows/X11WindowReading.h"
 
@@ -24,18 +23,6 @@ constexpr auto startWait = 100ms;
 constexpr auto calmTime = 100ms;
 /// When to try a daemon again that runs and could not be used: it may still be starting.
 constexpr std::array retryDelays{250ms, 500ms, 1000ms, 2000ms, 4000ms, 8000ms};
-
-InputSourceProperties propertiesOf(const InputSource& source)
-{
-    return {source.id, std::string(keyboardInputSourceCategory), source.name, true, true};
-}
-
-bool matches(const InputSourceFilter& filter, const InputSource& source)
-{
-    return (!filter.id || isSameSource(*filter.id, source.id))
-        && (!filter.category || *filter.category == keyboardInputSourceCategory)
-        && filter.isSelectCapable != false && filter.isEnabled != false;
-}
 
 } // namespace
 
@@ -94,7 +81,7 @@ std::optional<InputSourceProperties> DesktopInputSources::current()
     const auto& sources = backend_->sources();
     const auto found = std::find_if(sources.begin(), sources.end(),
         [&](const InputSource& source) { return source.id == *id; });
-    return propertiesOf(found == sources.end() ? InputSource{*id, *id} : *found);
+    return (found == sources.end() ? InputSource{*id, *id} : *found).properties();
 }
 
 std::optional<std::vector<InputSourceProperties>> DesktopInputSources::list(
@@ -104,8 +91,8 @@ std::optional<std::vector<InputSourceProperties>> DesktopInputSources::list(
         return {};
     std::vector<InputSourceProperties> found;
     for (const auto& source : backend_->sources())
-        if (matches(filter, source))
-            found.push_back(propertiesOf(source));
+        if (source.matches(filter))
+            found.push_back(source.properties());
     return found;
 }
 

@@ -2,6 +2,7 @@
 
 #include "foundation/Subscribers.h"
 #include "foundation/Subscription.h"
+#include "platform/InputSourceIdentifiers.h"
 #include "platform/KeyboardInputSources.h"
 
 #include <chrono>
@@ -19,6 +20,19 @@ struct InputSource {
     std::string name{};
 
     bool operator==(const InputSource&) const = default;
+
+    /// What is enabled can be selected.
+    InputSourceProperties properties() const
+    {
+        return {id, std::string(keyboardInputSourceCategory), name, true, true};
+    }
+
+    bool matches(const InputSourceFilter& filter) const
+    {
+        return (!filter.id || isSameSource(*filter.id, id))
+            && (!filter.category || *filter.category == keyboardInputSourceCategory)
+            && filter.isSelectCapable != false && filter.isEnabled != false;
+    }
 };
 
 /// What became of a selection; the numbers are the status that `KeyboardInputSources` returns.
