@@ -89,7 +89,9 @@ TEST_F(DamagedFiles, includeAContainerThatGoesWhileTheProgramRuns)
 
     EXPECT_TRUE(desk.usesGroup(germanGroup)) << program.report();
     EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
-    EXPECT_EQ(desk.files.logMessages(), std::vector<std::string>{"Brindlex will terminate"});
+    EXPECT_EQ(desk.files.logMessages(),
+        (std::vector<std::string>{
+            "Selected xkb:de::deu for com.example.Alpha, by its rule", "Brindlex will terminate"}));
 }
 
 /// What stands in the file, and how the line that tells of it begins.
