@@ -1,6 +1,5 @@
 #include "support/browsers/WebBrowser.h"
 
-#include "support/basics/Eventually.h"
 #include "support/hardware/Keycodes.h"
 #include "support/hardware/PlayedInput.h"
 

@@ -180,13 +180,7 @@ AccessibilityResult<std::int64_t> AccessibilityBus::processIdentifier(const QStr
 AccessibilityResult<std::vector<AccessibleObject>> AccessibilityBus::children(
     const AccessibleObject& object)
 {
-    const auto reply = ask(object, accessible, QStringLiteral("GetChildren"));
-    if (!reply)
-        return fail(reply.error());
-    const auto list = container(*reply, "a(so)");
-    if (!list)
-        return fail(AccessibilityProblem::refused);
-    return objects(*list);
+    return askForObjects(object, accessible, QStringLiteral("GetChildren"));
 }
 
 AccessibilityResult<QString> AccessibilityBus::name(const AccessibleObject& object)
@@ -244,15 +238,9 @@ AccessibilityResult<std::vector<AccessibleObject>> AccessibilityBus::showingDocu
 {
     constexpr int mostMatches = 1;
     constexpr bool goesBelowChildren = true;
-    const auto reply
-        = ask(object, QStringLiteral("org.a11y.atspi.Collection"), QStringLiteral("GetMatches"),
-            {ruleForShowingDocuments(), inTheOrderOfTheTree, mostMatches, goesBelowChildren});
-    if (!reply)
-        return fail(reply.error());
-    const auto list = container(*reply, "a(so)");
-    if (!list)
-        return fail(AccessibilityProblem::refused);
-    return objects(*list);
+    return askForObjects(object, QStringLiteral("org.a11y.atspi.Collection"),
+        QStringLiteral("GetMatches"),
+        {ruleForShowingDocuments(), inTheOrderOfTheTree, mostMatches, goesBelowChildren});
 }
 
 AccessibilityResult<QString> AccessibilityBus::documentAttribute(
@@ -281,6 +269,19 @@ AccessibilityResult<QVariant> AccessibilityBus::ask(const AccessibleObject& obje
     const bool isLate = error == QDBusError::NoReply || error == QDBusError::Timeout
         || error == QDBusError::TimedOut;
     return fail(isLate ? AccessibilityProblem::noReply : AccessibilityProblem::refused);
+}
+
+AccessibilityResult<std::vector<AccessibleObject>> AccessibilityBus::askForObjects(
+    const AccessibleObject& object, const QString& interface, const QString& member,
+    const QVariantList& arguments)
+{
+    const auto reply = ask(object, interface, member, arguments);
+    if (!reply)
+        return fail(reply.error());
+    const auto list = container(*reply, "a(so)");
+    if (!list)
+        return fail(AccessibilityProblem::refused);
+    return objects(*list);
 }
 
 void AccessibilityBus::logOnce(bool& isLogged, const std::string& message) const

@@ -100,6 +100,9 @@ public:
 private:
     bool connect();
     std::optional<QString> address();
+    /// What a question returns whose reply is a list of references.
+    AccessibilityResult<std::vector<AccessibleObject>> askForObjects(const AccessibleObject& object,
+        const QString& interface, const QString& member, const QVariantList& arguments = {});
     void logOnce(bool& isLogged, const std::string& message) const;
 
     const AccessibilityLimits limits_;
