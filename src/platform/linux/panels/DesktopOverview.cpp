@@ -5,6 +5,7 @@
 
 #include <QDBusConnectionInterface>
 #include <QDBusPendingCallWatcher>
+#include <QTimer>
 #include <QVariant>
 
 #include <chrono>
@@ -16,9 +17,12 @@ namespace {
 constexpr int patience = 100; // ms
 /// For a shell that is busy; an event does not wait for it.
 constexpr int patienceOfNobody = 1000; // ms
+/// An overview that comes has begun by then.
+constexpr int timeToAppear = 300; // ms
 
 QString shell() { return QStringLiteral("org.gnome.Shell"); }
 QString kwin() { return QStringLiteral("org.kde.KWin"); }
+QString kwinEffects() { return QStringLiteral("org.kde.kwin.Effects"); }
 
 bool isOnBus(const QDBusConnection& bus, const QString& service)
 {
@@ -60,17 +64,45 @@ void DesktopOverview::requestOfShell(const Refused& refused)
 void DesktopOverview::requestOfKWin(const Refused& refused)
 {
     // The shortcut is there, and pressing it no failure, also where the effect is not.
-    auto loaded = QDBusMessage::createMethodCall(kwin(), QStringLiteral("/Effects"),
-        QStringLiteral("org.kde.kwin.Effects"), QStringLiteral("isEffectLoaded"));
+    auto loaded = QDBusMessage::createMethodCall(
+        kwin(), QStringLiteral("/Effects"), kwinEffects(), QStringLiteral("isEffectLoaded"));
     loaded << QStringLiteral("overview");
     ask(loaded, refused, [this, refused](const QDBusMessage& reply) {
         if (!reply.arguments().value(0).toBool())
             return refused("KWin has not loaded the effect");
-        auto shortcut = QDBusMessage::createMethodCall(QStringLiteral("org.kde.kglobalaccel"),
-            QStringLiteral("/component/kwin"), QStringLiteral("org.kde.kglobalaccel.Component"),
-            QStringLiteral("invokeShortcut"));
-        shortcut << QStringLiteral("Overview");
-        ask(shortcut, refused, [](const QDBusMessage&) {});
+        askWhetherKWinShowsIt(
+            refused, [this, refused](bool wasShown) { pressShortcutOfKWin(refused, wasShown); });
+    });
+}
+
+void DesktopOverview::pressShortcutOfKWin(const Refused& refused, bool wasShown)
+{
+    auto shortcut = QDBusMessage::createMethodCall(QStringLiteral("org.kde.kglobalaccel"),
+        QStringLiteral("/component/kwin"), QStringLiteral("org.kde.kglobalaccel.Component"),
+        QStringLiteral("invokeShortcut"));
+    shortcut << QStringLiteral("Overview");
+    ask(shortcut, refused, [this, refused, wasShown](const QDBusMessage&) {
+        if (wasShown)
+            return;
+        // An effect that is loaded may be unable to run.
+        QTimer::singleShot(timeToAppear, &context_, [this, refused] {
+            askWhetherKWinShowsIt(refused, [refused](bool isShown) {
+                if (!isShown)
+                    refused("KWin does not start the effect");
+            });
+        });
+    });
+}
+
+void DesktopOverview::askWhetherKWinShowsIt(
+    const Refused& refused, std::function<void(bool isShown)> reply)
+{
+    auto active = QDBusMessage::createMethodCall(kwin(), QStringLiteral("/Effects"),
+        QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+    active << kwinEffects() << QStringLiteral("activeEffects");
+    ask(active, refused, [reply = std::move(reply)](const QDBusMessage& message) {
+        const auto effects = message.arguments().value(0).value<QDBusVariant>().variant();
+        reply(effects.toStringList().contains(QStringLiteral("overview")));
     });
 }
 

@@ -51,16 +51,29 @@ public:
         calls.push_back(call.toStdString());
         if (refuses)
             return false;
-        return bus.send(message.member() == QStringLiteral("isEffectLoaded")
-                ? message.createReply(hasEffect)
-                : message.createReply());
+        return bus.send(replyTo(message));
     }
 
     bool refuses = false;
     bool hasEffect = true;
+    /// Whether it shows the overview; a shortcut changes that where the effect can run.
+    bool isShown = false;
+    bool canRun = true;
     std::vector<std::string> calls{};
 
 private:
+    QDBusMessage replyTo(const QDBusMessage& call)
+    {
+        if (call.member() == QStringLiteral("isEffectLoaded"))
+            return call.createReply(hasEffect);
+        if (call.member() == QStringLiteral("Get"))
+            return call.createReply(QVariant::fromValue(
+                QDBusVariant(isShown ? QStringList{"blur", "overview"} : QStringList{"blur"})));
+        if (call.member() == QStringLiteral("invokeShortcut") && canRun)
+            isShown = !isShown;
+        return call.createReply();
+    }
+
     SessionBus session_;
     QDBusConnection bus_;
     QStringList names_;
@@ -186,6 +199,11 @@ protected:
         return {QStringLiteral("/component/kwin"), QStringLiteral("/Effects")};
     }
 
+    static constexpr auto isLoaded = "org.kde.kwin.Effects.isEffectLoaded overview";
+    static constexpr auto whatIsActive
+        = "org.freedesktop.DBus.Properties.Get org.kde.kwin.Effects activeEffects";
+    static constexpr auto shortcut = "org.kde.kglobalaccel.Component.invokeShortcut Overview";
+
     const PlainWindow window{server, {.wmClass = wmClass("Editor"), .title = "Letter"}};
 };
 
@@ -202,9 +220,26 @@ TEST_F(DesktopWithAnOverview, isAskedForTheShortcutOfItWhereItHasOne)
 {
     const FakeShell shell(kwin(), kwinPaths());
 
-    expectOverview(shell,
-        {"org.kde.kwin.Effects.isEffectLoaded overview",
-            "org.kde.kglobalaccel.Component.invokeShortcut Overview"});
+    expectOverview(shell, {isLoaded, whatIsActive, shortcut, whatIsActive});
+}
+
+TEST_F(DesktopWithAnOverview, hidesTheOverviewThatIsShownAndShowsNoList)
+{
+    FakeShell shell(kwin(), kwinPaths());
+    shell.isShown = true;
+
+    expectOverview(shell, {isLoaded, whatIsActive, shortcut});
+
+    EXPECT_TRUE(loopThroughout(400ms, [&] { return !isListShown(); }));
+    EXPECT_FALSE(shell.isShown);
+}
+
+TEST_F(DesktopWithAnOverview, hasTheListWhereTheOverviewDoesNotCome)
+{
+    FakeShell shell(kwin(), kwinPaths());
+    shell.canRun = false;
+
+    expectList("KWin does not start the effect");
 }
 
 TEST_F(DesktopWithAnOverview, hasTheListWhereTheOverviewCannotRun)
@@ -214,8 +249,7 @@ TEST_F(DesktopWithAnOverview, hasTheListWhereTheOverviewCannotRun)
 
     expectList("KWin has not loaded the effect");
 
-    EXPECT_EQ(
-        shell.calls, std::vector<std::string>{"org.kde.kwin.Effects.isEffectLoaded overview"});
+    EXPECT_EQ(shell.calls, std::vector<std::string>{isLoaded});
 }
 
 TEST_F(DesktopWithAnOverview, hasTheListWhereItRefuses)
