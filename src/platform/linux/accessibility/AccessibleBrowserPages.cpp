@@ -9,8 +9,9 @@
 namespace brindlex {
 namespace {
 
-/// When to look again at a page that is still the one from before its title changed.
-constexpr std::array<Seconds, 3> delaysAfterTitle{0.03, 0.07, 0.2};
+/// When to look again at a page that is still the one from before its title changed. A page that
+/// loads often comes some hundred milliseconds after its title.
+constexpr std::array<Seconds, 7> delaysAfterTitle{0.02, 0.03, 0.04, 0.05, 0.06, 0.1, 0.2};
 
 } // namespace
 

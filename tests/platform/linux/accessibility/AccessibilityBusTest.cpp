@@ -34,7 +34,7 @@ std::optional<std::size_t> programs(AccessibilityBus& bus)
 
 TEST(AccessibilityBus, knowsTheProgramsAndTheirProcesses)
 {
-    const VirtualDesktop desktop({.windowManager = false, .accessibility = true});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none, .accessibility = true});
     const FakeBrowser browser;
     AccessibilityBus bus(patientLimits);
     ASSERT_TRUE(bus.begin());
@@ -49,7 +49,7 @@ TEST(AccessibilityBus, knowsTheProgramsAndTheirProcesses)
 
 TEST(AccessibilityBus, isAbsentWhereItIsOffWhichIsLoggedOnce)
 {
-    const VirtualDesktop desktop({.windowManager = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none});
     const RecordedLog log;
     AccessibilityBus bus(patientLimits);
 
@@ -60,7 +60,7 @@ TEST(AccessibilityBus, isAbsentWhereItIsOffWhichIsLoggedOnce)
 
 TEST(AccessibilityBus, startsNoService)
 {
-    const VirtualDesktop desktop({.windowManager = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none});
     AccessibilityBus bus(patientLimits);
     bus.begin();
 
@@ -69,7 +69,7 @@ TEST(AccessibilityBus, startsNoService)
 
 TEST(AccessibilityBus, isAbsentWithoutASessionBus)
 {
-    const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none, .sessionBus = false});
     const RecordedLog log;
     AccessibilityBus bus(patientLimits);
 
@@ -79,7 +79,7 @@ TEST(AccessibilityBus, isAbsentWithoutASessionBus)
 
 TEST(AccessibilityBus, connectsOnceItIsThere)
 {
-    const VirtualDesktop desktop({.windowManager = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none});
     AccessibilityBus bus(patientLimits);
     ASSERT_FALSE(bus.begin());
     ASSERT_EQ(run({.command = {"dbus-send", "--session", "--print-reply", "--dest=org.a11y.Bus",
@@ -92,7 +92,7 @@ TEST(AccessibilityBus, connectsOnceItIsThere)
 
 TEST(AccessibilityBus, saysOnceThatProgramsOfferNothingWhileItIsOff)
 {
-    const VirtualDesktop desktop({.windowManager = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none});
     ASSERT_EQ(run({.command = {"dbus-send", "--session", "--print-reply", "--dest=org.a11y.Bus",
                        "/org/a11y/bus", "org.a11y.Bus.GetAddress"}},
                   usualDeadline),
@@ -115,7 +115,7 @@ TEST(AccessibilityBus, saysOnceThatProgramsOfferNothingWhileItIsOff)
 
 TEST(AccessibilityBus, connectsAgainAfterTheBusWasRestarted)
 {
-    const VirtualDesktop desktop({.windowManager = false, .accessibility = true});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none, .accessibility = true});
     AccessibilityBus bus(patientLimits);
     {
         const FakeBrowser browser;

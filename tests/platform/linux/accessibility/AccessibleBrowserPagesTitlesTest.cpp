@@ -39,12 +39,34 @@ TEST_F(AccessibleBrowserPagesTitles, looksAgainForAPageThatComesAfterItsTitle)
     EXPECT_EQ(notifications, 0);
 
     on.browser.offer({{.name = "Page - Browser", .url = "https://example.org/"}});
-    on.mainThread.advance(0.03);
+    on.mainThread.advance(0.02);
     on.settle();
     EXPECT_EQ(notifications, 1);
     EXPECT_EQ(on.ask(), "https://example.org/");
 
     on.mainThread.advance(10);
+    EXPECT_EQ(on.mainThread.timers(), 0u);
+}
+
+TEST_F(AccessibleBrowserPagesTitles, looksForHalfASecondForAPageThatComesLate)
+{
+    on.browser.offer({{.name = "Page - Browser", .url = "https://example.com/"}});
+    on.read();
+    notifications = 0;
+    on.titles.notify();
+    on.settle();
+    for (const auto delay : {0.02, 0.03, 0.04, 0.05, 0.06, 0.1}) {
+        on.mainThread.advance(delay);
+        on.settle();
+        EXPECT_EQ(on.mainThread.timers(), 1u) << delay;
+    }
+    EXPECT_EQ(notifications, 0);
+
+    on.browser.offer({{.name = "Page - Browser", .url = "https://example.org/"}});
+    on.mainThread.advance(0.2);
+    on.settle();
+    EXPECT_EQ(notifications, 1);
+    EXPECT_EQ(on.ask(), "https://example.org/");
     EXPECT_EQ(on.mainThread.timers(), 0u);
 }
 

@@ -42,7 +42,7 @@ struct ElementDesk {
         return element->role();
     }
 
-    VirtualDesktop desktop{{.windowManager = false, .accessibility = true}};
+    VirtualDesktop desktop{{.windowManager = WindowManager::none, .accessibility = true}};
     XConnection server;
     FakeElements program;
     ApplicationWindow window;
@@ -134,7 +134,7 @@ TEST(AccessibleElementTree, waitsForAllRepliesTogetherNoLongerThanItsTime)
 
 TEST(AccessibleElementTree, isEmptyWithoutAnAccessibilityBusWhichIsLoggedOnce)
 {
-    const VirtualDesktop desktop({.windowManager = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none});
     const RecordedLog log;
     const XConnection server;
     const ApplicationWindow window(server, {.process = 1});
