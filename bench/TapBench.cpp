@@ -127,14 +127,14 @@ void print(const std::string& tier, const char* deed, const Latency& without, co
 int main()
 {
     using namespace brindlex;
-    const VirtualDesktop desktop({.windowManager = false,
+    const VirtualDesktop desktop({.windowManager = WindowManager::none,
         .sessionBus = false,
         .server = VirtualDesktop::Server::withPlayedHardware});
     const Hands hands{PlayedMouse(desktop), PlayedKeyboard(desktop)};
     const TargetWindow target;
     std::printf("%-10s %-14s %8s %8s %8s %8s %7s %7s %6s\n", "tap", "event", "bare p50", "p50 us",
         "bare p99", "p99 us", "x p50", "x p99", "lost");
-    for (const std::string tier : {"triggers", "gesture", "mice", "keyboards"}) {
+    for (const std::string tier : {"triggers", "gesture", "modified", "mice", "keyboards"}) {
         const auto without = measureAll(hands, target);
         const ChildProcess program({.command = {std::filesystem::read_symlink("/proc/self/exe")
                                                     .replace_filename("brindlex_tap_program"),

@@ -31,6 +31,8 @@ EventInterest interestOf(const std::string& name)
                 .buttons = {{middleButton, {}}}, .keys = {{virtualKey::a, eventFlag::control}}}};
     if (name == "gesture")
         return {everything, EventTriggers{.buttons = {{leftButton, {}}}}};
+    if (name == "modified")
+        return {everything, EventTriggers{.buttons = {{leftButton, eventFlag::command}}}};
     if (name == "mice")
         return {everything & ~keyMask, {}};
     if (name == "keyboards")
@@ -63,11 +65,11 @@ void hangUntil(int signal)
 } // namespace
 } // namespace brindlex
 
-/// A program that taps for one subscriber `triggers`, a `gesture` of the left button, `mice`,
-/// `keyboards` or, without an argument, all, and lets everything pass, for tests that stop, hang
-/// and kill it. It prints `ready`, the number of each event's type, unless `quiet` is the second
-/// argument, and what is logged in lines of their own. When it sees the forward button go down it
-/// hangs until it gets SIGUSR1.
+/// A program that taps for one subscriber `triggers`, a `gesture` of the left button, one that is
+/// `modified` by command, `mice`, `keyboards` or, without an argument, all, and lets everything
+/// pass, for tests that stop, hang and kill it. It prints `ready`, the number of each event's type,
+/// unless `quiet` is the second argument, and what is logged in lines of their own. When it sees
+/// the forward button go down it hangs until it gets SIGUSR1.
 int main(int count, char** arguments)
 {
     using namespace brindlex;
