@@ -1,4 +1,5 @@
 #include "desktop/MouseFixture.h"
+#include "desktop/PlayedHand.h"
 
 #include "platform/VirtualKey.h"
 #include "support/applications/RealApplication.h"
@@ -17,16 +18,7 @@ protected:
     {
         application.emplace(desk.desktop, desk.windows, start);
         const auto area = desk.windows.areaOf(application->window());
-        pointAt(area.centreX(), area.y + area.height * 2 / 5);
-    }
-
-    void pointAt(int x, int y) const
-    {
-        xcb_warp_pointer(desk.server.get(), XCB_WINDOW_NONE, desk.server.root(), 0, 0, 0, 0,
-            static_cast<std::int16_t>(x), static_cast<std::int16_t>(y));
-        desk.server.sync();
-        desk.mouse.move(1, 0);
-        desk.settle();
+        hand.pointAt(area.centreX(), area.y + area.height * 2 / 5);
     }
 
     void go(double x) const
@@ -45,6 +37,7 @@ protected:
         });
     }
 
+    PlayedHand hand{desk};
     std::optional<RealApplication> application;
 };
 
@@ -132,7 +125,7 @@ TEST_P(EditingApplications, areLeftAsTheyAreByGoingBackAndForward)
 {
     open(toolkitWindow(GetParam()));
     const auto area = desk.windows.areaOf(application->window());
-    pointAt(area.centreX(), area.y + area.height - 30);
+    hand.pointAt(area.centreX(), area.y + area.height - 30);
     const auto before = application->title();
 
     goForward();

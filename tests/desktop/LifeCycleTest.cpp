@@ -243,7 +243,7 @@ TEST(LifeCycle, worksWithoutASessionBus)
 
 TEST(LifeCycle, worksWithoutAWindowManager)
 {
-    ProgramDesk desk({.keyboardLayouts = "us,de,ru", .windowManager = false});
+    ProgramDesk desk({.keyboardLayouts = "us,de,ru", .windowManager = WindowManager::none});
     RunningProgram program(desk.desktop);
 
     ASSERT_TRUE(program.launches()) << program.report();

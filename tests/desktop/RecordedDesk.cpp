@@ -9,8 +9,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// A desktop that is the same for this long has done what it was to do.
-constexpr auto restfulState = 120ms;
 constexpr auto timeToStart = 20s;
 
 /// Everything that the mouse and the keys do on a usual desktop.
@@ -66,32 +64,20 @@ void configureWindowManager(const MouseDesk& desk)
         fatalError("The window manager does not read its configuration.\n" + desk.desktop.output());
 }
 
-std::string text(const ScreenArea& area)
-{
-    return std::to_string(area.x) + "," + std::to_string(area.y) + " " + std::to_string(area.width)
-        + "x" + std::to_string(area.height);
-}
-
 } // namespace
 
 RecordedDesk::RecordedDesk()
 {
     configureWindowManager(desk);
+    const auto begin = [this] { record_.emplace(desk, [this] { return state(); }); };
+    begin();
     note("at the start");
-    record_.clear();
+    begin();
 }
 
 void RecordedDesk::note(const std::string& heading)
 {
-    desk.settle();
-    auto now = state();
-    const auto isSteady = [&] {
-        now = state();
-        return throughout(restfulState, [&] { return state() == now; });
-    };
-    if (!eventually(isSteady))
-        record_ += "never still\n";
-    record_ += "# " + heading + "\n" + now;
+    record_->note(heading);
     one.forget();
     two.forget();
 }
@@ -99,15 +85,12 @@ void RecordedDesk::note(const std::string& heading)
 std::string RecordedDesk::state()
 {
     std::vector<std::string> lines{
-        "front: " + titleOfActive(),
-        "desktop: " + std::to_string(desk.currentDesktop()),
-        "One: " + text(desk.windows.areaOf(one.id())),
-        "Two: " + text(desk.windows.areaOf(two.id())),
-        "Terminal: " + text(desk.windows.areaOf(terminal.window())) + " " + terminal.text(),
-        "selected: " + selectedText(),
+        "One: " + textOf(desk.windows.areaOf(one.id())),
+        "Two: " + textOf(desk.windows.areaOf(two.id())),
+        "Terminal: " + textOf(desk.windows.areaOf(terminal.window())) + " " + terminal.text(),
     };
     for (const auto& window : windowsOnScreen())
-        lines.push_back("on screen: " + text(window));
+        lines.push_back("on screen: " + textOf(window));
     for (const auto& line : one.lines())
         lines.push_back("One: " + line);
     for (const auto& line : two.lines())
@@ -117,7 +100,7 @@ std::string RecordedDesk::state()
     lines.push_back("pointer: " + std::to_string(pointer.x) + "," + std::to_string(pointer.y));
     for (const auto& held : one.held())
         lines.push_back("held: " + held);
-    std::string all;
+    auto all = commonState(desk);
     for (const auto& line : lines)
         all += line + "\n";
     return all;
@@ -142,87 +125,6 @@ std::vector<ScreenArea> RecordedDesk::windowsOnScreen() const
     return areas;
 }
 
-std::string RecordedDesk::titleOfActive() const
-{
-    const auto active = desk.windows.active();
-    return active == XCB_WINDOW_NONE ? "none" : desk.windows.titleOf(active);
-}
-
-std::string RecordedDesk::selectedText() const
-{
-    const auto& server = desk.server;
-    const XReply<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
-        server.get(), xcb_get_selection_owner(server.get(), XCB_ATOM_PRIMARY), nullptr));
-    if (!owner || owner->owner == XCB_WINDOW_NONE)
-        return "nothing";
-    const auto window = xcb_generate_id(server.get());
-    xcb_create_window(server.get(), XCB_COPY_FROM_PARENT, window, server.root(), 0, 0, 1, 1, 0,
-        XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
-    xcb_convert_selection(server.get(), window, XCB_ATOM_PRIMARY, XCB_ATOM_STRING,
-        server.atom("BRINDLEX_TEXT"), XCB_CURRENT_TIME);
-    server.sync();
-    std::string selected;
-    eventually(
-        [&] {
-            selected = server.text(window, "BRINDLEX_TEXT");
-            return !selected.empty();
-        },
-        200ms);
-    xcb_destroy_window(server.get(), window);
-    return selected;
-}
-
-void RecordedDesk::waitUntilStill() const
-{
-    // A hand is no faster than that what it drags follows.
-    constexpr auto moment = 15ms;
-    desk.mouse.settle();
-    eventually([&] { return staysTheSame(moment, [&] { return desk.timesAtRest(); }); });
-}
-
-void RecordedDesk::movePointer(int x, int y)
-{
-    desk.settle();
-    one.movePointer({x, y});
-    // What moves by itself from there begins where the pointer is.
-    desk.mouse.move(1, 0);
-    desk.mouse.move(-1, 0);
-    desk.settle();
-}
-
-void RecordedDesk::drag(int button, int x, int y)
-{
-    constexpr int steps = 10;
-    desk.mouse.press(button);
-    waitUntilStill();
-    for (int step = 0; step < steps; ++step) {
-        desk.mouse.move(double(x) / steps, double(y) / steps);
-        waitUntilStill();
-    }
-    desk.mouse.release(button);
-}
-
-void RecordedDesk::click(int button, int times)
-{
-    for (int time = 0; time < times; ++time) {
-        desk.mouse.click(button);
-        // A terminal takes a press in the very millisecond of the release before for one that came
-        // weeks later.
-        waitUntilStill();
-    }
-}
-
-void RecordedDesk::stroke(std::uint8_t key)
-{
-    desk.keyboard.stroke(key);
-    desk.settle();
-}
-
 void RecordedDesk::waitForTyped(const std::string& text) const { terminal.receives(text); }
-
-void RecordedDesk::waitForLine(const std::string& line)
-{
-    eventually([&] { return ("\n" + state()).find("\n" + line + "\n") != std::string::npos; });
-}
 
 } // namespace brindlex

@@ -20,7 +20,7 @@ void dragWithAlt(RecordedDesk& on, int button, int x, int y)
 {
     on.desk.keyboard.press(keycode::alt);
     on.desk.keyboard.settle();
-    on.drag(button, x, y);
+    on.hand.drag(button, x, y);
     on.note("dragged");
     on.desk.keyboard.release(keycode::alt);
     on.note("let go");
@@ -31,7 +31,7 @@ void type(RecordedDesk& on, const std::string& letters)
 {
     on.desk.windows.activate(on.terminal.window());
     for (const auto letter : letters)
-        on.stroke(keyOf(letter));
+        on.hand.stroke(keyOf(letter));
     on.waitForTyped(letters);
     on.note("typed");
 }
@@ -40,7 +40,7 @@ void type(RecordedDesk& on, const std::string& letters)
 void movePointerIntoTerminal(RecordedDesk& on, int x)
 {
     const auto area = on.desk.windows.areaOf(on.terminal.window());
-    on.movePointer(area.x + x, area.y + 8);
+    on.hand.pointAt(area.x + x, area.y + 8);
 }
 
 void noteSelection(RecordedDesk& on, const std::string& text)
@@ -52,37 +52,37 @@ void noteSelection(RecordedDesk& on, const std::string& text)
 const std::vector<Habit> habits{
     {"clickToFocus",
         [](RecordedDesk& on) {
-            on.movePointer(120, 120);
-            on.click(leftButton);
+            on.hand.pointAt(120, 120);
+            on.hand.click(leftButton);
             on.note("clicked into the first");
-            on.movePointer(560, 430);
-            on.click(leftButton);
+            on.hand.pointAt(560, 430);
+            on.hand.click(leftButton);
             on.note("clicked into the second");
         },
         "Two: press 1"},
     {"dragOfATitleBar",
         [](RecordedDesk& on) {
-            on.movePointer(200, 110);
-            on.drag(leftButton, 50, 70);
+            on.hand.pointAt(200, 110);
+            on.hand.drag(leftButton, 50, 70);
             on.note("dragged");
         },
         "One: 151,190 300x200"},
     {"dragWithAlt",
         [](RecordedDesk& on) {
-            on.movePointer(200, 150);
+            on.hand.pointAt(200, 150);
             dragWithAlt(on, leftButton, 60, 40);
         },
         "One: 161,160 300x200"},
     {"resizeWithAlt",
         [](RecordedDesk& on) {
-            on.movePointer(280, 250);
+            on.hand.pointAt(280, 250);
             dragWithAlt(on, rightButton, 40, 30);
         },
         "One: 101,120 340x230"},
     {"shortcutsOfTheWindowManager",
         [](RecordedDesk& on) {
             on.desk.keyboard.press(keycode::alt);
-            on.stroke(keycode::tab);
+            on.hand.stroke(keycode::tab);
             on.waitForLine("on screen: 352,317 320x134");
             on.note("next window");
             on.desk.keyboard.release(keycode::alt);
@@ -90,7 +90,7 @@ const std::vector<Habit> habits{
             on.note("chosen");
             on.desk.keyboard.press(keycode::control);
             on.desk.keyboard.press(keycode::alt);
-            on.stroke(keycode::right);
+            on.hand.stroke(keycode::right);
             on.waitForLine("desktop: 1");
             on.note("next desktop, the keys still held");
             on.desk.keyboard.release(keycode::alt);
@@ -102,7 +102,7 @@ const std::vector<Habit> habits{
         [](RecordedDesk& on) {
             for (const auto* heading : {"shown", "hidden"}) {
                 on.desk.keyboard.press(keycode::super);
-                on.stroke(keycode::d);
+                on.hand.stroke(keycode::d);
                 on.note(heading);
                 on.desk.keyboard.release(keycode::super);
                 on.note("let go");
@@ -111,19 +111,19 @@ const std::vector<Habit> habits{
         "front: none"},
     {"menuOfAWindow",
         [](RecordedDesk& on) {
-            on.movePointer(200, 110);
-            on.click(rightButton);
+            on.hand.pointAt(200, 110);
+            on.hand.click(rightButton);
             on.note("open");
             on.desk.mouse.move(30, 70);
             on.note("over an item");
-            on.click(leftButton);
+            on.hand.click(leftButton);
             on.note("chosen");
         },
         "on screen: 201,111"},
     {"doubleClick",
         [](RecordedDesk& on) {
-            on.movePointer(200, 110);
-            on.click(leftButton, 2);
+            on.hand.pointAt(200, 110);
+            on.hand.click(leftButton, 2);
             on.note("twice");
         },
         "One: 0,21"},
@@ -131,7 +131,7 @@ const std::vector<Habit> habits{
         [](RecordedDesk& on) {
             type(on, "aaaaaaaa");
             movePointerIntoTerminal(on, 4);
-            on.drag(leftButton, 150, 0);
+            on.hand.drag(leftButton, 150, 0);
             noteSelection(on, "aaaaaaaa");
         },
         "selected: aaaaaaaa"},
@@ -139,7 +139,7 @@ const std::vector<Habit> habits{
         [](RecordedDesk& on) {
             type(on, "aaaaaaaa");
             movePointerIntoTerminal(on, 14);
-            on.click(leftButton, 2);
+            on.hand.click(leftButton, 2);
             noteSelection(on, "aaaaaaaa");
         },
         "selected: aaaaaaaa"},
@@ -147,16 +147,16 @@ const std::vector<Habit> habits{
         [](RecordedDesk& on) {
             type(on, "aaa");
             movePointerIntoTerminal(on, 10);
-            on.click(leftButton, 2);
+            on.hand.click(leftButton, 2);
             noteSelection(on, "aaa");
-            on.click(middleButton);
+            on.hand.click(middleButton);
             on.waitForTyped("aaaaaa");
             on.note("pasted");
         },
         "selected: aaa"},
     {"wheel",
         [](RecordedDesk& on) {
-            on.movePointer(500, 400);
+            on.hand.pointAt(500, 400);
             on.desk.mouse.turnWheel(3);
             on.note("down");
             on.desk.mouse.turnWheel(-2);
@@ -168,11 +168,11 @@ const std::vector<Habit> habits{
             run({.command = {"setxkbmap", "-layout", "us,de", "-option", "grp:alt_shift_toggle"}},
                 usualDeadline);
             on.desk.windows.activate(on.terminal.window());
-            on.stroke(keycode::y);
+            on.hand.stroke(keycode::y);
             on.desk.keyboard.press(keycode::alt);
-            on.stroke(keycode::shift);
+            on.hand.stroke(keycode::shift);
             on.desk.keyboard.release(keycode::alt);
-            on.stroke(keycode::y);
+            on.hand.stroke(keycode::y);
             on.waitForTyped("yz");
             on.note("typed");
         },

@@ -1,12 +1,11 @@
 #pragma once
 
-#include "desktop/MouseDesk.h"
+#include "desktop/PlayedHand.h"
 #include "support/hardware/Keycodes.h"
 #include "support/windows/PlainWindow.h"
 
 #include <gtest/gtest.h>
 
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -63,22 +62,8 @@ protected:
         return eventually([&] { return desk.windows.active() == window.window(); });
     }
 
-    void movePointer(int x, int y) const
-    {
-        xcb_warp_pointer(desk.server.get(), XCB_WINDOW_NONE, desk.server.root(), 0, 0, 0, 0,
-            static_cast<std::int16_t>(x), static_cast<std::int16_t>(y));
-        desk.server.sync();
-        desk.mouse.move(1, 0);
-        desk.settle();
-    }
-
-    void stroke(std::uint8_t key) const
-    {
-        desk.keyboard.stroke(key);
-        desk.settle();
-    }
-
     MouseDesk desk;
+    PlayedHand hand{desk};
     std::vector<std::unique_ptr<PlainWindow>> opened;
 };
 

@@ -30,7 +30,7 @@ TEST_F(WindowChooser, beginsWithTheWindowBefore)
     open("Second");
     ASSERT_TRUE(opens());
 
-    stroke(keycode::enter);
+    hand.stroke(keycode::enter);
 
     EXPECT_TRUE(isGone());
     EXPECT_TRUE(isActive(first));
@@ -44,21 +44,21 @@ TEST_F(WindowChooser, followsTheKeysThroughTheWindowsInTheOrderOfTheirUse)
     ASSERT_TRUE(desk.windows.activate(first.window()));
     // first, third, second: it begins with the third.
     ASSERT_TRUE(opens());
-    stroke(keycode::down);
-    stroke(keycode::enter);
+    hand.stroke(keycode::down);
+    hand.stroke(keycode::enter);
     EXPECT_TRUE(isActive(second));
 
     // second, first, third
     ASSERT_TRUE(opens());
-    stroke(keycode::tab);
-    stroke(keycode::enter);
+    hand.stroke(keycode::tab);
+    hand.stroke(keycode::enter);
     EXPECT_TRUE(isActive(third));
 
     // third, second, first
     ASSERT_TRUE(opens());
-    stroke(keycode::up);
-    stroke(keycode::up);
-    stroke(keycode::enter);
+    hand.stroke(keycode::up);
+    hand.stroke(keycode::up);
+    hand.stroke(keycode::enter);
     EXPECT_TRUE(isActive(first));
 }
 
@@ -70,7 +70,7 @@ TEST_F(WindowChooser, changesToTheDesktopOfTheWindow)
     open("There");
     ASSERT_TRUE(opens());
 
-    stroke(keycode::enter);
+    hand.stroke(keycode::enter);
 
     EXPECT_TRUE(desk.showsDesktop(0));
     EXPECT_TRUE(isActive(here));
@@ -85,7 +85,7 @@ TEST_F(WindowChooser, bringsBackAMinimisedWindow)
     ASSERT_TRUE(eventually([&] { return !desk.windows.isOnScreen(hidden.window()); }));
     ASSERT_TRUE(opens());
 
-    stroke(keycode::enter);
+    hand.stroke(keycode::enter);
 
     EXPECT_TRUE(isActive(hidden));
     EXPECT_TRUE(eventually([&] { return desk.windows.isOnScreen(hidden.window()); }));
@@ -99,7 +99,7 @@ TEST_F(WindowChooser, takesTheRowThatIsClicked)
     ASSERT_TRUE(opens());
     const auto area = desk.windows.areaOf(*list());
 
-    movePointer(area.centreX(), area.y + padding + 2 * rowHeight + rowHeight / 2);
+    hand.pointAt(area.centreX(), area.y + padding + 2 * rowHeight + rowHeight / 2);
     desk.mouse.click(leftButton);
 
     EXPECT_TRUE(isGone());
@@ -112,12 +112,12 @@ TEST_F(WindowChooser, choosesNothingByAPointerThatRestsWhereItComes)
     open("Second");
     const auto& screen = desk.server.screen();
     // On the row of the present window, and touched as a hand does that lets a button go.
-    movePointer(screen.width_in_pixels / 2, screen.height_in_pixels / 2 - rowHeight / 2);
+    hand.pointAt(screen.width_in_pixels / 2, screen.height_in_pixels / 2 - rowHeight / 2);
     ASSERT_TRUE(opens());
     desk.mouse.move(2, 1);
     desk.settle();
 
-    stroke(keycode::enter);
+    hand.stroke(keycode::enter);
 
     EXPECT_TRUE(isActive(first));
 }
@@ -128,11 +128,11 @@ TEST_F(WindowChooser, closesByEscapeByAClickElsewhereAndByTheNextTime)
     const auto& second = open("Second");
 
     ASSERT_TRUE(opens());
-    stroke(keycode::escape);
+    hand.stroke(keycode::escape);
     EXPECT_TRUE(isGone());
 
     ASSERT_TRUE(opens());
-    movePointer(1200, 700);
+    hand.pointAt(1200, 700);
     desk.mouse.click(leftButton);
     EXPECT_TRUE(isGone());
 
@@ -147,14 +147,14 @@ TEST_F(WindowChooser, keepsToItselfWhatIsTypedAndClickedIntoIt)
     EventLogWindow window("Log", {100, 100, 300, 200});
     ASSERT_TRUE(opens());
     window.forget();
-    stroke(keycode::a);
-    stroke(keycode::escape);
+    hand.stroke(keycode::a);
+    hand.stroke(keycode::escape);
     ASSERT_TRUE(isGone());
     ASSERT_TRUE(opens());
-    movePointer(110, 130);
+    hand.pointAt(110, 130);
     desk.mouse.click(leftButton);
     ASSERT_TRUE(isGone());
-    stroke(keycode::a);
+    hand.stroke(keycode::a);
 
     const auto input = [&] {
         MouseDesk::Lines lines;
@@ -189,10 +189,10 @@ TEST_F(WindowChooser, scrollsThroughManyWindows)
     ASSERT_TRUE(opens());
     EXPECT_LT(desk.windows.areaOf(*list()).height, desk.server.screen().height_in_pixels);
 
-    stroke(keycode::end);
-    stroke(keycode::down);
-    stroke(keycode::down);
-    stroke(keycode::enter);
+    hand.stroke(keycode::end);
+    hand.stroke(keycode::down);
+    hand.stroke(keycode::down);
+    hand.stroke(keycode::enter);
 
     EXPECT_TRUE(isActive(first));
 }
@@ -237,7 +237,7 @@ TEST_F(WindowChooserInTime, givesTheKeysBackWhenTheProgramIsStopped)
     EXPECT_TRUE(isGone());
     EXPECT_TRUE(eventually([&] { return desk.isAnyDeviceTaken(); })) << desk.program->report();
     EXPECT_TRUE(opens());
-    stroke(keycode::escape);
+    hand.stroke(keycode::escape);
     EXPECT_TRUE(isGone());
 }
 

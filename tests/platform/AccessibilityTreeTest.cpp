@@ -83,7 +83,7 @@ public:
     void hang() { program_.offer(things_, FakeElements::Behaviour::silent); }
 
 private:
-    VirtualDesktop desktop_{{.windowManager = false, .accessibility = true}};
+    VirtualDesktop desktop_{{.windowManager = WindowManager::none, .accessibility = true}};
     XConnection server_;
     FakeElements program_;
     ApplicationWindow window_{server_, {.process = static_cast<std::uint32_t>(program_.process())}};

@@ -47,7 +47,7 @@ public:
     void showResizeUpDown() { window_.show(cursorGlyph::verticalDoubleArrow, "ns-resize"); }
 
 private:
-    VirtualDesktop desktop_{{.windowManager = false, .sessionBus = false}};
+    VirtualDesktop desktop_{{.windowManager = WindowManager::none, .sessionBus = false}};
     XConnection server_;
     CursorWindow window_{server_};
     X11Connection connection_;

@@ -31,7 +31,7 @@ public:
     void unplug() { desktop_.endDisplayServer(); }
 
 private:
-    VirtualDesktop desktop_{{.windowManager = false, .sessionBus = false}};
+    VirtualDesktop desktop_{{.windowManager = WindowManager::none, .sessionBus = false}};
     X11Connection connection_;
     SimulatedClock clock_;
     SimulatedMainThread mainThread_{clock_};

@@ -27,7 +27,7 @@ public:
     void draw(double times) { setDotsPerInch(server_, 96 * times); }
 
 private:
-    VirtualDesktop desktop_{{.windowManager = false, .sessionBus = false}};
+    VirtualDesktop desktop_{{.windowManager = WindowManager::none, .sessionBus = false}};
     XConnection server_;
     X11Connection connection_;
     X11DisplayScale scale_{connection_};

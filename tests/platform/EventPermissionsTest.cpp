@@ -39,7 +39,7 @@ public:
 private:
     void set(const std::string& key, bool allows) { defaults_.set(key, allows); }
 
-    VirtualDesktop desktop_{{.windowManager = false, .sessionBus = false}};
+    VirtualDesktop desktop_{{.windowManager = WindowManager::none, .sessionBus = false}};
     SimulatedClock time_;
     SimulatedMainThread mainThread_{time_};
     SimulatedUserDefaults defaults_;

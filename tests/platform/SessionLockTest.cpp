@@ -36,7 +36,7 @@ public:
     }
 
 private:
-    VirtualDesktop desktop_{{.windowManager = false, .sessionBus = false}};
+    VirtualDesktop desktop_{{.windowManager = WindowManager::none, .sessionBus = false}};
     X11Connection connection_;
     X11SessionLock lock_{connection_};
     std::optional<InputGrab> locker_;

@@ -57,6 +57,7 @@ def gtk(version):
 
     # It sleeps while nothing changes, so that a test can wait until it does.
     def show(window):
+        Gtk.Settings.get_default().set_property("gtk-cursor-blink", False)
         window.set_default_size(*SIZE)
         text.grab_focus()
         update(window)
@@ -95,6 +96,7 @@ def qt():
     )
 
     application = QApplication([])
+    application.setCursorFlashTime(0)
     window = QMainWindow()
     window.menuBar().addMenu("&File").addAction("&Open")
     plane = QWidget()

@@ -24,7 +24,7 @@ struct FakeBrowserPages {
     }
 
     AccessibilityLimits limits;
-    VirtualDesktop desktop{{.windowManager = false, .accessibility = true}};
+    VirtualDesktop desktop{{.windowManager = WindowManager::none, .accessibility = true}};
     FakeBrowser browser{};
     std::optional<ActiveWindow> active{
         ActiveWindow{WindowIdentity{0x400001}, browser.identity(), "Page - Browser"}};

@@ -9,7 +9,7 @@ namespace {
 
 TEST(BusConnection, asksTheBusAboutNames)
 {
-    const VirtualDesktop desktop({.windowManager = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none});
     const BusConnection bus;
 
     EXPECT_TRUE(bus.isOpen());
@@ -21,7 +21,7 @@ TEST(BusConnection, asksTheBusAboutNames)
 
 TEST(BusConnection, isNotOpenWithoutABus)
 {
-    const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none, .sessionBus = false});
     const BusConnection bus;
 
     EXPECT_FALSE(bus.isOpen());
@@ -30,7 +30,7 @@ TEST(BusConnection, isNotOpenWithoutABus)
 
 TEST(BusConnection, endsWithItsBus)
 {
-    VirtualDesktop desktop({.windowManager = false});
+    VirtualDesktop desktop({.windowManager = WindowManager::none});
     const BusConnection bus;
 
     desktop.endSessionBus();

@@ -13,7 +13,7 @@ using Lines = std::vector<std::string>;
 
 class PlayedHardware : public testing::TestWithParam<EventLogWindow::Protocol> {
 protected:
-    VirtualDesktop desktop_{{.windowManager = false,
+    VirtualDesktop desktop_{{.windowManager = WindowManager::none,
         .sessionBus = false,
         .server = VirtualDesktop::Server::withPlayedHardware}};
     PlayedMouse mouse_{desktop_};

@@ -73,7 +73,7 @@ struct TappedDesktop {
 private:
     static VirtualDesktop::Options tapped(VirtualDesktop::Options options)
     {
-        options.windowManager = false;
+        options.windowManager = WindowManager::none;
         options.sessionBus = false;
         options.server = VirtualDesktop::Server::withPlayedHardware;
         return options;

@@ -10,7 +10,7 @@ namespace {
 
 TEST(Screenshot, hasTheColoursOfTheScreen)
 {
-    const VirtualDesktop desktop({.windowManager = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none});
     const XConnection server;
     const Screenshot before(server);
     const std::uint32_t colour = 0x204060;
@@ -27,7 +27,7 @@ TEST(Screenshot, hasTheColoursOfTheScreen)
 
 TEST(Screenshot, isSavedAsAPicture)
 {
-    const VirtualDesktop desktop({.windowManager = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none});
     const XConnection server;
     const auto file = desktop.home() / "screen.png";
 

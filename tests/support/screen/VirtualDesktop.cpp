@@ -19,29 +19,6 @@ using namespace std::chrono_literals;
 
 constexpr auto timeToStart = 60s;
 
-/// Nothing of the window manager's that moves, asks or takes a key from a test.
-constexpr auto windowManagerConfiguration = R"(<?xml version="1.0" encoding="UTF-8"?>
-<openbox_config xmlns="http://openbox.org/3.4/rc">
-  <focus><focusNew>yes</focusNew><followMouse>no</followMouse></focus>
-  <placement><policy>Smart</policy></placement>
-  <theme><name>Clearlooks</name><animateIconify>no</animateIconify></theme>
-  <desktops><number>4</number><firstdesk>1</firstdesk><popupTime>0</popupTime></desktops>
-  <keyboard>
-    <keybind key="A-Tab"><action name="NextWindow"/></keybind>
-    <keybind key="A-F4"><action name="Close"/></keybind>
-  </keyboard>
-  <mouse>
-    <context name="Client">
-      <mousebind button="Left" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
-    </context>
-    <context name="Titlebar">
-      <mousebind button="Left" action="Press"><action name="Focus"/><action name="Raise"/></mousebind>
-      <mousebind button="Left" action="Drag"><action name="Move"/></mousebind>
-    </context>
-  </mouse>
-</openbox_config>
-)";
-
 void runOrFail(const std::vector<std::string>& command, const std::filesystem::path& output)
 {
     if (run({.command = command, .output = output}, timeToStart) != ProcessEnd{0, {}})
@@ -88,8 +65,8 @@ VirtualDesktop::VirtualDesktop(const Options& options) : home_(folder_.path() / 
     startDisplayServer(options);
     if (options.sessionBus)
         startSessionBus();
-    if (options.windowManager)
-        startWindowManager();
+    if (options.windowManager != WindowManager::none)
+        startWindowManager(options.windowManager);
     if (options.accessibility)
         allowAccessibility();
     screenReport_ = std::make_unique<StateReport>(screenState);
@@ -155,26 +132,27 @@ void VirtualDesktop::startSessionBus()
     setVariable("DBUS_SESSION_BUS_ADDRESS", *line);
 }
 
-void VirtualDesktop::startWindowManager()
+void VirtualDesktop::startWindowManager(WindowManager manager)
 {
-    const auto folder = configFolder() / "openbox";
-    std::error_code ignored;
-    std::filesystem::create_directories(folder, ignored);
-    write(folder / "rc.xml", windowManagerConfiguration);
     windowManager_ = std::make_unique<ChildProcess>(ChildProcess::Start{
-        .command = {"openbox", "--sm-disable", "--config-file", folder / "rc.xml"},
+        .command = windowManagerCommand(*this, manager),
         .output = outputFolder() / "window-manager",
     });
-    // It tells what it supports long before it looks after windows; a reply shows the latter.
+    // It tells what it supports long before it looks after windows; a window that it has taken in
+    // shows the latter, and so does a reply where it has one, without a window on the screen.
     const XConnection server;
     const auto window = xcb_generate_id(server.get());
     xcb_create_window(server.get(), XCB_COPY_FROM_PARENT, window, server.root(), 0, 0, 1, 1, 0,
         XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
-    const auto replies = [&] {
+    const bool looksAtShownWindowsOnly
+        = manager == WindowManager::kwin || manager == WindowManager::kwinWithoutEffects;
+    if (looksAtShownWindowsOnly)
+        xcb_map_window(server.get(), window);
+    const auto looksAfterWindows = [&] {
         server.ask(window, "_NET_REQUEST_FRAME_EXTENTS", {});
         return !server.values(window, "_NET_FRAME_EXTENTS").empty();
     };
-    const bool isReady = eventually(replies, timeToStart);
+    const bool isReady = eventually(looksAfterWindows, timeToStart);
     xcb_destroy_window(server.get(), window);
     if (!isReady)
         fatalError("The window manager did not start.\n" + windowManager_->output());

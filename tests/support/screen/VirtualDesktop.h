@@ -4,6 +4,7 @@
 #include "support/basics/StateReport.h"
 #include "support/basics/TemporaryFolder.h"
 #include "support/processes/ChildProcess.h"
+#include "support/screen/WindowManager.h"
 
 #include <filesystem>
 #include <memory>
@@ -29,7 +30,7 @@ public:
         int height = 800;
         /// The XKB layouts, one per group, at most four.
         std::string keyboardLayouts = "us,de";
-        bool windowManager = true;
+        WindowManager windowManager = WindowManager::quiet;
         bool sessionBus = true;
         /// Whether programs started here offer themselves to assistive technology.
         bool accessibility = false;
@@ -83,7 +84,7 @@ private:
     void makeFolders();
     void startDisplayServer(const Options& options);
     void startSessionBus();
-    void startWindowManager();
+    void startWindowManager(WindowManager manager);
     void allowAccessibility();
     void endStragglers();
 

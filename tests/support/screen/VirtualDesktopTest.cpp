@@ -49,7 +49,7 @@ TEST(VirtualDesktop, giftsTheProcessesAHomeOfTheirOwnAndTakesItAway)
     const auto displayBefore = variable("DISPLAY");
     std::filesystem::path home;
     {
-        const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+        const VirtualDesktop desktop({.windowManager = WindowManager::none, .sessionBus = false});
         home = desktop.home();
         EXPECT_EQ(variable("HOME"), home);
         EXPECT_EQ(variable("XDG_CONFIG_HOME"), home / ".config");
@@ -87,7 +87,7 @@ TEST(VirtualDesktop, turnsAccessibilityOnWhenAsked)
 
 TEST(VirtualDesktop, canLoseItsDisplayServer)
 {
-    VirtualDesktop desktop({.windowManager = false});
+    VirtualDesktop desktop({.windowManager = WindowManager::none});
     const XConnection before;
     ASSERT_TRUE(before.isOpen());
 
@@ -100,9 +100,9 @@ TEST(VirtualDesktop, canLoseItsDisplayServer)
 
 TEST(VirtualDesktop, leavesTheNumberOfItsLostServerToNobody)
 {
-    VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    VirtualDesktop desktop({.windowManager = WindowManager::none, .sessionBus = false});
     desktop.endDisplayServer();
-    const VirtualDesktop next({.windowManager = false, .sessionBus = false});
+    const VirtualDesktop next({.windowManager = WindowManager::none, .sessionBus = false});
     EXPECT_NE(next.display(), desktop.display());
 }
 

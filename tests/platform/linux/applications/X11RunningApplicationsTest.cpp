@@ -43,7 +43,8 @@ protected:
         });
     }
 
-    VirtualDesktop desktop{VirtualDesktop::Options{.windowManager = false, .sessionBus = false}};
+    VirtualDesktop desktop{
+        VirtualDesktop::Options{.windowManager = WindowManager::none, .sessionBus = false}};
     XConnection server;
     ChildProcess child{{.command = {"sleep", "1000"}}};
     X11Connection connection;

@@ -37,7 +37,7 @@ protected:
         return found;
     }
 
-    VirtualDesktop desktop{{.windowManager = false, .sessionBus = false}};
+    VirtualDesktop desktop{{.windowManager = WindowManager::none, .sessionBus = false}};
     XConnection server;
     CursorWindow window{server};
     X11Connection connection;
@@ -126,7 +126,7 @@ TEST_F(X11CursorReadingTest, seesNothingOnceTheServerHasGone)
 TEST(X11CursorReading, seesNothingOnAServerThatTellsNoCursors)
 {
     const VirtualDesktop desktop(
-        {.windowManager = false, .sessionBus = false, .disabledExtension = "XFIXES"});
+        {.windowManager = WindowManager::none, .sessionBus = false, .disabledExtension = "XFIXES"});
     X11Connection connection;
     X11CursorReading cursor(connection);
 

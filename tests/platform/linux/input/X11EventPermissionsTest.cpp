@@ -16,7 +16,7 @@ using namespace std::chrono_literals;
 
 TEST(X11EventPermissions, areMissingWithoutAServer)
 {
-    VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    VirtualDesktop desktop({.windowManager = WindowManager::none, .sessionBus = false});
     desktop.endDisplayServer();
     SimulatedClock time;
     SimulatedMainThread mainThread(time);
@@ -29,7 +29,7 @@ TEST(X11EventPermissions, areMissingWithoutAServer)
 
 TEST(X11EventPermissions, areKeptWhileAConnectionThatWasCutIsMadeAnew)
 {
-    VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    VirtualDesktop desktop({.windowManager = WindowManager::none, .sessionBus = false});
     QtMainThread mainThread;
     SimulatedUserDefaults defaults;
     X11InputStream stream(mainThread);
@@ -48,7 +48,7 @@ TEST(X11EventPermissions, areKeptWhileAConnectionThatWasCutIsMadeAnew)
 TEST(X11EventPermissions, areMissingOnAServerOnWhichNothingCanBePlayed)
 {
     const VirtualDesktop desktop(
-        {.windowManager = false, .sessionBus = false, .disabledExtension = "XTEST"});
+        {.windowManager = WindowManager::none, .sessionBus = false, .disabledExtension = "XTEST"});
     SimulatedClock time;
     SimulatedMainThread mainThread(time);
     SimulatedUserDefaults defaults;
@@ -60,7 +60,7 @@ TEST(X11EventPermissions, areMissingOnAServerOnWhichNothingCanBePlayed)
 
 TEST(X11EventPermissions, areForbiddenByNothingButTheWordFalse)
 {
-    const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none, .sessionBus = false});
     SimulatedClock time;
     SimulatedMainThread mainThread(time);
     SimulatedUserDefaults defaults;
@@ -78,7 +78,7 @@ TEST(X11EventPermissions, areForbiddenByNothingButTheWordFalse)
 
 TEST(X11EventPermissions, tellNothingOfOtherPreferences)
 {
-    const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none, .sessionBus = false});
     SimulatedClock time;
     SimulatedMainThread mainThread(time);
     SimulatedUserDefaults defaults;

@@ -21,7 +21,7 @@ protected:
 TEST_F(X11InputStreamTest, saysOnceThatTheServerCannotPlayInput)
 {
     const VirtualDesktop desktop(
-        {.windowManager = false, .sessionBus = false, .disabledExtension = "XTEST"});
+        {.windowManager = WindowManager::none, .sessionBus = false, .disabledExtension = "XTEST"});
     X11InputStream stream(mainThread);
 
     for (int count = 0; count < 3; ++count)
@@ -32,7 +32,7 @@ TEST_F(X11InputStreamTest, saysOnceThatTheServerCannotPlayInput)
 
 TEST_F(X11InputStreamTest, saysOnceThatThereIsNoServer)
 {
-    VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    VirtualDesktop desktop({.windowManager = WindowManager::none, .sessionBus = false});
     desktop.endDisplayServer();
     X11InputStream stream(mainThread);
 
@@ -44,7 +44,7 @@ TEST_F(X11InputStreamTest, saysOnceThatThereIsNoServer)
 
 TEST_F(X11InputStreamTest, saysNothingWhereTheInputCanBeTapped)
 {
-    const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none, .sessionBus = false});
     X11InputStream stream(mainThread);
 
     EXPECT_TRUE(stream.isTappable());

@@ -21,7 +21,7 @@ protected:
         loopThroughout(50ms, [] { return true; });
     }
 
-    VirtualDesktop desktop_{{.windowManager = false, .sessionBus = false}};
+    VirtualDesktop desktop_{{.windowManager = WindowManager::none, .sessionBus = false}};
     XConnection server_;
     PlayedInput input_{server_};
     X11Connection connection_;

@@ -91,7 +91,7 @@ protected:
         return eventually([&] { return window_.lines() == expected; });
     }
 
-    VirtualDesktop desktop_{{.windowManager = false,
+    VirtualDesktop desktop_{{.windowManager = WindowManager::none,
         .sessionBus = false,
         .server = VirtualDesktop::Server::withPlayedHardware}};
     PlayedMouse mouse_{desktop_};
@@ -179,7 +179,7 @@ TEST_F(InputUnderWatchInTime, leavesNoWatchdogBehind)
 
 TEST(TapWatchdog, leavesNoProcessBehindWhenItIsDismissed)
 {
-    const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none, .sessionBus = false});
     const auto before = children();
     TapWatchdog watchdog(TapWatchdog::besideThisProgram(), "");
     watchdog.watch(1);

@@ -80,7 +80,7 @@ TEST_F(VirtualDesktopsTest, stayAsTheyAreOnceTheServerHasGone)
 
 TEST(VirtualDesktops, areOfNoConcernToAServerWithoutAWindowManager)
 {
-    const VirtualDesktop desktop({.windowManager = false, .sessionBus = false});
+    const VirtualDesktop desktop({.windowManager = WindowManager::none, .sessionBus = false});
     const XConnection server;
     X11Connection connection;
 

@@ -12,7 +12,7 @@ namespace {
 TEST(X11ClientProcess, isKnownOfAWindowThatSaysNothing)
 {
     const VirtualDesktop desktop(
-        VirtualDesktop::Options{.windowManager = false, .sessionBus = false});
+        VirtualDesktop::Options{.windowManager = WindowManager::none, .sessionBus = false});
     const XConnection server;
     X11Connection connection;
     ApplicationWindow window(server, {});
@@ -22,8 +22,9 @@ TEST(X11ClientProcess, isKnownOfAWindowThatSaysNothing)
 
 TEST(X11ClientProcess, isNoneOfAWindowThatNobodyHasOrWithoutTheExtension)
 {
-    const VirtualDesktop desktop(VirtualDesktop::Options{
-        .windowManager = false, .sessionBus = false, .disabledExtension = "X-Resource"});
+    const VirtualDesktop desktop(VirtualDesktop::Options{.windowManager = WindowManager::none,
+        .sessionBus = false,
+        .disabledExtension = "X-Resource"});
     const XConnection server;
     X11Connection connection;
     ApplicationWindow window(server, {});

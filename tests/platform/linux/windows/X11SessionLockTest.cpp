@@ -27,7 +27,7 @@ TEST(X11SessionLock, knowsAMenuThatNothingHides)
 
 class X11SessionLockTest : public testing::Test {
 protected:
-    VirtualDesktop desktop{{.windowManager = false, .sessionBus = false}};
+    VirtualDesktop desktop{{.windowManager = WindowManager::none, .sessionBus = false}};
     X11Connection connection;
     X11SessionLock lock{connection};
 };

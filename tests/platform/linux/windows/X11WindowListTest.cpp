@@ -46,7 +46,7 @@ protected:
         return values;
     }
 
-    VirtualDesktop desktop{{.windowManager = false, .sessionBus = false}};
+    VirtualDesktop desktop{{.windowManager = WindowManager::none, .sessionBus = false}};
     XConnection server;
     X11Connection connection;
     X11WindowList list{connection};
