@@ -92,7 +92,8 @@ private:
         if (attempt == delaysAfterTitle.size())
             return;
         nextLook_ = mainThread_.after(delaysAfterTitle[attempt], [this, attempt] {
-            if (lastReturned_ == pageBeforeTitle_)
+            // Between two pages there may be none for a moment.
+            if (!lastReturned_ || lastReturned_ == pageBeforeTitle_)
                 lookAgain(attempt + 1);
         });
     }

@@ -48,6 +48,24 @@ TEST_F(AccessibleBrowserPagesTitles, looksAgainForAPageThatComesAfterItsTitle)
     EXPECT_EQ(on.mainThread.timers(), 0u);
 }
 
+TEST_F(AccessibleBrowserPagesTitles, looksAgainWhereThereIsNoPageForAMoment)
+{
+    on.browser.offer({{.name = "Page - Browser", .url = "https://example.com/"}});
+    on.read();
+    on.browser.offer({{.name = "Page - Browser", .embeds = false}});
+    on.titles.notify();
+    on.settle();
+    ASSERT_EQ(on.ask(), std::nullopt);
+    notifications = 0;
+
+    on.browser.offer({{.name = "Page - Browser", .url = "https://example.org/"}});
+    on.mainThread.advance(0.02);
+    on.settle();
+
+    EXPECT_EQ(notifications, 1);
+    EXPECT_EQ(on.ask(), "https://example.org/");
+}
+
 TEST_F(AccessibleBrowserPagesTitles, looksForHalfASecondForAPageThatComesLate)
 {
     on.browser.offer({{.name = "Page - Browser", .url = "https://example.com/"}});
