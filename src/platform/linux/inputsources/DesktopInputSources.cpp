@@ -113,9 +113,9 @@ Subscription DesktopInputSources::observeSelectionChanges(SelectionHandler handl
 {
     if (selectionObservers_.isEmpty()) {
         // What has changed while nobody observed is nobody's choice.
-        notifiedSelection_ = backend_->current();
         if (fcitx_)
             fcitx_->resume();
+        notifiedSelection_ = backend_->current();
     }
     return selectionObservers_.add(std::move(handler));
 }

@@ -224,8 +224,10 @@ void Fcitx5InputSources::takeCurrent(const Fcitx5Look& look)
 
 void Fcitx5InputSources::resume()
 {
-    if (!pollTimer_.isActive())
-        pollTimer_.start();
+    if (pollTimer_.isActive())
+        return;
+    selection_.pause();
+    pollTimer_.start();
 }
 
 void Fcitx5InputSources::tick()

@@ -23,6 +23,12 @@ bool Fcitx5Selection::isStale(Time now) const
     return !isKeeping() && (!readAt_ || now - *readAt_ > freshFor);
 }
 
+void Fcitx5Selection::pause()
+{
+    context_.reset();
+    ++selection_;
+}
+
 std::optional<int> Fcitx5Selection::beginRead()
 {
     if (std::exchange(isReading_, true))
@@ -43,7 +49,7 @@ Fcitx5Selection::Change Fcitx5Selection::take(const Observation& seen, Time now)
     // Without an input context nothing is said about what the user types with.
     auto read = seen.method->empty() ? std::nullopt : seen.method;
     const bool isNew = !hasRead() || read_ != read;
-    const bool isElsewhere = !hasRead() || context_ != seen.contextAfter;
+    const bool isElsewhere = context_ != seen.contextAfter;
     readAt_ = now;
     read_ = std::move(read);
     context_ = seen.contextAfter;

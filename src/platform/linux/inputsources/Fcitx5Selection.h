@@ -34,8 +34,8 @@ namespace brindlex {
 /// every context is another than an unknown one.
 ///
 /// One read and one check are under way at a time. The operations that begin something return the
-/// number of the last selection, and those that end it take that back: replies to requests from
-/// before a later selection count for nothing.
+/// number of the last selection or pause, and those that end it take that back: replies to requests
+/// from before a later one count for nothing.
 class Fcitx5Selection {
 public:
     using Time = std::chrono::steady_clock::time_point;
@@ -71,6 +71,8 @@ public:
     /// Whether what was read is too old to be returned as the current method.
     bool isStale(Time now) const;
 
+    /// Nothing was read for a while: what the next read brings is nobody's choice.
+    void pause();
     std::optional<int> beginRead();
     /// Whether the reply counts; if so, `take` is to follow, unless it is an error.
     bool endRead(int selection);
@@ -102,8 +104,8 @@ private:
     Verdict judge(const Observation& seen, Time now) const;
 
     std::optional<std::string> read_;
-    /// The context with the keyboard when that was read.
-    std::string context_;
+    /// The context with the keyboard when that was read, empty for none; absent when it is unknown.
+    std::optional<std::string> context_;
     std::optional<Time> readAt_;
     std::optional<Request> request_;
     int selection_ = 0;

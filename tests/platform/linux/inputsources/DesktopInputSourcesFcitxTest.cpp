@@ -9,12 +9,18 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <csignal>
 
 namespace brindlex {
 namespace {
 
 const std::vector<std::string> fcitxMethods{"keyboard-us", "pinyin"};
+
+bool hasChoice(const std::vector<SelectionCause>& causes)
+{
+    return std::find(causes.begin(), causes.end(), SelectionCause::choice) != causes.end();
+}
 
 TEST(DesktopInputSources, findsFcitxAgainAfterItWasKilled)
 {
@@ -62,12 +68,42 @@ TEST(DesktopInputSources, asksFcitxForNothingWhileNobodyObserves)
 
     ASSERT_TRUE(daemon.select("pinyin"));
     observation = observe();
-    EXPECT_EQ(currentID(sources), "fcitx5:pinyin");
+    EXPECT_TRUE(loopUntil([&] { return currentID(sources) == "fcitx5:pinyin"; }));
     int taken = 0;
     ASSERT_TRUE(loopUntil([&] { return (taken += reads.taken()) > 3; }));
-    EXPECT_TRUE(causes.empty()) << "It was selected before.";
+    EXPECT_FALSE(hasChoice(causes)) << "It was selected before.";
     ASSERT_TRUE(daemon.select("keyboard-us"));
-    EXPECT_TRUE(loopUntil([&] { return !causes.empty(); }));
+    EXPECT_TRUE(loopUntil([&] { return hasChoice(causes); }));
+}
+
+TEST(DesktopInputSources, takesForNobodysChoiceWhatASlowFcitxSaysLate)
+{
+    VirtualDesktop desktop;
+    FcitxDaemon daemon(desktop, fcitxMethods);
+    const XConnection server;
+    const DesktopWindows windows(server);
+    const TypingWindow window(windows, "Typing");
+    const auto process = processOf(desktop, "fcitx5");
+    ASSERT_GT(process, 0);
+    SessionBus bus;
+    X11Connection connection;
+    DesktopInputSources sources(connection, bus.connection());
+    ASSERT_TRUE(becomes(sources, "Fcitx 5"));
+    ASSERT_TRUE(daemon.select("keyboard-us"));
+    ASSERT_TRUE(loopUntil([&] { return currentID(sources) == "xkb:us::eng"; }));
+    // Nothing is read by itself until somebody observes.
+    loopThroughout(std::chrono::seconds{1}, [] { return true; });
+    ASSERT_TRUE(daemon.select("pinyin"));
+    ::kill(process, SIGSTOP);
+    std::vector<SelectionCause> causes;
+    const auto observation
+        = sources.observeSelectionChanges([&](SelectionCause cause) { causes.push_back(cause); });
+    // Longer than the first read is waited for.
+    loopThroughout(std::chrono::milliseconds{500}, [] { return true; });
+    ::kill(process, SIGCONT);
+    ASSERT_TRUE(loopUntil([&] { return !causes.empty(); }));
+    EXPECT_EQ(causes, std::vector{SelectionCause::place});
+    EXPECT_EQ(currentID(sources), "fcitx5:pinyin");
 }
 
 TEST(DesktopInputSources, doesNotHangWithAnFcitxThatHangs)

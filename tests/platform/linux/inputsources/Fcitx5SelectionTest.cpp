@@ -54,6 +54,35 @@ TEST(Fcitx5Selection, believesNothingThatIsReadWhileTheKeyboardMovesOrTheDaemonF
     EXPECT_EQ(selection.take(observed(anotherContext, "anthy"), start + 2s), Change::context);
 }
 
+TEST(Fcitx5Selection, takesWhatWasSelectedDuringAPauseForNobodysChoice)
+{
+    auto selection = following("pinyin");
+    const auto read = selection.beginRead();
+    ASSERT_TRUE(read);
+
+    selection.pause();
+
+    EXPECT_EQ(selection.method(), "pinyin") << "Nothing better is known.";
+    EXPECT_TRUE(selection.hasRead());
+    EXPECT_FALSE(selection.endRead(*read)) << "It may be from before what was selected.";
+    EXPECT_EQ(selection.take(observed(context, "anthy"), start + 1s), Change::context);
+    EXPECT_EQ(selection.take(observed(context, "pinyin"), start + 2s), Change::choice);
+}
+
+TEST(Fcitx5Selection, notifiesOfNothingWhenAPauseHasChangedNothing)
+{
+    for (const std::string method : {"pinyin", ""}) {
+        auto selection = following(method);
+
+        selection.pause();
+
+        EXPECT_EQ(selection.take(observed(method.empty() ? "" : context, method), start + 1s),
+            Change::none);
+        EXPECT_EQ(selection.take(observed(context, "anthy"), start + 2s),
+            method.empty() ? Change::context : Change::choice);
+    }
+}
+
 TEST(Fcitx5Selection, hasNoMethodWhileNoWindowTypes)
 {
     Fcitx5Selection selection;
