@@ -1,13 +1,12 @@
 #pragma once
 
-#include "app/LanguagePreference.h"
-#include "app/MainWindowTab.h"
 #include "clipboard/ClipboardPreferenceKeys.h"
 #include "inputmethod/InputMethodPreferenceKeys.h"
 #include "mouse/MousePreferenceKeys.h"
 #include "platform/UserFolders.h"
 #include "preferences/PreferenceTable.h"
 #include "screenshot/ScreenshotPreferenceKeys.h"
+#include "shell/ShellPreferenceKeys.h"
 
 #include <string>
 #include <tuple>
@@ -17,27 +16,26 @@ namespace brindlex {
 
 extern template struct PreferenceForm<HotkeyCombo>;
 
-/// All preferences of the program in their order: its own, and those that the subsystems declare.
+/// All preferences of the program in their order, as the rooms declare them.
 /// A preference is named by its member, `&UserDefaultPreferenceKeys::launchAtLogin`.
 struct UserDefaultPreferenceKeys {
     using Keys = UserDefaultPreferenceKeys;
+    using Shell = ShellPreferenceKeys;
     using Screenshot = ScreenshotPreferenceKeys;
     using InputMethod = InputMethodPreferenceKeys;
     using Clipboard = ClipboardPreferenceKeys;
 
-    PreferenceKey<MainWindowTab> selectedMainWindowTab{
-        MainWindowTab::general, "selectedMainWindowTab"};
-    PreferenceKey<bool> launchAtLogin{false, "launchAtLogin"};
-    PreferenceKey<bool> showsDockIcon{true, "showsDockIcon"};
+    PreferenceKey<MainWindowTab> selectedMainWindowTab = Shell{}.selectedMainWindowTab;
+    PreferenceKey<bool> launchAtLogin = Shell{}.launchAtLogin;
+    PreferenceKey<bool> showsDockIcon = Shell{}.showsDockIcon;
     /// The default is the user's download folder; only `forUser` knows it.
     PreferenceKey<std::string> screenshotSaveDirectoryPath
         = Screenshot{}.screenshotSaveDirectoryPath;
     PreferenceKey<HotkeyCombo> screenshotHotkey = Screenshot{}.screenshotHotkey;
     PreferenceKey<std::string> baiduOCRAPIToken = Screenshot{}.baiduOCRAPIToken;
-    PreferenceKey<std::string, Seeding::never> lastRunAppVersion{"", "lastRunAppVersion"};
-    PreferenceKey<std::string, Seeding::never> updatedFromVersion{"", "updatedFromVersion"};
-    PreferenceKey<LanguagePreference> languagePreference{
-        LanguagePreference::system, "languagePreference"};
+    PreferenceKey<std::string, Seeding::never> lastRunAppVersion = Shell{}.lastRunAppVersion;
+    PreferenceKey<std::string, Seeding::never> updatedFromVersion = Shell{}.updatedFromVersion;
+    PreferenceKey<LanguagePreference> languagePreference = Shell{}.languagePreference;
     PreferenceKey<InputMethodConfig> inputMethodConfig = InputMethod{}.inputMethodConfig;
     PreferenceKey<SmartInputMethodConfig> smartInputMethodConfig
         = InputMethod{}.smartInputMethodConfig;
@@ -46,9 +44,9 @@ struct UserDefaultPreferenceKeys {
     PreferenceKey<bool> clipboardAutoPaste = Clipboard{}.clipboardAutoPaste;
     PreferenceKey<std::int64_t> clipboardMaxItems = Clipboard{}.clipboardMaxItems;
     PreferenceKey<HotkeyCombo> clipboardHotkey = Clipboard{}.clipboardHotkey;
-    PreferenceKey<bool> shouldRestoreFocusAfterLanguageRelaunch{
-        false, "shouldRestoreFocusAfterLanguageRelaunch"};
-    PreferenceKey<std::vector<std::string>, Seeding::never> appleLanguages{{}, "AppleLanguages"};
+    PreferenceKey<bool> shouldRestoreFocusAfterLanguageRelaunch
+        = Shell{}.shouldRestoreFocusAfterLanguageRelaunch;
+    PreferenceKey<std::vector<std::string>, Seeding::never> appleLanguages = Shell{}.appleLanguages;
 
     bool operator==(const UserDefaultPreferenceKeys&) const = default;
 

@@ -1,7 +1,7 @@
 #include "preferences/PreferenceKey.h"
 
-#include "app/LanguagePreference.h"
-#include "app/MainWindowTab.h"
+#include "shell/LanguagePreference.h"
+#include "shell/MainWindowTab.h"
 #include "eventtap/HotkeyCombo.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "preferences/UserDefaultsStorageBox.h"
