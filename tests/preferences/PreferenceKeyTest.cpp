@@ -1,10 +1,10 @@
 #include "preferences/PreferenceKey.h"
 
-#include "shell/LanguagePreference.h"
-#include "shell/MainWindowTab.h"
 #include "eventtap/HotkeyCombo.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "preferences/UserDefaultsStorageBox.h"
+#include "shell/LanguagePreference.h"
+#include "shell/MainWindowTab.h"
 
 #include <gtest/gtest.h>
 
