@@ -129,6 +129,14 @@ std::string trimmed(std::string_view text)
 std::string lowercased(std::string_view text)
 {
     std::string result;
+    if (plainLength(text) == text.size()) {
+        const auto lower = [](char byte) {
+            return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte + ('a' - 'A')) : byte;
+        };
+        result.resize(text.size());
+        std::transform(text.begin(), text.end(), result.begin(), lower);
+        return result;
+    }
     const auto source = icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size()));
     icu::UnicodeString::fromUTF8(source).toLower(icu::Locale::getRoot()).toUTF8String(result);
     return result;
