@@ -142,6 +142,14 @@ std::string lowercased(std::string_view text)
     return result;
 }
 
+std::string uppercased(std::string_view text)
+{
+    std::string result;
+    const auto source = icu::StringPiece(text.data(), static_cast<std::int32_t>(text.size()));
+    icu::UnicodeString::fromUTF8(source).toUpper(icu::Locale::getRoot()).toUTF8String(result);
+    return result;
+}
+
 std::vector<std::string> split(std::string_view text, char separator)
 {
     std::vector<std::string> pieces;

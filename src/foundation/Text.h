@@ -29,6 +29,9 @@ std::string trimmed(std::string_view text);
 /// The text in lower case, without regard to a language.
 std::string lowercased(std::string_view text);
 
+/// The text in upper case, without regard to a language.
+std::string uppercased(std::string_view text);
+
 /// The pieces between the separators; empty pieces are kept, so there is always at least one.
 std::vector<std::string> split(std::string_view text, char separator);
 

@@ -12,6 +12,7 @@ inline constexpr std::uint16_t a = 0;
 inline constexpr std::uint16_t s = 1;
 inline constexpr std::uint16_t rightBracket = 30;
 inline constexpr std::uint16_t leftBracket = 33;
+inline constexpr std::uint16_t escape = 53;
 inline constexpr std::uint16_t rightCommand = 54;
 inline constexpr std::uint16_t command = 55;
 inline constexpr std::uint16_t shift = 56;

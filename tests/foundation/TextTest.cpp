@@ -105,6 +105,12 @@ TEST(Text, isLoweredWithoutRegardToALanguage)
     EXPECT_EQ(lowercased(std::string_view("A\0B", 3)), std::string("a\0b", 3));
 }
 
+TEST(Text, isBroughtToUpperCaseWithoutRegardToALanguage)
+{
+    EXPECT_EQ(uppercased(""), "");
+    EXPECT_EQ(uppercased("aé ß i"), "AÉ SS I");
+}
+
 TEST(Text, isSplitIntoAtLeastOnePiece)
 {
     EXPECT_EQ(split("", '/'), Pieces{""});

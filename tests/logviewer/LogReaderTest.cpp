@@ -12,7 +12,7 @@ namespace brindlex {
 namespace {
 
 namespace fs = std::filesystem;
-using Texts = std::vector<std::string>;
+using LogTexts = std::vector<std::string>;
 
 class LogReaderTest : public testing::Test {
 protected:
@@ -23,17 +23,17 @@ protected:
         std::ofstream(file, std::ios::app | std::ios::binary) << text;
     }
 
-    Texts messages() const
+    LogTexts messages() const
     {
-        Texts found;
+        LogTexts found;
         for (const auto& entry : reader.entries().value())
             found.push_back(entry.message);
         return found;
     }
 
-    Texts ids() const
+    LogTexts ids() const
     {
-        Texts found;
+        LogTexts found;
         for (const auto& entry : reader.entries().value())
             found.push_back(entry.id);
         return found;
@@ -54,8 +54,8 @@ TEST_F(LogReaderTest, readsWhatIsThereAndThenWhatIsAdded)
 {
     append("one\ntwo\n");
     reader.start();
-    EXPECT_EQ(messages(), (Texts{"one", "two"}));
-    EXPECT_EQ(ids(), (Texts{"com.brindlex.Brindlex.app#1", "com.brindlex.Brindlex.app#2"}));
+    EXPECT_EQ(messages(), (LogTexts{"one", "two"}));
+    EXPECT_EQ(ids(), (LogTexts{"com.brindlex.Brindlex.app#1", "com.brindlex.Brindlex.app#2"}));
     EXPECT_EQ(reader.fileByteSize().value(), 8U);
 
     append("three\n");
@@ -63,7 +63,7 @@ TEST_F(LogReaderTest, readsWhatIsThereAndThenWhatIsAdded)
     EXPECT_EQ(messages().size(), 2U);
     mainThread.advance(0.001);
 
-    EXPECT_EQ(messages(), (Texts{"one", "two", "three"}));
+    EXPECT_EQ(messages(), (LogTexts{"one", "two", "three"}));
     EXPECT_EQ(ids().back(), "com.brindlex.Brindlex.app#3");
     EXPECT_EQ(reader.fileByteSize().value(), 14U);
 }
@@ -74,13 +74,13 @@ TEST_F(LogReaderTest, startsOnceAndReadsNothingOnceItIsStopped)
     reader.start();
     append("two\n");
     reader.start();
-    EXPECT_EQ(messages(), Texts{"one"}) << "The second start does nothing.";
+    EXPECT_EQ(messages(), LogTexts{"one"}) << "The second start does nothing.";
     EXPECT_EQ(mainThread.timers(), 1U);
 
     reader.stop();
     tick();
 
-    EXPECT_EQ(messages(), Texts{"one"});
+    EXPECT_EQ(messages(), LogTexts{"one"});
     EXPECT_EQ(mainThread.timers(), 0U);
 }
 
@@ -88,15 +88,15 @@ TEST_F(LogReaderTest, showsALineOnceItIsComplete)
 {
     append("one\ntw");
     reader.start();
-    EXPECT_EQ(messages(), Texts{"one"});
+    EXPECT_EQ(messages(), LogTexts{"one"});
 
     append("o");
     tick();
-    EXPECT_EQ(messages(), Texts{"one"});
+    EXPECT_EQ(messages(), LogTexts{"one"});
     append("\n");
     tick();
 
-    EXPECT_EQ(messages(), (Texts{"one", "two"}));
+    EXPECT_EQ(messages(), (LogTexts{"one", "two"}));
 }
 
 TEST_F(LogReaderTest, startsOverWithAShorterFile)
@@ -107,8 +107,8 @@ TEST_F(LogReaderTest, startsOverWithAShorterFile)
     append("new\n");
     tick();
 
-    EXPECT_EQ(messages(), Texts{"new"});
-    EXPECT_EQ(ids(), Texts{"com.brindlex.Brindlex.app#1"});
+    EXPECT_EQ(messages(), LogTexts{"new"});
+    EXPECT_EQ(ids(), LogTexts{"com.brindlex.Brindlex.app#1"});
 }
 
 TEST_F(LogReaderTest, takesAFileThatHasGrownPastTheOffsetForAContinuation)
@@ -119,26 +119,26 @@ TEST_F(LogReaderTest, takesAFileThatHasGrownPastTheOffsetForAContinuation)
     append("a new line\n");
     tick();
 
-    EXPECT_EQ(messages(), (Texts{"one", "w line"}));
+    EXPECT_EQ(messages(), (LogTexts{"one", "w line"}));
 }
 
 TEST_F(LogReaderTest, isEmptyWithoutAFileAndFollowsOneThatComes)
 {
     reader.start();
-    EXPECT_EQ(messages(), Texts{});
+    EXPECT_EQ(messages(), LogTexts{});
     EXPECT_EQ(reader.loadError().value(), std::nullopt);
 
     append("one\n");
     tick();
-    EXPECT_EQ(messages(), Texts{"one"});
+    EXPECT_EQ(messages(), LogTexts{"one"});
     fs::remove(file);
     tick();
 
-    EXPECT_EQ(messages(), Texts{});
+    EXPECT_EQ(messages(), LogTexts{});
     EXPECT_EQ(reader.fileByteSize().value(), 0U);
     append("two\n");
     tick();
-    EXPECT_EQ(ids(), Texts{"com.brindlex.Brindlex.app#1"});
+    EXPECT_EQ(ids(), LogTexts{"com.brindlex.Brindlex.app#1"});
 }
 
 TEST_F(LogReaderTest, keepsTheNewestFiveThousandEntries)
@@ -180,12 +180,12 @@ TEST_F(LogReaderTest, skipsWhatIsNotTextAndGoesOnBehindIt)
 {
     append("one\n\xFF\n");
     reader.start();
-    EXPECT_EQ(messages(), Texts{});
+    EXPECT_EQ(messages(), LogTexts{});
 
     append("two\n");
     tick();
 
-    EXPECT_EQ(messages(), Texts{"two"});
+    EXPECT_EQ(messages(), LogTexts{"two"});
 }
 
 TEST_F(LogReaderTest, saysThatThereIsNoContainerUntilThereIsOne)
@@ -195,13 +195,13 @@ TEST_F(LogReaderTest, saysThatThereIsNoContainerUntilThereIsOne)
         reader.start();
         EXPECT_EQ(reader.loadError().value(), "App Group container unavailable");
         tick();
-        EXPECT_EQ(withoutContainer.lines(), Texts{}) << "No failure is logged.";
+        EXPECT_EQ(withoutContainer.lines(), LogTexts{}) << "No failure is logged.";
     }
     append("one\n");
     tick();
 
     EXPECT_EQ(reader.loadError().value(), std::nullopt);
-    EXPECT_EQ(messages(), Texts{"one"});
+    EXPECT_EQ(messages(), LogTexts{"one"});
 }
 
 TEST_F(LogReaderTest, saysWhyTheFileCannotBeRead)
@@ -211,7 +211,7 @@ TEST_F(LogReaderTest, saysWhyTheFileCannotBeRead)
     fs::remove(file);
     fs::create_directory(file);
     tick();
-    EXPECT_EQ(messages(), Texts{});
+    EXPECT_EQ(messages(), LogTexts{});
     EXPECT_EQ(reader.loadError().value(), "Failed to read log: Is not a regular file");
     reader.reload();
     EXPECT_EQ(reader.loadError().value(), "Failed to read log: Is not a regular file");
@@ -221,8 +221,8 @@ TEST_F(LogReaderTest, saysWhyTheFileCannotBeRead)
     tick();
 
     EXPECT_EQ(reader.loadError().value(), std::nullopt);
-    EXPECT_EQ(messages(), Texts{"two"});
-    EXPECT_EQ(log.lines(), Texts{});
+    EXPECT_EQ(messages(), LogTexts{"two"});
+    EXPECT_EQ(log.lines(), LogTexts{});
 }
 
 TEST_F(LogReaderTest, emptiesTheFile)
@@ -233,11 +233,11 @@ TEST_F(LogReaderTest, emptiesTheFile)
     reader.clear();
 
     EXPECT_EQ(contentOf(file), "");
-    EXPECT_EQ(messages(), Texts{});
+    EXPECT_EQ(messages(), LogTexts{});
     EXPECT_EQ(reader.loadError().value(), std::nullopt);
     append("two\n");
     tick();
-    EXPECT_EQ(messages(), Texts{"two"});
+    EXPECT_EQ(messages(), LogTexts{"two"});
 }
 
 TEST_F(LogReaderTest, saysWhyTheFileCannotBeEmptied)
@@ -257,7 +257,7 @@ TEST_F(LogReaderTest, readsFromTheStartAgain)
 
     reader.reload();
 
-    EXPECT_EQ(ids(), (Texts{"com.brindlex.Brindlex.app#1", "com.brindlex.Brindlex.app#2"}));
+    EXPECT_EQ(ids(), (LogTexts{"com.brindlex.Brindlex.app#1", "com.brindlex.Brindlex.app#2"}));
 }
 
 TEST_F(LogReaderTest, notifiesOfNothingWhileNothingChanges)
