@@ -7,11 +7,17 @@
 #include "platform/IconRendering.h"
 
 #include <filesystem>
+#include <string_view>
 
 namespace brindlex {
 
 /// Why an application cannot be referred to.
 enum class LoaderError { unreadableBundle, missingBundleIdentifier };
+
+constexpr std::string_view logLabel(LoaderError error)
+{
+    return error == LoaderError::unreadableBundle ? "unreadableBundle" : "missingBundleIdentifier";
+}
 
 /// Makes references to applications from what their bundles say, and keeps their icons where the
 /// file-manager extension may read them. Main thread only.
