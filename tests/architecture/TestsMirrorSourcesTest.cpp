@@ -34,6 +34,7 @@ const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheir
         {"Fcitx5Method", "IBusConnection", "IBusEngine", "XkbRegistry"}},
     {"DBusNotificationsTest and DBusProgramInstancesTest, on a real bus",
         {"DBusReply", "DBusSignal", "OwnBusConnection", "SessionBus"}},
+    {"PosixProcessLaunchingTest and PosixProgramRelaunchingTest", {"FreshStart"}},
     {"PreferenceFileTest", {"FolderLock"}},
     {"SwitchReducerSelectionTest and its neighbours", {"SwitchAttempt"}},
     {"X11ApplicationOpeningTest, with a shell on a real bus", {"DesktopOverview"}},

@@ -2,11 +2,9 @@
 
 #include "foundation/Result.h"
 #include "log/Log.h"
+#include "platform/linux/system/FreshStart.h"
 
-#include <csignal>
 #include <cstdlib>
-#include <cstring>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <thread>
@@ -29,57 +27,6 @@ std::filesystem::path shellFor(const std::filesystem::path& executable)
     const char* const own = std::getenv("SHELL");
     return own && *own == '/' && canBeRun(own) ? own : "/bin/sh";
 }
-
-std::vector<char*> pointersTo(std::vector<std::string>& texts)
-{
-    std::vector<char*> pointers;
-    pointers.reserve(texts.size() + 1);
-    for (auto& text : texts)
-        pointers.push_back(text.data());
-    pointers.push_back(nullptr);
-    return pointers;
-}
-
-/// How a process starts: in a session of its own, with the signals as a new process has them and
-/// with the standard streams alone.
-class FreshStart {
-public:
-    FreshStart()
-    {
-        sigset_t none;
-        sigemptyset(&none);
-        sigset_t all;
-        sigfillset(&all);
-        posix_spawnattr_init(&attributes_);
-        posix_spawnattr_setsigmask(&attributes_, &none);
-        posix_spawnattr_setsigdefault(&attributes_, &all);
-        posix_spawnattr_setflags(
-            &attributes_, POSIX_SPAWN_SETSID | POSIX_SPAWN_SETSIGMASK | POSIX_SPAWN_SETSIGDEF);
-        posix_spawn_file_actions_init(&actions_);
-        posix_spawn_file_actions_addclosefrom_np(&actions_, STDERR_FILENO + 1);
-    }
-    ~FreshStart()
-    {
-        posix_spawn_file_actions_destroy(&actions_);
-        posix_spawnattr_destroy(&attributes_);
-    }
-    FreshStart(const FreshStart&) = delete;
-    FreshStart& operator=(const FreshStart&) = delete;
-
-    Result<pid_t, std::string> run(char* const* command) const
-    {
-        pid_t process = -1;
-        const int error
-            = posix_spawn(&process, command[0], &actions_, &attributes_, command, environ);
-        if (error != 0)
-            return fail(std::string(std::strerror(error)));
-        return process;
-    }
-
-private:
-    posix_spawnattr_t attributes_{};
-    posix_spawn_file_actions_t actions_{};
-};
 
 /// Somebody has to wait for a process, or it stays in the table of processes.
 void waitForEnd(pid_t process)
@@ -105,11 +52,9 @@ void waitBeside(pid_t process)
     }
 }
 
-/// Never by `fork`: to copy the memory map of a program with windows takes longer than all else
-/// between a click and its command.
 Result<Done, std::string> start(std::vector<std::string> command)
 {
-    const auto process = FreshStart().run(pointersTo(command).data());
+    const auto process = startFresh(std::move(command));
     if (!process)
         return fail(process.error());
     waitBeside(*process);
