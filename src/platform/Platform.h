@@ -19,6 +19,7 @@
 #include "platform/OverlayPanel.h"
 #include "platform/ProcessLaunching.h"
 #include "platform/ProgramActivation.h"
+#include "platform/ProgramBundle.h"
 #include "platform/ProgramInstances.h"
 #include "platform/RunningApplications.h"
 #include "platform/SessionLock.h"
@@ -55,6 +56,7 @@ struct Platform {
     WindowList& windows;
     ProcessLaunching& processes;
     ApplicationOpening& opening;
+    const ProgramBundle& program;
 };
 
 } // namespace brindlex

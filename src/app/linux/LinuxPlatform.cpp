@@ -1,6 +1,7 @@
 #include "app/linux/LinuxPlatform.h"
 
 #include "app/linux/EitherSessionLock.h"
+#include "app/linux/ProgramBuild.h"
 #include "platform/linux/accessibility/AccessibleBrowserPages.h"
 #include "platform/linux/accessibility/AccessibleElementTree.h"
 #include "platform/linux/input/X11CursorReading.h"
@@ -25,7 +26,8 @@ LinuxPlatform::LinuxPlatform(
     const SessionOffer& offer, LinuxSession& session, Clock& clock, AppGroupContainer& container)
     : session_(session), desktopEntries_(DesktopEntries::ofUser()), browserQueue_("Brindlex.AX"),
       elementQueue_("Brindlex.Elem"), bundles_(desktopEntries_), icons_(desktopEntries_),
-      processes_(session.mainThread), abilities_(choose(offer.hasX11, clock, container))
+      processes_(session.mainThread), program_(programBuild()),
+      abilities_(choose(offer.hasX11, clock, container))
 {
 }
 
@@ -77,6 +79,7 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
             {{hasX11, [&] { return make_shared<X11WindowList>(x11().display); }}}),
         .processes = processes_,
         .opening = first.of<ApplicationOpening>({{hasX11, [&] { return x11Opening(); }}}),
+        .program = program_,
     };
 }
 

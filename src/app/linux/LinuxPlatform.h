@@ -50,6 +50,7 @@ private:
     QtIconRendering icons_;
     QtProgramActivation activation_;
     PosixProcessLaunching processes_;
+    const ProgramBundle program_;
 
     /// Made for the first provider that needs it.
     std::shared_ptr<X11Session> x11_;

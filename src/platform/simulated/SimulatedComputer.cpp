@@ -42,6 +42,7 @@ Platform SimulatedComputer::platformWithInput(EventTapping& tapping, EventPostin
         .windows = windows,
         .processes = processes,
         .opening = opening,
+        .program = program,
     };
 }
 

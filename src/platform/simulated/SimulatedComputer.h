@@ -93,6 +93,7 @@ public:
     SimulatedWindowList windows;
     SimulatedProcessLaunching processes;
     SimulatedApplicationOpening opening;
+    ProgramBundle program{.name = "Program", .shortVersion = "1.0.0"};
 
 private:
     Platform platform_;
