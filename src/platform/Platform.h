@@ -15,6 +15,7 @@
 #include "platform/EventTap.h"
 #include "platform/IconRendering.h"
 #include "platform/KeyboardInputSources.h"
+#include "platform/LoginItem.h"
 #include "platform/MainThread.h"
 #include "platform/OverlayPanel.h"
 #include "platform/ProcessLaunching.h"
@@ -57,6 +58,7 @@ struct Platform {
     ProcessLaunching& processes;
     ApplicationOpening& opening;
     const ProgramBundle& program;
+    LoginItem& loginItem;
 };
 
 } // namespace brindlex

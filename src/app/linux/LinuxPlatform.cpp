@@ -1,5 +1,6 @@
 #include "app/linux/LinuxPlatform.h"
 
+#include "app/ProgramIdentity.h"
 #include "app/linux/EitherSessionLock.h"
 #include "app/linux/ProgramBuild.h"
 #include "platform/linux/accessibility/AccessibleBrowserPages.h"
@@ -27,6 +28,8 @@ LinuxPlatform::LinuxPlatform(
     : session_(session), desktopEntries_(DesktopEntries::ofUser()), browserQueue_("Brindlex.AX"),
       elementQueue_("Brindlex.Elem"), bundles_(desktopEntries_), icons_(desktopEntries_),
       processes_(session.mainThread), program_(programBuild()),
+      loginItem_(XdgLoginItem::ofUser(
+          programIdentity::bundleIdentifier, {program_.name, runningProgramFile()})),
       abilities_(choose(offer.hasX11, clock, container))
 {
 }
@@ -80,6 +83,7 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
         .processes = processes_,
         .opening = first.of<ApplicationOpening>({{hasX11, [&] { return x11Opening(); }}}),
         .program = program_,
+        .loginItem = loginItem_,
     };
 }
 

@@ -9,6 +9,7 @@
 #include "platform/linux/applications/DesktopApplicationBundles.h"
 #include "platform/linux/applications/DesktopEntries.h"
 #include "platform/linux/applications/QtIconRendering.h"
+#include "platform/linux/applications/XdgLoginItem.h"
 #include "platform/linux/panels/QtProgramActivation.h"
 #include "platform/linux/system/PosixProcessLaunching.h"
 #include "platform/linux/system/SystemBus.h"
@@ -51,6 +52,7 @@ private:
     QtProgramActivation activation_;
     PosixProcessLaunching processes_;
     const ProgramBundle program_;
+    XdgLoginItem loginItem_;
 
     /// Made for the first provider that needs it.
     std::shared_ptr<X11Session> x11_;

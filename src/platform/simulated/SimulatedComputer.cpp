@@ -10,6 +10,7 @@ SimulatedComputer::SimulatedComputer(const SimulatedComputerSetup& setup)
       overlayPanel(mainThread, setup.journal), activation(setup.journal),
       eventPermissions(setup.journal), input(setup.tapPlace, setup.journal),
       displayLink(setup.journal), processes(setup.journal), opening(setup.journal),
+      loginItem(setup.journal),
       platform_(platformWithInput(input, input))
 {
 }
@@ -43,6 +44,7 @@ Platform SimulatedComputer::platformWithInput(EventTapping& tapping, EventPostin
         .processes = processes,
         .opening = opening,
         .program = program,
+        .loginItem = loginItem,
     };
 }
 

@@ -17,6 +17,7 @@
 #include "platform/simulated/SimulatedInputSources.h"
 #include "platform/simulated/SimulatedJournal.h"
 #include "platform/simulated/SimulatedKeyboard.h"
+#include "platform/simulated/SimulatedLoginItem.h"
 #include "platform/simulated/SimulatedMainThread.h"
 #include "platform/simulated/SimulatedMouse.h"
 #include "platform/simulated/SimulatedNotifications.h"
@@ -94,6 +95,7 @@ public:
     SimulatedProcessLaunching processes;
     SimulatedApplicationOpening opening;
     ProgramBundle program{.name = "Program", .shortVersion = "1.0.0"};
+    SimulatedLoginItem loginItem;
 
 private:
     Platform platform_;

@@ -27,6 +27,19 @@ void addOnce(std::vector<Value>& list, const Value& value)
         list.push_back(value);
 }
 
+/// The own folder and then the shared ones, without those that are relative.
+std::vector<std::filesystem::path> absoluteFolders(
+    const std::string& own, const std::string& shared)
+{
+    std::vector<std::filesystem::path> folders;
+    for (const auto& folder : split(own + ":" + shared, ':')) {
+        const auto path = std::filesystem::path(folder).lexically_normal();
+        if (path.is_absolute())
+            addOnce(folders, path.has_filename() ? path : path.parent_path());
+    }
+    return folders;
+}
+
 void addForms(std::vector<std::string>& forms, const std::string& locale)
 {
     const auto at = locale.find('@');
@@ -49,15 +62,14 @@ void addForms(std::vector<std::string>& forms, const std::string& locale)
 
 std::vector<std::filesystem::path> dataFolders()
 {
-    const auto own = variable("XDG_DATA_HOME", variable("HOME") + "/.local/share");
-    const auto shared = variable("XDG_DATA_DIRS", "/usr/local/share:/usr/share");
-    std::vector<std::filesystem::path> folders;
-    for (const auto& folder : split(own + ":" + shared, ':')) {
-        const auto path = std::filesystem::path(folder).lexically_normal();
-        if (path.is_absolute())
-            addOnce(folders, path.has_filename() ? path : path.parent_path());
-    }
-    return folders;
+    return absoluteFolders(variable("XDG_DATA_HOME", variable("HOME") + "/.local/share"),
+        variable("XDG_DATA_DIRS", "/usr/local/share:/usr/share"));
+}
+
+std::vector<std::filesystem::path> configFolders()
+{
+    return absoluteFolders(variable("XDG_CONFIG_HOME", variable("HOME") + "/.config"),
+        variable("XDG_CONFIG_DIRS", "/etc/xdg"));
 }
 
 std::vector<std::string> entryLanguages()

@@ -10,6 +10,9 @@ namespace brindlex {
 /// Base Directory Specification). Relative ones are ignored.
 std::vector<std::filesystem::path> dataFolders();
 
+/// The folders with settings, in the same way.
+std::vector<std::filesystem::path> configFolders();
+
 /// The user's languages in the forms in which a desktop entry marks them, best first:
 /// "sr_YU@Latn", "sr_YU", "sr@Latn", "sr". As the environment names them.
 std::vector<std::string> entryLanguages();

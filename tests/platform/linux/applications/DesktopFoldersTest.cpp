@@ -28,6 +28,18 @@ TEST(DesktopFolders, areThoseOfTheEnvironmentEachOnceAndNoRelativeOnes)
     EXPECT_EQ(dataFolders(), (Paths{"/own", "/shared"}));
 }
 
+TEST(DesktopFolders, haveSettingsInTheSameWay)
+{
+    ScopedEnvironment environment;
+    environment.set("HOME", "/home/someone");
+    environment.set("XDG_CONFIG_HOME", std::nullopt);
+    environment.set("XDG_CONFIG_DIRS", std::nullopt);
+    EXPECT_EQ(configFolders(), (Paths{"/home/someone/.config", "/etc/xdg"}));
+    environment.set("XDG_CONFIG_HOME", "/own");
+    environment.set("XDG_CONFIG_DIRS", "/shared:relative:/own");
+    EXPECT_EQ(configFolders(), (Paths{"/own", "/shared"}));
+}
+
 TEST(DesktopFolders, nameLanguagesFromTheMostSpecificForm)
 {
     EXPECT_EQ(
