@@ -22,6 +22,7 @@
 #include "platform/ProgramActivation.h"
 #include "platform/ProgramBundle.h"
 #include "platform/ProgramInstances.h"
+#include "platform/ProgramRelaunching.h"
 #include "platform/RunningApplications.h"
 #include "platform/SessionLock.h"
 #include "platform/UserDefaults.h"
@@ -59,6 +60,7 @@ struct Platform {
     ApplicationOpening& opening;
     const ProgramBundle& program;
     LoginItem& loginItem;
+    ProgramRelaunching& relaunching;
 };
 
 } // namespace brindlex

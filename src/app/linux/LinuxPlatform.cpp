@@ -16,6 +16,7 @@
 #include "platform/linux/windows/RandRDisplayLink.h"
 #include "platform/linux/windows/X11DisplayScale.h"
 #include "platform/linux/windows/X11SessionLock.h"
+#include "platform/linux/windows/X11StartupIdentifier.h"
 #include "platform/linux/windows/X11WindowList.h"
 
 #include <memory>
@@ -30,6 +31,7 @@ LinuxPlatform::LinuxPlatform(
       processes_(session.mainThread), program_(programBuild()),
       loginItem_(XdgLoginItem::ofUser(
           programIdentity::bundleIdentifier, {program_.name, runningProgramFile()})),
+      relaunching_(runningProgramFile(), startupIdentifierForNow),
       abilities_(choose(offer.hasX11, clock, container))
 {
 }
@@ -84,6 +86,7 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
         .opening = first.of<ApplicationOpening>({{hasX11, [&] { return x11Opening(); }}}),
         .program = program_,
         .loginItem = loginItem_,
+        .relaunching = relaunching_,
     };
 }
 

@@ -12,6 +12,7 @@
 #include "platform/linux/applications/XdgLoginItem.h"
 #include "platform/linux/panels/QtProgramActivation.h"
 #include "platform/linux/system/PosixProcessLaunching.h"
+#include "platform/linux/system/PosixProgramRelaunching.h"
 #include "platform/linux/system/SystemBus.h"
 #include "platform/posix/SerialQueue.h"
 
@@ -53,6 +54,7 @@ private:
     PosixProcessLaunching processes_;
     const ProgramBundle program_;
     XdgLoginItem loginItem_;
+    PosixProgramRelaunching relaunching_;
 
     /// Made for the first provider that needs it.
     std::shared_ptr<X11Session> x11_;

@@ -10,7 +10,7 @@ SimulatedComputer::SimulatedComputer(const SimulatedComputerSetup& setup)
       overlayPanel(mainThread, setup.journal), activation(setup.journal),
       eventPermissions(setup.journal), input(setup.tapPlace, setup.journal),
       displayLink(setup.journal), processes(setup.journal), opening(setup.journal),
-      loginItem(setup.journal),
+      loginItem(setup.journal), relaunching(setup.journal),
       platform_(platformWithInput(input, input))
 {
 }
@@ -45,6 +45,7 @@ Platform SimulatedComputer::platformWithInput(EventTapping& tapping, EventPostin
         .opening = opening,
         .program = program,
         .loginItem = loginItem,
+        .relaunching = relaunching,
     };
 }
 

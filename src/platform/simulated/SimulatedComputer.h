@@ -25,6 +25,7 @@
 #include "platform/simulated/SimulatedProcessLaunching.h"
 #include "platform/simulated/SimulatedProgramActivation.h"
 #include "platform/simulated/SimulatedProgramInstances.h"
+#include "platform/simulated/SimulatedProgramRelaunching.h"
 #include "platform/simulated/SimulatedSessionLock.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "platform/simulated/SimulatedUserFolders.h"
@@ -96,6 +97,7 @@ public:
     SimulatedApplicationOpening opening;
     ProgramBundle program{.name = "Program", .shortVersion = "1.0.0"};
     SimulatedLoginItem loginItem;
+    SimulatedProgramRelaunching relaunching;
 
 private:
     Platform platform_;

@@ -3,6 +3,7 @@
 #include "platform/linux/preferences/JsonFileUserDefaults.h"
 #include "platform/linux/system/DBusNotifications.h"
 #include "platform/linux/system/DBusProgramInstances.h"
+#include "platform/linux/system/PosixProgramRelaunching.h"
 #include "platform/linux/system/QtMainThread.h"
 #include "platform/linux/system/UnixSignals.h"
 #include "platform/posix/SerialQueue.h"
@@ -67,6 +68,16 @@ int count(const Arguments& arguments)
     return QCoreApplication::exec();
 }
 
+/// Starts the program in its place and ends.
+int relaunch(const Arguments& arguments)
+{
+    int status = 1;
+    PosixProgramRelaunching(arguments.at(0), [] {
+        return std::string();
+    }).relaunch([&](const Result<Done, std::string>& result) { status = result ? 0 : 1; });
+    return status;
+}
+
 /// Prints each signal that asks it to end; ends at the first, or never when told to be stubborn.
 /// The patience is in milliseconds.
 int signals(const Arguments& arguments)
@@ -97,6 +108,8 @@ int main(int count, char** arguments)
         return brindlex::post(rest);
     if (task == "count")
         return brindlex::count(rest);
+    if (task == "relaunch")
+        return brindlex::relaunch(rest);
     if (task == "signals")
         return brindlex::signals(rest);
     return 2;
