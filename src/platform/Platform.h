@@ -13,6 +13,7 @@
 #include "platform/EventPermissions.h"
 #include "platform/EventPosting.h"
 #include "platform/EventTap.h"
+#include "platform/HttpReading.h"
 #include "platform/IconRendering.h"
 #include "platform/KeyboardInputSources.h"
 #include "platform/LoginItem.h"
@@ -61,6 +62,7 @@ struct Platform {
     const ProgramBundle& program;
     LoginItem& loginItem;
     ProgramRelaunching& relaunching;
+    HttpReading& network;
 };
 
 } // namespace brindlex

@@ -32,6 +32,7 @@ LinuxPlatform::LinuxPlatform(
       loginItem_(XdgLoginItem::ofUser(
           programIdentity::bundleIdentifier, {program_.name, runningProgramFile()})),
       relaunching_(runningProgramFile(), startupIdentifierForNow),
+      network_(session.mainThread, runningProgramFile().replace_filename("brindlex-fetch")),
       abilities_(choose(offer.hasX11, clock, container))
 {
 }
@@ -87,6 +88,7 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
         .program = program_,
         .loginItem = loginItem_,
         .relaunching = relaunching_,
+        .network = network_,
     };
 }
 

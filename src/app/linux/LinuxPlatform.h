@@ -10,6 +10,7 @@
 #include "platform/linux/applications/DesktopEntries.h"
 #include "platform/linux/applications/QtIconRendering.h"
 #include "platform/linux/applications/XdgLoginItem.h"
+#include "platform/linux/network/FetcherHttpReading.h"
 #include "platform/linux/panels/QtProgramActivation.h"
 #include "platform/linux/system/PosixProcessLaunching.h"
 #include "platform/linux/system/PosixProgramRelaunching.h"
@@ -55,6 +56,7 @@ private:
     const ProgramBundle program_;
     XdgLoginItem loginItem_;
     PosixProgramRelaunching relaunching_;
+    FetcherHttpReading network_;
 
     /// Made for the first provider that needs it.
     std::shared_ptr<X11Session> x11_;

@@ -46,6 +46,7 @@ Platform SimulatedComputer::platformWithInput(EventTapping& tapping, EventPostin
         .program = program,
         .loginItem = loginItem,
         .relaunching = relaunching,
+        .network = network,
     };
 }
 

@@ -12,6 +12,7 @@
 #include "platform/simulated/SimulatedDisplayLink.h"
 #include "platform/simulated/SimulatedDisplayScale.h"
 #include "platform/simulated/SimulatedEventPermissions.h"
+#include "platform/simulated/SimulatedHttpReading.h"
 #include "platform/simulated/SimulatedIconRendering.h"
 #include "platform/simulated/SimulatedInput.h"
 #include "platform/simulated/SimulatedInputSources.h"
@@ -98,6 +99,7 @@ public:
     ProgramBundle program{.name = "Program", .shortVersion = "1.0.0"};
     SimulatedLoginItem loginItem;
     SimulatedProgramRelaunching relaunching;
+    SimulatedHttpReading network{mainThread};
 
 private:
     Platform platform_;
