@@ -4,6 +4,7 @@ namespace brindlex {
 
 SharedInstances::SharedInstances(Platform& platform)
     : platform_(platform), preferences_(platform.defaults, platform.userFolders),
+      softwareUpdateManager_(platform.network, platform.program),
       unlockedTapping_(platform.eventTapping, platform.sessionLock),
       changesOfOthers_(platform.defaults.observeChanges([this] { reload(); }))
 {

@@ -8,6 +8,7 @@
 #include "inputmethod/InputMethodSubsystem.h"
 #include "mouse/MouseSubsystem.h"
 #include "platform/Platform.h"
+#include "shell/SoftwareUpdateManager.h"
 
 namespace brindlex {
 
@@ -19,6 +20,8 @@ public:
     explicit SharedInstances(Platform& platform);
 
     Preferences& preferences() { return preferences_; }
+    /// There from the beginning, whether or not anybody ever asks for updates.
+    SoftwareUpdateManager& softwareUpdateManager() { return softwareUpdateManager_; }
     OverlayHUDController& overlayHUDController();
     GlobalEventTap& globalEventTap();
     InputMethodSubsystem& inputMethod();
@@ -29,6 +32,7 @@ private:
 
     Platform& platform_;
     Preferences preferences_;
+    SoftwareUpdateManager softwareUpdateManager_;
     UnlockedEventTapping unlockedTapping_;
     MadeOnFirstUse<OverlayHUDController> overlayHUDController_;
     MadeOnFirstUse<GlobalEventTap> globalEventTap_;
