@@ -4,6 +4,7 @@
 #include "app/SingleInstanceManager.h"
 #include "log/Log.h"
 #include "platform/AppGroupFolders.h"
+#include "shell/AppVersionTracker.h"
 
 namespace brindlex {
 namespace {
@@ -28,8 +29,11 @@ void AppLifecycleCoordinator::start()
         return;
     makeAppGroupFolders(platform_.container);
     Log::prune(platform_.clock.now());
+    shared_.languageManager().applyStoredPreference();
     seedDefaults(platform_.defaults, shared_.preferences().keys());
+    AppVersionTracker(platform_.defaults, platform_.program.shortVersion).recordLaunch();
     observeShowRequests();
+    shared_.launchAtLoginManager().beginObserving();
     startInputSwitching();
     shared_.mouse().clickManager().start();
     shared_.mouse().gestureManager().start();

@@ -10,6 +10,16 @@ SharedInstances::SharedInstances(Platform& platform)
 {
 }
 
+LanguageManager& SharedInstances::languageManager()
+{
+    return languageManager_.get(platform_.defaults, platform_.relaunching, platform_.instances);
+}
+
+LaunchAtLoginManager& SharedInstances::launchAtLoginManager()
+{
+    return launchAtLoginManager_.get(platform_.defaults, platform_.loginItem, platform_.activation);
+}
+
 OverlayHUDController& SharedInstances::overlayHUDController()
 {
     return overlayHUDController_.get(

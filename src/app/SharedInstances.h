@@ -8,6 +8,8 @@
 #include "inputmethod/InputMethodSubsystem.h"
 #include "mouse/MouseSubsystem.h"
 #include "platform/Platform.h"
+#include "shell/LanguageManager.h"
+#include "shell/LaunchAtLoginManager.h"
 #include "shell/SoftwareUpdateManager.h"
 
 namespace brindlex {
@@ -22,6 +24,8 @@ public:
     Preferences& preferences() { return preferences_; }
     /// There from the beginning, whether or not anybody ever asks for updates.
     SoftwareUpdateManager& softwareUpdateManager() { return softwareUpdateManager_; }
+    LanguageManager& languageManager();
+    LaunchAtLoginManager& launchAtLoginManager();
     OverlayHUDController& overlayHUDController();
     GlobalEventTap& globalEventTap();
     InputMethodSubsystem& inputMethod();
@@ -34,6 +38,8 @@ private:
     Preferences preferences_;
     SoftwareUpdateManager softwareUpdateManager_;
     UnlockedEventTapping unlockedTapping_;
+    MadeOnFirstUse<LanguageManager> languageManager_;
+    MadeOnFirstUse<LaunchAtLoginManager> launchAtLoginManager_;
     MadeOnFirstUse<OverlayHUDController> overlayHUDController_;
     MadeOnFirstUse<GlobalEventTap> globalEventTap_;
     MadeOnFirstUse<InputMethodSubsystem> inputMethod_;

@@ -30,7 +30,9 @@ const std::vector<std::string> wholeStart{
     "set clipboardMaxItems",
     "set clipboardHotkey",
     "set shouldRestoreFocusAfterLanguageRelaunch",
+    "set lastRunAppVersion",
     "observe com.brindlex.Brindlex.showMainWindow com.brindlex.Brindlex",
+    "observe becoming active",
     // Each event of the switching writes the learning record twice: both settings, and the start.
     "set smartInputMethodConfig",
     "set smartInputMethodConfig",
