@@ -116,8 +116,8 @@ void getReadyForLater(Platform& platform)
 
 } // namespace
 
-int runOnDesktop(char* programName, Clock& clock, XdgUserFolders& userFolders,
-    AppGroupContainer& container, LogWriter& log)
+int runOnDesktop(char* programName, [[maybe_unused]] bool isSilentLaunch, Clock& clock,
+    XdgUserFolders& userFolders, AppGroupContainer& container, LogWriter& log)
 {
     if (!canReachDisplay()) {
         constexpr auto problem = "No X server can be reached; DISPLAY has to name one";

@@ -11,7 +11,10 @@ namespace brindlex {
 /// the end of the session, or because another instance runs, which the standard error output says.
 /// Returns the exit status of the process; does not return when the X server goes away, but ends
 /// the process with status 1 and the log complete.
-int runOnDesktop(char* programName, Clock& clock, XdgUserFolders& userFolders,
+///
+/// `isSilentLaunch` is whether the desktop started the program at login, so that no window is to
+/// come to the front.
+int runOnDesktop(char* programName, bool isSilentLaunch, Clock& clock, XdgUserFolders& userFolders,
     AppGroupContainer& container, LogWriter& log);
 
 } // namespace brindlex

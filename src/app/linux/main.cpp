@@ -1,4 +1,6 @@
+#include "app/linux/CommandLine.h"
 #include "app/linux/LinuxEntry.h"
+#include "app/linux/ProgramBuild.h"
 #include "foundation/FatalError.h"
 #include "log/Log.h"
 #include "log/LogWriter.h"
@@ -11,6 +13,8 @@
 
 #include <chrono>
 #include <csignal>
+#include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 namespace {
@@ -18,12 +22,9 @@ namespace {
 /// How long the queue of the log looks for another line before its thread sleeps.
 constexpr std::chrono::milliseconds logPause{10};
 
-} // namespace
-
-int main(int, char** arguments)
+int runProgram(char* name, bool isStartedAtLogin)
 {
     using namespace brindlex;
-    openStandardDescriptors();
     // A file that may grow no further is a failure to be handled, not a reason to end.
     std::signal(SIGXFSZ, SIG_IGN);
     PosixClock clock;
@@ -38,10 +39,37 @@ int main(int, char** arguments)
         log->drain();
     });
 
-    const int status = runOnDesktop(arguments[0], clock, userFolders, container, *log);
+    const int status = runOnDesktop(name, isStartedAtLogin, clock, userFolders, container, *log);
 
     log->drain();
     setFatalErrorHandler(nullptr);
     Log::install(nullptr);
     return status;
+}
+
+int print(const std::string& text)
+{
+    if (std::fputs(text.c_str(), stdout) >= 0 && std::fflush(stdout) == 0)
+        return EXIT_SUCCESS;
+    std::perror("brindlex: write error");
+    return EXIT_FAILURE;
+}
+
+int refuse(const std::string& words)
+{
+    std::fputs(words.c_str(), stderr);
+    return brindlex::CommandLine::refusedStatus;
+}
+
+} // namespace
+
+int main(int count, char** arguments)
+{
+    using namespace brindlex;
+    openStandardDescriptors();
+    return match(
+        readCommandLine({arguments, arguments + count}, programBuild()),
+        [&](const CommandLine::Run& run) { return runProgram(arguments[0], run.isStartedAtLogin); },
+        [](const CommandLine::Print& printing) { return print(printing.text); },
+        [](const CommandLine::Refuse& refusal) { return refuse(refusal.words); });
 }
