@@ -15,6 +15,9 @@ public:
 
     /// Notifies the observer each time the program has become the active one.
     virtual Subscription observeDidBecomeActive(std::function<void()> handler) = 0;
+
+    /// Notifies the observer each time another program has become the active one, or none has.
+    virtual Subscription observeDidResignActive(std::function<void()> handler) = 0;
 };
 
 } // namespace brindlex

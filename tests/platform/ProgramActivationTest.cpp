@@ -54,6 +54,8 @@ protected:
     Focus focus;
     int notified = 0;
     Subscription observation = focus.activation().observeDidBecomeActive([this] { ++notified; });
+    int resigned = 0;
+    Subscription resignation = focus.activation().observeDidResignActive([this] { ++resigned; });
 };
 
 using Focuses = testing::Types<SimulatedFocus, RealFocus>;
@@ -73,13 +75,29 @@ TYPED_TEST(ProgramActivationContract, notifiesEachTimeTheProgramBecomesActive)
     }
 }
 
+TYPED_TEST(ProgramActivationContract, notifiesEachTimeTheProgramIsActiveNoMore)
+{
+    for (int time = 1; time <= 2; ++time) {
+        this->focus.takeFocus();
+        EXPECT_TRUE(this->focus.until([&] { return this->focus.activation().isActive(); }));
+        EXPECT_EQ(this->resigned, time - 1);
+        this->focus.loseFocus();
+        EXPECT_TRUE(this->focus.until([&] { return this->resigned == time; }));
+        EXPECT_FALSE(this->focus.activation().isActive());
+    }
+}
+
 TYPED_TEST(ProgramActivationContract, notifiesNobodyWhoHasEndedTheSubscription)
 {
     this->observation.reset();
+    this->resignation.reset();
     this->focus.takeFocus();
     EXPECT_TRUE(this->focus.until([&] { return this->focus.activation().isActive(); }));
+    this->focus.loseFocus();
+    EXPECT_TRUE(this->focus.until([&] { return !this->focus.activation().isActive(); }));
 
     EXPECT_EQ(this->notified, 0);
+    EXPECT_EQ(this->resigned, 0);
 }
 
 } // namespace

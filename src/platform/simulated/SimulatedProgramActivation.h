@@ -4,6 +4,8 @@
 #include "platform/ProgramActivation.h"
 #include "platform/simulated/SimulatedJournal.h"
 
+#include <utility>
+
 namespace brindlex {
 
 /// The program comes to the front and goes when a test says so.
@@ -18,13 +20,21 @@ public:
     {
         return journal_.addObservation("becoming active", subscribers_.add(std::move(handler)));
     }
+    Subscription observeDidResignActive(std::function<void()> handler) override
+    {
+        return journal_.addObservation("resigning active", resigned_.add(std::move(handler)));
+    }
 
     void becomeActive()
     {
         isActive_ = true;
         subscribers_.notify();
     }
-    void resignActive() { isActive_ = false; }
+    void resignActive()
+    {
+        if (std::exchange(isActive_, false))
+            resigned_.notify();
+    }
 
     bool isObserved() const { return !subscribers_.isEmpty(); }
 
@@ -32,6 +42,7 @@ private:
     SimulatedJournal::Writer journal_;
     bool isActive_ = false;
     Subscribers<std::function<void()>> subscribers_;
+    Subscribers<std::function<void()>> resigned_;
 };
 
 } // namespace brindlex

@@ -10,7 +10,10 @@ QtProgramActivation::QtProgramActivation()
 {
     QObject::connect(
         qGuiApp, &QGuiApplication::applicationStateChanged, &context_, [this](auto state) {
-            if (state == Qt::ApplicationActive)
+            const bool isActive = state == Qt::ApplicationActive;
+            if (std::exchange(wasActive_, isActive) && !isActive)
+                resignObservers_.notify();
+            else if (isActive)
                 observers_.notify();
         });
 }
@@ -23,6 +26,11 @@ bool QtProgramActivation::isActive() const
 Subscription QtProgramActivation::observeDidBecomeActive(std::function<void()> handler)
 {
     return observers_.add(std::move(handler));
+}
+
+Subscription QtProgramActivation::observeDidResignActive(std::function<void()> handler)
+{
+    return resignObservers_.add(std::move(handler));
 }
 
 } // namespace brindlex

@@ -14,10 +14,13 @@ public:
 
     bool isActive() const override;
     Subscription observeDidBecomeActive(std::function<void()> handler) override;
+    Subscription observeDidResignActive(std::function<void()> handler) override;
 
 private:
     QObject context_;
+    bool wasActive_ = false;
     Subscribers<std::function<void()>> observers_;
+    Subscribers<std::function<void()>> resignObservers_;
 };
 
 } // namespace brindlex
