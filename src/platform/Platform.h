@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/AccessibilityTree.h"
+#include "platform/ActivationPolicy.h"
 #include "platform/AppGroupContainer.h"
 #include "platform/ApplicationBundles.h"
 #include "platform/ApplicationOpening.h"
@@ -24,6 +25,7 @@
 #include "platform/ProgramBundle.h"
 #include "platform/ProgramInstances.h"
 #include "platform/ProgramRelaunching.h"
+#include "platform/ProgramWindows.h"
 #include "platform/RunningApplications.h"
 #include "platform/SessionLock.h"
 #include "platform/UserDefaults.h"
@@ -48,6 +50,8 @@ struct Platform {
     BrowserPageReading& browserPages;
     OverlayPanel& overlayPanel;
     ProgramActivation& activation;
+    ActivationPolicySetting& activationPolicy;
+    ProgramWindows& programWindows;
     SessionLock& sessionLock;
     EventPermissions& eventPermissions;
     EventTapping& eventTapping;

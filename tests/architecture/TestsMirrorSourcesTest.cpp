@@ -26,7 +26,7 @@ const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheir
             "X11TappedInput"}},
     {"every test that opens a window on a real server",
         {"ActiveScreen", "RoundedRegion", "X11Connection", "X11Properties", "X11WindowActivation",
-            "X11WindowReading", "X11WindowStack", "XkbProtocol"}},
+            "X11WindowReading", "X11WindowStack", "WindowsServer", "XkbProtocol"}},
     {"ModifierChangeTest, and the played scenarios on a real server", {"X11ExactModifiers"}},
     {"AccessibleBrowserPagesTest and AccessibleElementTreeTest, with programs behind a real bus",
         {"AccessibilityReply", "AccessibleElementReader", "AccessiblePageReader"}},

@@ -1,6 +1,7 @@
 #include "app/linux/LinuxEntry.h"
 
 #include "app/AppLifecycleCoordinator.h"
+#include "app/ProgramIdentity.h"
 #include "app/SharedInstances.h"
 #include "app/SingleInstanceManager.h"
 #include "app/linux/LinuxPlatform.h"
@@ -9,7 +10,7 @@
 #include "log/Log.h"
 #include "platform/linux/system/UnixSignals.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 
 #include <array>
 #include <cstdio>
@@ -114,6 +115,13 @@ void getReadyForLater(Platform& platform)
     ::malloc_trim(0);
 }
 
+/// The names by which the desktop knows the windows.
+void nameWindows()
+{
+    QApplication::setApplicationName(QStringLiteral("Brindlex"));
+    QApplication::setDesktopFileName(QString::fromLatin1(programIdentity::bundleIdentifier));
+}
+
 } // namespace
 
 int runOnDesktop(char* programName, [[maybe_unused]] bool isSilentLaunch, Clock& clock,
@@ -131,8 +139,9 @@ int runOnDesktop(char* programName, [[maybe_unused]] bool isSilentLaunch, Clock&
         const_cast<char*>("xcb"), const_cast<char*>("-platformtheme"),
         const_cast<char*>("generic")};
     int argumentCount = static_cast<int>(arguments.size());
-    QGuiApplication::setQuitOnLastWindowClosed(false);
-    QGuiApplication application(argumentCount, arguments.data());
+    QApplication::setQuitOnLastWindowClosed(false);
+    QApplication application(argumentCount, arguments.data());
+    nameWindows();
 
     endWithSignals();
     LinuxSession session(userFolders);

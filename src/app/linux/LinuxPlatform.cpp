@@ -12,6 +12,7 @@
 #include "platform/linux/inputsources/DesktopInputSources.h"
 #include "platform/linux/panels/QtOverlayPanel.h"
 #include "platform/linux/panels/X11ApplicationOpening.h"
+#include "platform/linux/programwindows/X11ActivationPolicy.h"
 #include "platform/linux/system/DBusSessionLock.h"
 #include "platform/linux/windows/RandRDisplayLink.h"
 #include "platform/linux/windows/X11DisplayScale.h"
@@ -62,6 +63,9 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
         .overlayPanel = first.of<OverlayPanel>(
             {{hasX11, [&] { return make_shared<QtOverlayPanel>(x11().display); }}}),
         .activation = activation_,
+        .activationPolicy = first.of<ActivationPolicySetting>(
+            {{hasX11, [&] { return make_shared<X11ActivationPolicy>(x11().display); }}}),
+        .programWindows = first.of<ProgramWindows>({{hasX11, [&] { return x11Windows(); }}}),
         .sessionLock = first.of<SessionLock>({{hasX11, [&] { return x11Lock(); }}}),
         .eventPermissions = first.of<EventPermissions>({{hasX11,
             [&] { return make_shared<X11EventPermissions>(x11().input, session_.preferences); }}}),
@@ -124,6 +128,12 @@ std::shared_ptr<SessionLock> LinuxPlatform::x11Lock()
     return std::make_shared<EitherSessionLock>(
         std::make_shared<DBusSessionLock>(session_.bus.connection(), systemBus_.connection()),
         std::make_shared<X11SessionLock>(x11().display));
+}
+
+std::shared_ptr<ProgramWindows> LinuxPlatform::x11Windows()
+{
+    programWindows_ = std::make_shared<QtProgramWindows>(x11().display);
+    return programWindows_;
 }
 
 X11Session& LinuxPlatform::x11()

@@ -12,6 +12,7 @@
 #include "platform/linux/applications/XdgLoginItem.h"
 #include "platform/linux/network/FetcherHttpReading.h"
 #include "platform/linux/panels/QtProgramActivation.h"
+#include "platform/linux/programwindows/QtProgramWindows.h"
 #include "platform/linux/system/PosixProcessLaunching.h"
 #include "platform/linux/system/PosixProgramRelaunching.h"
 #include "platform/linux/system/SystemBus.h"
@@ -41,6 +42,7 @@ private:
     std::shared_ptr<BrowserPageReading> accessiblePages(const Clock& clock);
     std::shared_ptr<ApplicationOpening> x11Opening();
     std::shared_ptr<SessionLock> x11Lock();
+    std::shared_ptr<ProgramWindows> x11Windows();
     X11Session& x11();
 
     // What every session offers.
@@ -60,6 +62,7 @@ private:
 
     /// Made for the first provider that needs it.
     std::shared_ptr<X11Session> x11_;
+    std::shared_ptr<QtProgramWindows> programWindows_;
     ProviderChoice providers_;
     Platform abilities_;
 };

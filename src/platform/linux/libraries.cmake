@@ -1,6 +1,6 @@
 # The libraries of the system that the rooms for Linux are made of.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui)
 pkg_check_modules(CURL REQUIRED IMPORTED_TARGET GLOBAL libcurl)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core DBus Gui Widgets)
 pkg_check_modules(SYSTEMD REQUIRED IMPORTED_TARGET GLOBAL libsystemd)
 pkg_check_modules(XCB REQUIRED IMPORTED_TARGET GLOBAL xcb xcb-xkb)
 pkg_check_modules(XCB_RANDR REQUIRED IMPORTED_TARGET GLOBAL xcb-randr)

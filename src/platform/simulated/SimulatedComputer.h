@@ -2,6 +2,7 @@
 
 #include "platform/Platform.h"
 #include "platform/simulated/SimulatedAccessibilityTree.h"
+#include "platform/simulated/SimulatedActivationPolicy.h"
 #include "platform/simulated/SimulatedAppGroupContainer.h"
 #include "platform/simulated/SimulatedApplicationBundles.h"
 #include "platform/simulated/SimulatedApplicationOpening.h"
@@ -27,6 +28,7 @@
 #include "platform/simulated/SimulatedProgramActivation.h"
 #include "platform/simulated/SimulatedProgramInstances.h"
 #include "platform/simulated/SimulatedProgramRelaunching.h"
+#include "platform/simulated/SimulatedProgramWindows.h"
 #include "platform/simulated/SimulatedSessionLock.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "platform/simulated/SimulatedUserFolders.h"
@@ -84,6 +86,8 @@ public:
     SimulatedBrowserPages browserPages;
     SimulatedOverlayPanel overlayPanel;
     SimulatedProgramActivation activation;
+    SimulatedActivationPolicy activationPolicy;
+    SimulatedProgramWindows programWindows;
     SimulatedSessionLock sessionLock;
     SimulatedEventPermissions eventPermissions;
     SimulatedInput input;

@@ -28,6 +28,8 @@ TEST(SimulatedComputer, offersEachAbilityUnderItsName)
     EXPECT_EQ(&platform.browserPages, &computer.browserPages);
     EXPECT_EQ(&platform.overlayPanel, &computer.overlayPanel);
     EXPECT_EQ(&platform.activation, &computer.activation);
+    EXPECT_EQ(&platform.activationPolicy, &computer.activationPolicy);
+    EXPECT_EQ(&platform.programWindows, &computer.programWindows);
     EXPECT_EQ(&platform.eventPermissions, &computer.eventPermissions);
     EXPECT_EQ(&platform.eventTapping, &computer.input);
     EXPECT_EQ(&platform.eventPosting, &computer.input);

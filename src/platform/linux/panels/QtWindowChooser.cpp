@@ -6,6 +6,7 @@
 #include "platform/linux/panels/WindowChoice.h"
 #include "platform/linux/panels/WindowChooserView.h"
 #include "platform/linux/panels/X11InputHold.h"
+#include "platform/linux/windows/WindowsServer.h"
 
 #include <QCursor>
 #include <QExposeEvent>
@@ -39,13 +40,6 @@ std::vector<WindowLabel> labelsOf(const std::vector<OpenWindow>& windows)
     for (const auto& window : windows)
         labels.push_back(labelOf(window));
     return labels;
-}
-
-/// The connection of the windows; null where these are not those of an X server.
-xcb_connection_t* windowsServer()
-{
-    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return x11 ? x11->connection() : nullptr;
 }
 
 /// Returns when the X server has what the windows asked for.
