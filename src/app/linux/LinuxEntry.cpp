@@ -8,6 +8,7 @@
 #include "app/linux/LinuxSession.h"
 #include "inputmethod/TextInputSourceService.h"
 #include "log/Log.h"
+#include "platform/linux/system/LinkerTables.h"
 #include "platform/linux/system/UnixSignals.h"
 
 #include <QApplication>
@@ -113,6 +114,7 @@ void getReadyForLater(Platform& platform)
         names += source.localizedName;
     platform.overlayPanel.warmUp(names);
     ::malloc_trim(0);
+    releaseLinkerTables();
 }
 
 /// The names by which the desktop knows the windows.
