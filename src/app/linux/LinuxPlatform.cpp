@@ -96,6 +96,17 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
     };
 }
 
+Subscription LinuxPlatform::addWindowScene(
+    const WindowScene& scene, std::function<std::unique_ptr<QWidget>()> make)
+{
+    return programWindows_->addScene({
+        .id = std::string(scene.id),
+        .identifier = windowIdentifier(scene.id),
+        .size = {scene.width, scene.height},
+        .make = std::move(make),
+    });
+}
+
 Subscription LinuxPlatform::observeDisplayEnd(std::function<void()> handler)
 {
     return x11().display.observeEnd(std::move(handler));

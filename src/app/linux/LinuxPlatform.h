@@ -17,6 +17,7 @@
 #include "platform/linux/system/PosixProgramRelaunching.h"
 #include "platform/linux/system/SystemBus.h"
 #include "platform/posix/SerialQueue.h"
+#include "shell/WindowScenes.h"
 
 #include <functional>
 #include <memory>
@@ -31,6 +32,11 @@ public:
         AppGroupContainer& container);
 
     Platform& abilities() { return abilities_; }
+
+    /// Gives the program a window that it can open, from before its start until the subscription
+    /// ends; see `QtProgramWindows::Scene`.
+    Subscription addWindowScene(
+        const WindowScene& scene, std::function<std::unique_ptr<QWidget>()> make);
 
     /// Notifies when the connection to the display has ended.
     Subscription observeDisplayEnd(std::function<void()> handler);
