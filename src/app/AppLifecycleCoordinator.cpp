@@ -5,6 +5,7 @@
 #include "log/Log.h"
 #include "platform/AppGroupFolders.h"
 #include "shell/AppVersionTracker.h"
+#include "shell/RestoreFocusFlag.h"
 
 namespace brindlex {
 namespace {
@@ -33,6 +34,7 @@ void AppLifecycleCoordinator::start()
     seedDefaults(platform_.defaults, shared_.preferences().keys());
     AppVersionTracker(platform_.defaults, platform_.program.shortVersion).recordLaunch();
     observeShowRequests();
+    shared_.windows().applyDockPolicy();
     shared_.launchAtLoginManager().beginObserving();
     startInputSwitching();
     shared_.mouse().clickManager().start();
@@ -42,6 +44,12 @@ void AppLifecycleCoordinator::start()
     Log::notice("Brindlex launched", logCategory::lifecycle);
 }
 
+void AppLifecycleCoordinator::didFinishLaunching(bool isSilentLaunch)
+{
+    const bool restoresFocus = consumeRestoreFocusFlag(platform_.defaults);
+    shared_.windows().mainWindow().finishLaunching(restoresFocus || !isSilentLaunch);
+}
+
 void AppLifecycleCoordinator::stop()
 {
     Log::notice("Brindlex will terminate", logCategory::lifecycle);
@@ -49,6 +57,8 @@ void AppLifecycleCoordinator::stop()
     shared_.mouse().clickManager().tearDown();
     shared_.mouse().gestureManager().tearDown();
     shared_.mouse().scrollManager().tearDown();
+    shared_.windows().dockIconPolicy().cancelPending();
+    shared_.windows().mainWindow().stop();
     showRequests_.reset();
     showing_.cancel();
 }
@@ -56,7 +66,12 @@ void AppLifecycleCoordinator::stop()
 void AppLifecycleCoordinator::showMainWindow()
 {
     Log::info("Asked to show the main window", logCategory::lifecycle);
-    shared_.overlayHUDController().show("Brindlex", overlayDuration);
+    auto& windows = shared_.windows();
+    const auto result = windows.applyDockPolicy();
+    windows.mainWindow().handleDockResult(result, false);
+    windows.mainWindow().showMainWindow();
+    if (!windows.mainWindow().hasMainWindow())
+        shared_.overlayHUDController().show("Brindlex", overlayDuration);
 }
 
 bool AppLifecycleCoordinator::wakeExistingInstance()

@@ -23,11 +23,16 @@ public:
     /// Whether `start` went through to its end.
     bool isStarted() const { return isStarted_; }
 
+    /// Decides whether the launch brings the main window forward; called once, from the loop, after
+    /// `start`. A process that the desktop has started by itself, `isSilentLaunch`, shows nothing,
+    /// unless it has taken the place of one that had the user's eyes.
+    void didFinishLaunching(bool isSilentLaunch);
+
     /// Runs the stop sequence.
     void stop();
 
-    /// Brings the program before the user's eyes: asked for by a second launch. A flood of such
-    /// requests makes it show itself twice a second.
+    /// Brings the main window before the user's eyes, and where there is none the program's name:
+    /// asked for by a second launch. A flood of such requests makes it show itself twice a second.
     void showMainWindowRequested() { showing_.request(); }
 
 private:

@@ -26,6 +26,8 @@ OverlayHUDController& SharedInstances::overlayHUDController()
         platform_.overlayPanel, platform_.mainThread, platform_.sessionLock);
 }
 
+ShellWindows& SharedInstances::windows() { return windows_.get(platform_); }
+
 GlobalEventTap& SharedInstances::globalEventTap()
 {
     return globalEventTap_.get(unlockedTapping_, platform_.eventPermissions, platform_.activation);
@@ -37,6 +39,8 @@ MouseSubsystem& SharedInstances::mouse() { return mouse_.get(platform_, globalEv
 
 void SharedInstances::reload()
 {
+    if (auto* windows = windows_.ifMade())
+        windows->reload();
     if (auto* inputMethod = inputMethod_.ifMade())
         inputMethod->reload();
     if (auto* mouse = mouse_.ifMade())

@@ -10,6 +10,7 @@
 #include "platform/Platform.h"
 #include "shell/LanguageManager.h"
 #include "shell/LaunchAtLoginManager.h"
+#include "shell/ShellWindows.h"
 #include "shell/SoftwareUpdateManager.h"
 
 namespace brindlex {
@@ -27,6 +28,7 @@ public:
     LanguageManager& languageManager();
     LaunchAtLoginManager& launchAtLoginManager();
     OverlayHUDController& overlayHUDController();
+    ShellWindows& windows();
     GlobalEventTap& globalEventTap();
     InputMethodSubsystem& inputMethod();
     MouseSubsystem& mouse();
@@ -41,6 +43,7 @@ private:
     MadeOnFirstUse<LanguageManager> languageManager_;
     MadeOnFirstUse<LaunchAtLoginManager> launchAtLoginManager_;
     MadeOnFirstUse<OverlayHUDController> overlayHUDController_;
+    MadeOnFirstUse<ShellWindows> windows_;
     MadeOnFirstUse<GlobalEventTap> globalEventTap_;
     MadeOnFirstUse<InputMethodSubsystem> inputMethod_;
     MadeOnFirstUse<MouseSubsystem> mouse_;

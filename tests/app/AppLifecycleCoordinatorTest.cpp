@@ -9,7 +9,6 @@ namespace brindlex {
 namespace {
 
 const std::vector<std::string> wholeStart{
-    "observe preferences",
     "list com.brindlex.Brindlex",
     "container",
     "container",
@@ -17,7 +16,6 @@ const std::vector<std::string> wholeStart{
     "prune",
     "set selectedMainWindowTab",
     "set launchAtLogin",
-    "set showsDockIcon",
     "set screenshotSaveDirectoryPath",
     "set screenshotHotkey",
     "set baiduOCRAPIToken",
@@ -32,6 +30,11 @@ const std::vector<std::string> wholeStart{
     "set shouldRestoreFocusAfterLanguageRelaunch",
     "set lastRunAppVersion",
     "observe com.brindlex.Brindlex.showMainWindow com.brindlex.Brindlex",
+    "observe windows that open",
+    "observe windows that close",
+    "observe resigning active",
+    "observe windows that close",
+    "policy accessory",
     "observe becoming active",
     // Each event of the switching writes the learning record twice: both settings, and the start.
     "set smartInputMethodConfig",
@@ -59,6 +62,8 @@ TEST(AppLifecycleCoordinator, startsEverythingInItsOrder)
     const TemporaryFolder container;
     SimulatedProgram process;
     process.computer.container.setFolder(container.path());
+    process.shared.preferences().write(&UserDefaultPreferenceKeys::showsDockIcon, false);
+    process.journal.take();
 
     process.lifecycle.start();
 
@@ -139,6 +144,10 @@ TEST(AppLifecycleCoordinator, stopsWithoutHavingStarted)
             "observe enabled sources no more",
             "observe permissions",
             "observe becoming active",
+            "observe windows that open",
+            "observe windows that close",
+            "observe resigning active",
+            "observe windows that close",
         }));
     EXPECT_FALSE(process.shared.globalEventTap().isLive());
 }

@@ -117,6 +117,14 @@ void getReadyForLater(Platform& platform)
     releaseLinkerTables();
 }
 
+/// What happens once the loop runs: the launch is complete, and a moment later the rest gets ready.
+Subscription goOnInLoop(Platform& platform, AppLifecycleCoordinator& lifecycle, bool isSilentLaunch)
+{
+    platform.mainThread.post(
+        [&lifecycle, isSilentLaunch] { lifecycle.didFinishLaunching(isSilentLaunch); });
+    return platform.mainThread.after(warmUpDelay, [&platform] { getReadyForLater(platform); });
+}
+
 /// The names by which the desktop knows the windows.
 void nameWindows()
 {
@@ -160,9 +168,9 @@ int runOnDesktop(char* programName, [[maybe_unused]] bool isSilentLaunch, Clock&
 
     const auto displayEnd = linuxPlatform.observeDisplayEnd([] { Ending::endWithTheDisplay(); });
     lifecycle.start();
-    Subscription warmUp;
+    Subscription launch;
     if (lifecycle.isStarted())
-        warmUp = platform.mainThread.after(warmUpDelay, [&] { getReadyForLater(platform); });
+        launch = goOnInLoop(platform, lifecycle, false);
     // The loop alone: what the window library does beside it first is to ask the session bus for
     // screen readers, and it waits for ever for a bus that ends in that moment.
     const int status = QCoreApplication::exec();
