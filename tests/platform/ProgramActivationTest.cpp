@@ -36,7 +36,13 @@ public:
     }
 
     ProgramActivation& activation() { return activation_; }
-    void takeFocus() { windows_.requestActivation(static_cast<xcb_window_t>(window_.winId())); }
+    /// Until the window manager knows: it may be later than the window itself.
+    void takeFocus()
+    {
+        const auto own = static_cast<xcb_window_t>(window_.winId());
+        windows_.requestActivation(own);
+        loopUntil([&] { return windows_.active() == own; });
+    }
     void loseFocus() { windows_.requestActivation(other_.window()); }
     bool until(const std::function<bool()>& condition) { return loopUntil(condition); }
 
