@@ -1,5 +1,6 @@
 #include "platform/ProgramWindows.h"
 
+#include "platform/linux/bus/SessionBusAddress.h"
 #include "platform/linux/programwindows/QtProgramWindows.h"
 #include "platform/simulated/SimulatedProgramWindows.h"
 #include "support/loops/LoopUntil.h"
@@ -102,7 +103,7 @@ private:
     DesktopWindows desktop_{server_};
     PlainWindow other_{server_, {.wmClass = wmClass("Other"), .title = "Other"}};
     X11Connection connection_;
-    QtProgramWindows windows_{connection_};
+    QtProgramWindows windows_{connection_, sessionBusAddress()};
     Subscription main_ = windows_.addScene(scene(mainScene));
     Subscription logs_ = windows_.addScene(scene(logsScene));
 };

@@ -5,6 +5,7 @@
 #include "app/linux/ProgramBuild.h"
 #include "platform/linux/accessibility/AccessibleBrowserPages.h"
 #include "platform/linux/accessibility/AccessibleElementTree.h"
+#include "platform/linux/bus/SessionBusAddress.h"
 #include "platform/linux/input/X11CursorReading.h"
 #include "platform/linux/input/X11EventPermissions.h"
 #include "platform/linux/input/X11EventPosting.h"
@@ -143,7 +144,7 @@ std::shared_ptr<SessionLock> LinuxPlatform::x11Lock()
 
 std::shared_ptr<ProgramWindows> LinuxPlatform::x11Windows()
 {
-    programWindows_ = std::make_shared<QtProgramWindows>(x11().display);
+    programWindows_ = std::make_shared<QtProgramWindows>(x11().display, sessionBusAddress());
     return programWindows_;
 }
 

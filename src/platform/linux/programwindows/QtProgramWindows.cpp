@@ -1,14 +1,22 @@
 #include "platform/linux/programwindows/QtProgramWindows.h"
 
+#include "platform/linux/bus/BusReachability.h"
 #include "platform/linux/windows/X11WindowActivation.h"
 
 #include <QAccessible>
 #include <QApplication>
 #include <QEvent>
 
+#include <chrono>
 #include <utility>
 
 namespace brindlex {
+namespace {
+
+/// How long a window that is opened waits for the bus.
+constexpr std::chrono::milliseconds busPatience{200};
+
+} // namespace
 
 /// A window from its opening to its closing.
 class QtProgramWindows::OpenWindow : public QObject {
@@ -40,7 +48,10 @@ private:
     const std::unique_ptr<QWidget> widget_;
 };
 
-QtProgramWindows::QtProgramWindows(X11Connection& connection) : connection_(connection) { }
+QtProgramWindows::QtProgramWindows(X11Connection& connection, std::string sessionBus)
+    : connection_(connection), sessionBus_(std::move(sessionBus))
+{
+}
 
 QtProgramWindows::~QtProgramWindows() = default;
 
@@ -69,8 +80,7 @@ void QtProgramWindows::open(const std::string& scene)
     const auto found = scenes_.find(scene);
     if (found == scenes_.end() || window(scene))
         return;
-    // The loop of the program does not do this, as it costs a call on the session bus.
-    QAccessible::setRootObject(qApp);
+    offerToAssistiveTechnology();
     const ProgramWindow number{++opened_};
     auto& added = windows_[number];
     added = std::make_unique<OpenWindow>(*this, found->second, number);
@@ -109,6 +119,16 @@ QWidget* QtProgramWindows::widgetOf(ProgramWindow window) const
 {
     const auto found = windows_.find(window);
     return found == windows_.end() ? nullptr : &found->second->widget();
+}
+
+/// The window library does this with its first loop, and waits for ever for a bus that says
+/// nothing.
+void QtProgramWindows::offerToAssistiveTechnology()
+{
+    if (isOffered_ || !isBusReplying(sessionBus_, busPatience))
+        return;
+    isOffered_ = true;
+    QAccessible::setRootObject(qApp);
 }
 
 void QtProgramWindows::noteClosing(ProgramWindow window)

@@ -31,7 +31,8 @@ public:
         std::function<std::unique_ptr<QWidget>()> make{};
     };
 
-    explicit QtProgramWindows(X11Connection& connection);
+    /// At `sessionBus`, if that replies, assistive technology finds the windows.
+    QtProgramWindows(X11Connection& connection, std::string sessionBus);
     ~QtProgramWindows() override;
     QtProgramWindows(const QtProgramWindows&) = delete;
     QtProgramWindows& operator=(const QtProgramWindows&) = delete;
@@ -53,10 +54,13 @@ private:
     using OpenWindows = std::map<ProgramWindow, std::unique_ptr<OpenWindow>>;
 
     QWidget* widgetOf(ProgramWindow window) const;
+    void offerToAssistiveTechnology();
     void noteClosing(ProgramWindow window);
     void removeScene(const std::string& id);
 
     X11Connection& connection_;
+    const std::string sessionBus_;
+    bool isOffered_ = false;
     std::map<std::string, Scene> scenes_;
     OpenWindows windows_;
     std::uint64_t opened_ = 0;

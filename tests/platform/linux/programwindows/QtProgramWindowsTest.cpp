@@ -1,13 +1,18 @@
 #include "platform/linux/programwindows/QtProgramWindows.h"
 
+#include "platform/linux/bus/SessionBusAddress.h"
+#include "support/bus/SilentBus.h"
 #include "support/loops/LoopUntil.h"
 #include "support/screen/DesktopWindows.h"
 
+#include <QAccessible>
+#include <QApplication>
 #include <QCloseEvent>
 #include <QPointer>
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <vector>
 
 namespace brindlex {
 namespace {
@@ -55,7 +60,7 @@ protected:
     XConnection server;
     DesktopWindows desktop{server};
     X11Connection connection;
-    QtProgramWindows windows{connection};
+    QtProgramWindows windows{connection, sessionBusAddress()};
     Subscription registration = windows.addScene(scene());
     int closed = 0;
     Subscription closing
@@ -119,6 +124,52 @@ TEST_F(QtProgramWindowsTest, mayOpenAnotherWindowWhileOneCloses)
     onDesktop();
 }
 
+/// The object that is offered to assistive technology in place of the real offer.
+class OfferedRoots {
+public:
+    OfferedRoots()
+    {
+        roots.clear();
+        before_
+            = QAccessible::installRootObjectHandler([](QObject* root) { roots.push_back(root); });
+    }
+    ~OfferedRoots() { QAccessible::installRootObjectHandler(before_); }
+    OfferedRoots(const OfferedRoots&) = delete;
+    OfferedRoots& operator=(const OfferedRoots&) = delete;
+
+    static inline std::vector<QObject*> roots;
+
+private:
+    QAccessible::RootObjectHandler before_;
+};
+
+TEST_F(QtProgramWindowsTest, areOfferedToAssistiveTechnologyOnceOneIsOpened)
+{
+    const OfferedRoots offered;
+    windows.open("another");
+    EXPECT_EQ(OfferedRoots::roots, std::vector<QObject*>{});
+
+    for (int time = 0; time < 2; ++time) {
+        windows.open("settings");
+        last->close();
+    }
+
+    EXPECT_EQ(OfferedRoots::roots, std::vector<QObject*>{qApp});
+}
+
+TEST_F(QtProgramWindowsTest, openWithoutABusThatSaysNothing)
+{
+    const OfferedRoots offered;
+    const SilentBus silent;
+    QtProgramWindows others(connection, silent.address());
+    const auto settings = others.addScene(scene());
+
+    others.open("settings");
+
+    onDesktop();
+    EXPECT_EQ(OfferedRoots::roots, std::vector<QObject*>{});
+}
+
 TEST_F(QtProgramWindowsTest, destroysTheWindowWithItsScene)
 {
     windows.open("settings");
@@ -136,7 +187,7 @@ TEST_F(QtProgramWindowsTest, takesItsWindowsWithItAndNeedNotOutliveASubscription
 {
     Subscription outliving;
     {
-        QtProgramWindows others(connection);
+        QtProgramWindows others(connection, {});
         outliving = others.addScene(scene());
         others.open("settings");
         EXPECT_TRUE(last);
