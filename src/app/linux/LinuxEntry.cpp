@@ -134,8 +134,8 @@ void nameWindows()
 
 } // namespace
 
-int runOnDesktop(char* programName, [[maybe_unused]] bool isSilentLaunch, Clock& clock,
-    XdgUserFolders& userFolders, AppGroupContainer& container, LogWriter& log)
+int runOnDesktop(char* programName, bool isSilentLaunch, Clock& clock, XdgUserFolders& userFolders,
+    AppGroupContainer& container, LogWriter& log)
 {
     if (!canReachDisplay()) {
         constexpr auto problem = "No X server can be reached; DISPLAY has to name one";
@@ -170,7 +170,7 @@ int runOnDesktop(char* programName, [[maybe_unused]] bool isSilentLaunch, Clock&
     lifecycle.start();
     Subscription launch;
     if (lifecycle.isStarted())
-        launch = goOnInLoop(platform, lifecycle, false);
+        launch = goOnInLoop(platform, lifecycle, isSilentLaunch);
     // The loop alone: what the window library does beside it first is to ask the session bus for
     // screen readers, and it waits for ever for a bus that ends in that moment.
     const int status = QCoreApplication::exec();
