@@ -47,7 +47,7 @@ std::string hexText(Colour colour)
 
 double contrast(Colour one, Colour other)
 {
-    const auto [darker, lighter] = std::minmax(relativeLuminance(one), relativeLuminance(other));
+    const auto [darker, lighter] = std::minmax({relativeLuminance(one), relativeLuminance(other)});
     return (lighter + 0.05) / (darker + 0.05);
 }
 
