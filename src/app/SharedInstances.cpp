@@ -1,5 +1,7 @@
 #include "app/SharedInstances.h"
 
+#include "shell/SpokenLanguage.h"
+
 namespace brindlex {
 
 SharedInstances::SharedInstances(Platform& platform)
@@ -8,6 +10,11 @@ SharedInstances::SharedInstances(Platform& platform)
       unlockedTapping_(platform.eventTapping, platform.sessionLock),
       changesOfOthers_(platform.defaults.observeChanges([this] { reload(); }))
 {
+}
+
+const StringCatalogue& SharedInstances::strings()
+{
+    return strings_.get(spokenLanguage(platform_.defaults, platform_.languages));
 }
 
 LanguageManager& SharedInstances::languageManager()

@@ -2,6 +2,7 @@
 
 #include "app/OverlayHUDController.h"
 #include "app/Preferences.h"
+#include "catalogue/StringCatalogue.h"
 #include "eventtap/GlobalEventTap.h"
 #include "eventtap/UnlockedEventTapping.h"
 #include "foundation/MadeOnFirstUse.h"
@@ -25,6 +26,8 @@ public:
     Preferences& preferences() { return preferences_; }
     /// There from the beginning, whether or not anybody ever asks for updates.
     SoftwareUpdateManager& softwareUpdateManager() { return softwareUpdateManager_; }
+    /// In the language that the program speaks, which is settled when they are asked for first.
+    const StringCatalogue& strings();
     LanguageManager& languageManager();
     LaunchAtLoginManager& launchAtLoginManager();
     OverlayHUDController& overlayHUDController();
@@ -40,6 +43,7 @@ private:
     Preferences preferences_;
     SoftwareUpdateManager softwareUpdateManager_;
     UnlockedEventTapping unlockedTapping_;
+    MadeOnFirstUse<StringCatalogue> strings_;
     MadeOnFirstUse<LanguageManager> languageManager_;
     MadeOnFirstUse<LaunchAtLoginManager> launchAtLoginManager_;
     MadeOnFirstUse<OverlayHUDController> overlayHUDController_;

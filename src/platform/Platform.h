@@ -32,6 +32,9 @@
 #include "platform/UserFolders.h"
 #include "platform/WindowList.h"
 
+#include <string>
+#include <vector>
+
 namespace brindlex {
 
 /// The abilities of one computer, as a provider offers them. They outlive the program's parts.
@@ -40,6 +43,8 @@ struct Platform {
     Clock& clock;
     UserDefaults& defaults;
     UserFolders& userFolders;
+    /// Those that the system is set to, the preferred one first, as in "de_AT.UTF-8".
+    const std::vector<std::string>& languages;
     AppGroupContainer& container;
     DistributedNotifications& distributedNotifications;
     ProgramInstances& instances;

@@ -20,7 +20,9 @@
 #include "platform/linux/windows/X11SessionLock.h"
 #include "platform/linux/windows/X11StartupIdentifier.h"
 #include "platform/linux/windows/X11WindowList.h"
+#include "platform/posix/PosixLanguages.h"
 
+#include <cstdlib>
 #include <memory>
 #include <utility>
 
@@ -28,7 +30,8 @@ namespace brindlex {
 
 LinuxPlatform::LinuxPlatform(
     const SessionOffer& offer, LinuxSession& session, Clock& clock, AppGroupContainer& container)
-    : session_(session), desktopEntries_(DesktopEntries::ofUser()), browserQueue_("Brindlex.AX"),
+    : session_(session), languages_(posixLanguages(::getenv)),
+      desktopEntries_(DesktopEntries::ofUser()), browserQueue_("Brindlex.AX"),
       elementQueue_("Brindlex.Elem"), bundles_(desktopEntries_), icons_(desktopEntries_),
       processes_(session.mainThread), program_(programBuild()),
       loginItem_(XdgLoginItem::ofUser(
@@ -48,6 +51,7 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
         .clock = clock,
         .defaults = session_.preferences,
         .userFolders = session_.userFolders,
+        .languages = languages_,
         .container = container,
         .distributedNotifications = session_.notifications,
         .instances = session_.instances,

@@ -21,6 +21,8 @@
 
 #include <functional>
 #include <memory>
+#include <string>
+#include <vector>
 
 namespace brindlex {
 
@@ -53,6 +55,7 @@ private:
 
     // What every session offers.
     LinuxSession& session_;
+    const std::vector<std::string> languages_;
     SystemBus systemBus_;
     DesktopEntries desktopEntries_;
     SerialQueue browserQueue_;

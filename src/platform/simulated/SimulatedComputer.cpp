@@ -23,6 +23,7 @@ Platform SimulatedComputer::platformWithInput(EventTapping& tapping, EventPostin
         .clock = clock,
         .defaults = defaults,
         .userFolders = userFolders,
+        .languages = languages,
         .container = container,
         .distributedNotifications = distributedNotifications,
         .instances = instances,

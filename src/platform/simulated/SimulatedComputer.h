@@ -36,6 +36,7 @@
 
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace brindlex {
 
@@ -76,6 +77,7 @@ public:
     SimulatedMainThread mainThread{clock};
     SimulatedUserDefaults defaults;
     SimulatedUserFolders userFolders;
+    std::vector<std::string> languages;
     SimulatedAppGroupContainer container;
     SimulatedNotifications distributedNotifications;
     SimulatedProgramInstances instances;
