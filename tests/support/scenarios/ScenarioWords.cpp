@@ -57,8 +57,11 @@ std::string ScenarioWords::word()
 std::string ScenarioWords::rest()
 {
     auto text = word();
-    while (!isAtEnd())
-        text += " " + word();
+    // In two steps: joined first, this compiler at full optimisation warns of an overflow.
+    while (!isAtEnd()) {
+        text += ' ';
+        text += word();
+    }
     return text;
 }
 
