@@ -57,11 +57,8 @@ std::string ScenarioWords::word()
 std::string ScenarioWords::rest()
 {
     auto text = word();
-    // In two steps: joined first, this compiler at full optimisation warns of an overflow.
-    while (!isAtEnd()) {
-        text += ' ';
-        text += word();
-    }
+    while (!isAtEnd())
+        text += " " + word();
     return text;
 }
 
