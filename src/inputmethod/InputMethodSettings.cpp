@@ -26,6 +26,19 @@ void remove(std::vector<Rule>& rules, const Uuid& id)
     std::erase_if(rules, [&](const Rule& rule) { return rule.id == id; });
 }
 
+/// Two rules are for the same when `subject` is the same of both.
+template <typename Rule, typename Subject>
+void restore(std::vector<Rule>& rules, const Rule& rule, std::size_t index, Subject subject)
+{
+    const auto isForTheSame = [&](const Rule& each) {
+        return std::invoke(subject, each) == std::invoke(subject, rule);
+    };
+    if (std::any_of(rules.begin(), rules.end(), isForTheSame))
+        return;
+    const auto place = std::min(index, rules.size());
+    rules.insert(rules.begin() + static_cast<std::ptrdiff_t>(place), rule);
+}
+
 } // namespace
 
 SmartInputMethodStatus statusOf(const SmartInputMethodAppStats& stats)
@@ -100,6 +113,12 @@ void InputMethodSettings::removeAppRule(const Uuid& id)
     change([&](InputMethodConfig& config) { remove(config.rules, id); });
 }
 
+void InputMethodSettings::restoreAppRule(const InputMethodRule& rule, std::size_t index)
+{
+    const auto application = [](const InputMethodRule& each) { return each.app.bundleID; };
+    change([&](InputMethodConfig& config) { restore(config.rules, rule, index, application); });
+}
+
 std::optional<Uuid> InputMethodSettings::addDomainRule(const std::string& text)
 {
     const auto domain = normalizedDomain(text);
@@ -126,6 +145,13 @@ void InputMethodSettings::setDomainRuleSource(const Uuid& id, const std::string&
 void InputMethodSettings::removeDomainRule(const Uuid& id)
 {
     change([&](InputMethodConfig& config) { remove(config.domainRules, id); });
+}
+
+void InputMethodSettings::restoreDomainRule(const DomainInputMethodRule& rule, std::size_t index)
+{
+    change([&](InputMethodConfig& config) {
+        restore(config.domainRules, rule, index, &DomainInputMethodRule::domainSuffix);
+    });
 }
 
 std::vector<SmartInputMethodAppStats> InputMethodSettings::displayedStats() const

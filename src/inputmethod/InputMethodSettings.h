@@ -49,12 +49,16 @@ public:
     std::optional<Uuid> addAppRule(const std::filesystem::path& bundlePath);
     void setAppRuleSource(const Uuid& id, const std::string& inputSourceID);
     void removeAppRule(const Uuid& id);
+    /// Brings a removed rule back to its place, unless its application has another one by now.
+    void restoreAppRule(const InputMethodRule& rule, std::size_t index);
 
     /// Adds a rule for the website that the text names, with the same source. Nothing changes for a
     /// text that names none, a website that has a rule, and where there is no source.
     std::optional<Uuid> addDomainRule(const std::string& text);
     void setDomainRuleSource(const Uuid& id, const std::string& inputSourceID);
     void removeDomainRule(const Uuid& id);
+    /// Brings a removed rule back to its place, unless its website has another one by now.
+    void restoreDomainRule(const DomainInputMethodRule& rule, std::size_t index);
 
     /// The statistics that are shown: those of the applications within the limit, in list order.
     std::vector<SmartInputMethodAppStats> displayedStats() const;

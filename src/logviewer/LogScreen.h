@@ -47,6 +47,8 @@ public:
     std::string loadError() const;
     /// "3 / 5 entries".
     std::string countLine() const;
+    /// Of the file that is shown, in bytes.
+    std::uint64_t fileByteSize() const { return reader().fileByteSize().value(); }
 
     void reload() { reader().reload(); }
     /// The question that comes before a log is emptied, and the answers to it.

@@ -32,6 +32,18 @@ void remove(std::vector<Binding>& bindings, const Uuid& id)
     std::erase_if(bindings, [&](const Binding& binding) { return binding.id == id; });
 }
 
+/// Two are the same when `identity` is the same of both.
+template <typename Member, typename Identity>
+void restore(std::vector<Member>& members, const Member& member, std::size_t index,
+    Identity Member::*identity)
+{
+    const auto isTheSame = [&](const Member& each) { return each.*identity == member.*identity; };
+    if (std::any_of(members.begin(), members.end(), isTheSame))
+        return;
+    const auto place = std::min(index, members.size());
+    members.insert(members.begin() + static_cast<std::ptrdiff_t>(place), member);
+}
+
 } // namespace
 
 MouseSettings::MouseSettings(MouseConfigStore& store, const AppIdentifierLoader& loader)
@@ -66,6 +78,13 @@ void MouseSettings::removeClickBinding(const Uuid& id)
     change([&](MouseConfig& config) { remove(config.click.bindings, id); });
 }
 
+void MouseSettings::restoreClickBinding(const MouseClickBinding& binding, std::size_t index)
+{
+    change([&](MouseConfig& config) {
+        restore(config.click.bindings, binding, index, &MouseClickBinding::id);
+    });
+}
+
 Uuid MouseSettings::addGestureBinding()
 {
     Uuid id;
@@ -86,6 +105,13 @@ void MouseSettings::replaceGestureBinding(const MouseGestureBinding& binding)
 void MouseSettings::removeGestureBinding(const Uuid& id)
 {
     change([&](MouseConfig& config) { remove(config.gesture.bindings, id); });
+}
+
+void MouseSettings::restoreGestureBinding(const MouseGestureBinding& binding, std::size_t index)
+{
+    change([&](MouseConfig& config) {
+        restore(config.gesture.bindings, binding, index, &MouseGestureBinding::id);
+    });
 }
 
 void MouseSettings::setDurationStep(std::size_t index)
@@ -122,6 +148,13 @@ void MouseSettings::removeDisabledApp(const std::string& bundleID)
     change([&](MouseConfig& config) {
         std::erase_if(config.scroll.disabledApps,
             [&](const AppIdentifier& app) { return app.bundleID == bundleID; });
+    });
+}
+
+void MouseSettings::restoreDisabledApp(const AppIdentifier& app, std::size_t index)
+{
+    change([&](MouseConfig& config) {
+        restore(config.scroll.disabledApps, app, index, &AppIdentifier::bundleID);
     });
 }
 

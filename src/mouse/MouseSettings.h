@@ -28,11 +28,14 @@ public:
     Uuid addClickBinding();
     void replaceClickBinding(const MouseClickBinding& binding);
     void removeClickBinding(const Uuid& id);
+    /// Brings a removed binding back to its place, unless it is there.
+    void restoreClickBinding(const MouseClickBinding& binding, std::size_t index);
 
     /// A drag to the right with the side button "back" and the action `forward`, behind all others.
     Uuid addGestureBinding();
     void replaceGestureBinding(const MouseGestureBinding& binding);
     void removeGestureBinding(const Uuid& id);
+    void restoreGestureBinding(const MouseGestureBinding& binding, std::size_t index);
 
     /// Sets a value of the scrolling to that at the index of its steps.
     void setDurationStep(std::size_t index);
@@ -43,6 +46,7 @@ public:
     /// read, and nothing where it is in the list.
     void addDisabledApp(const std::filesystem::path& bundlePath);
     void removeDisabledApp(const std::string& bundleID);
+    void restoreDisabledApp(const AppIdentifier& app, std::size_t index);
 
 private:
     MouseConfigStore& store_;
