@@ -17,7 +17,7 @@ const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheir
         {"CurlFetch", "DesktopApplicationBundles", "FetchMain", "Fcitx5InputSources",
             "IBusInputSources", "PosixClock", "QtProgramActivation", "XkbInputSources"}},
     {"the desktop tests, with the whole program",
-        {"LinuxEntry", "LinuxPlatform", "LinuxSession", "main"}},
+        {"LinuxEntry", "LinuxPlatform", "LinuxSession", "ProgramScreens", "main"}},
     {"the tests of what hangs, with the watchdog as a process",
         {"InputRescue", "Watchdog", "WatchdogMain"}},
     {"X11TapSessionButtonsTest and its neighbours, and the played scenarios, on a real server",
@@ -41,6 +41,15 @@ const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheir
     {"UserDefaultPreferenceKeysTest and the tests of the stores",
         {"InputMethodPreferenceKeys", "MousePreferenceKeys"}},
     {"AppLifecycleCoordinatorTest", {"SharedInstances"}},
+    {"ScreenGalleryTest, which walks all screens, and the tests of the screens",
+        {"AboutScreen", "ApplicationIcon", "Buttons", "Card", "EmptyState", "GeneralScreen",
+            "Glyph", "InputMethodDomainRulesSection", "InputMethodOptionsSection",
+            "InputMethodRulesSection", "InputMethodSmartRulesSection",
+            "InputMethodSmartStatsRows", "InputRuleRow", "InputSourceOptions",
+            "KeyRecorderField", "LogTableModel", "MouseActionPicker", "MouseBindingRow",
+            "MouseBindingSection", "MouseDisabledAppsSection", "MouseGestureSection",
+            "MouseScrollSection", "Page", "SmartStatsModel", "StatusLabel", "StyleSheet",
+            "TabPlaceholder", "TableCells", "TextLabel"}},
 };
 
 /// Whether the folder or one inside it has a header whose concept the test is named after, with or

@@ -6,6 +6,7 @@
 #include "app/SingleInstanceManager.h"
 #include "app/linux/LinuxPlatform.h"
 #include "app/linux/LinuxSession.h"
+#include "app/linux/ProgramScreens.h"
 #include "inputmethod/TextInputSourceService.h"
 #include "log/Log.h"
 #include "platform/linux/system/LinkerTables.h"
@@ -163,6 +164,7 @@ int runOnDesktop(char* programName, bool isSilentLaunch, Clock& clock, XdgUserFo
     LinuxPlatform linuxPlatform(offer, session, clock, container);
     auto& platform = linuxPlatform.abilities();
     SharedInstances shared(platform);
+    const ProgramScreens screens(linuxPlatform, shared);
     AppLifecycleCoordinator lifecycle(platform, shared);
     Ending ending(lifecycle, platform.defaults, log);
 

@@ -15,9 +15,10 @@ namespace brindlex {
 /// The program itself, running on a virtual desktop.
 class RunningProgram {
 public:
-    /// Starts the program that was built together with this one.
-    explicit RunningProgram(
-        const VirtualDesktop& desktop, const std::vector<std::string>& arguments = {});
+    /// Starts the program that was built together with this one, as a desktop does at login: no
+    /// window comes to the front. Without arguments it starts as the user starts it.
+    explicit RunningProgram(const VirtualDesktop& desktop,
+        const std::vector<std::string>& arguments = {"--started-at-login"});
 
     /// Waits until it says in its log that it has launched.
     bool launches() const { return logs("Brindlex launched"); }

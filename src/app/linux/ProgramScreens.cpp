@@ -1,0 +1,135 @@
+#include "app/linux/ProgramScreens.h"
+
+#include "applications/views/ApplicationChooser.h"
+#include "inputmethod/views/InputMethodSettingsScreen.h"
+#include "logviewer/views/LogWindow.h"
+#include "mouse/views/MouseSettingsScreen.h"
+#include "shell/views/AboutScreen.h"
+#include "shell/views/GeneralScreen.h"
+#include "shell/views/MainWindow.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QUrl>
+
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+/// As they stand on the keys of a PC.
+const ModifierNames modifierNames{
+    .control = "Ctrl", .option = "Alt", .shift = "Shift", .command = "Super"};
+
+const std::vector<AboutLibrary> libraries{
+    {"Qt", "LGPL-3.0"},
+    {"ICU", "Unicode-3.0"},
+    {"JSON for Modern C++", "MIT"},
+    {"libcurl", "curl"},
+    {"libxcb, libX11", "X11"},
+    {"libxkbcommon", "MIT"},
+    {"systemd", "LGPL-2.1"},
+};
+
+/// In its folder, by the file manager.
+void revealFile(const std::filesystem::path& file)
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file.parent_path())));
+}
+
+} // namespace
+
+ProgramScreens::Models::Models(Platform& platform, SharedInstances& shared)
+    : loader(platform.bundles, platform.icons, platform.container), sources(platform.inputSources),
+      inputMethod(shared.inputMethod().configStore(), shared.inputMethod().smartConfigStore(),
+          sources, loader, platform.clock),
+      mouse(shared.mouse().configStore(), loader),
+      general(platform.defaults, shared.launchAtLoginManager(), shared.windows(),
+          shared.languageManager())
+{
+}
+
+ProgramScreens::ProgramScreens(LinuxPlatform& linuxPlatform, SharedInstances& shared)
+    : platform_(linuxPlatform.abilities()), shared_(shared), recency_(platform_.applications)
+{
+    scenes_.push_back(
+        linuxPlatform.addWindowScene(windowScene::main, [this] { return makeMainWindow(); }));
+    scenes_.push_back(
+        linuxPlatform.addWindowScene(windowScene::logs, [this] { return makeLogWindow(); }));
+}
+
+KeyRecording ProgramScreens::keyRecording()
+{
+    return {shared_.globalEventTap(), platform_.activation,
+        {modifierNames, [](std::int64_t) { return std::string(); }}};
+}
+
+void ProgramScreens::present(const WindowScene& scene)
+{
+    shared_.windows().auxiliaryWindows().present(std::string(scene.id));
+}
+
+void ProgramScreens::chooseApplication(std::function<void(const std::filesystem::path&)> chosen)
+{
+    auto* const chooser = new ApplicationChooser(
+        context(), applicationChoices(platform_.bundles.installed(), recency_.use()),
+        [this](const std::filesystem::path& bundle) { return pictureOf(bundle); },
+        std::move(chosen), QApplication::activeWindow());
+    chooser->open();
+}
+
+QIcon ProgramScreens::pictureOf(const std::filesystem::path& bundle)
+{
+    const auto png = platform_.icons.pictureOfApplication(bundle);
+    QPixmap picture;
+    if (png)
+        picture.loadFromData(
+            reinterpret_cast<const uchar*>(png->data()), static_cast<uint>(png->size()));
+    return QIcon(picture);
+}
+
+std::unique_ptr<QWidget> ProgramScreens::makeMainWindow()
+{
+    return std::make_unique<MainWindow>(context(), platform_.defaults,
+        MainWindow::Screens{
+            {MainWindowTab::general, [this] { return makeGeneral(); }},
+            {MainWindowTab::keyboard, [this] { return makeKeyboard(); }},
+            {MainWindowTab::mouse, [this] { return makeMouse(); }},
+            {MainWindowTab::about, [this] { return makeAbout(); }},
+        });
+}
+
+std::unique_ptr<QWidget> ProgramScreens::makeLogWindow()
+{
+    return std::make_unique<LogWindow>(context(), platform_.mainThread, revealFile);
+}
+
+QWidget* ProgramScreens::makeGeneral()
+{
+    return new GeneralScreen(context(), models().general, platform_.defaults);
+}
+
+QWidget* ProgramScreens::makeKeyboard()
+{
+    auto& subsystem = shared_.inputMethod();
+    return new InputMethodSettingsScreen(context(), models().inputMethod, subsystem.configStore(),
+        subsystem.smartConfigStore(),
+        [this](auto chosen) { chooseApplication(std::move(chosen)); });
+}
+
+QWidget* ProgramScreens::makeMouse()
+{
+    return new MouseSettingsScreen(context(), models().mouse, shared_.mouse().configStore(),
+        keyRecording(), [this](auto chosen) { chooseApplication(std::move(chosen)); });
+}
+
+QWidget* ProgramScreens::makeAbout()
+{
+    return new AboutScreen(context(), {platform_.program, {}, libraries},
+        {[](const std::string& address) {
+             QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
+         },
+            [this] { present(windowScene::logs); }});
+}
+
+} // namespace brindlex

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "app/SharedInstances.h"
+#include "app/linux/LinuxPlatform.h"
+#include "applications/AppIdentifierLoader.h"
+#include "applications/ApplicationRecency.h"
+#include "eventtap/views/KeyRecorderField.h"
+#include "foundation/MadeOnFirstUse.h"
+#include "inputmethod/InputMethodSettings.h"
+#include "inputmethod/TextInputSourceService.h"
+#include "mouse/MouseSettings.h"
+#include "shell/GeneralSettings.h"
+#include "ui/controls/ViewContext.h"
+
+#include <vector>
+
+class QIcon;
+class QWidget;
+
+namespace brindlex {
+
+/// What the windows of the program show. Each is made when it is opened; its arguments outlive it.
+/// Main thread only.
+class ProgramScreens {
+public:
+    ProgramScreens(LinuxPlatform& linuxPlatform, SharedInstances& shared);
+
+private:
+    /// What the screens are views of.
+    struct Models {
+        Models(Platform& platform, SharedInstances& shared);
+
+        AppIdentifierLoader loader;
+        TextInputSourceService sources;
+        InputMethodSettings inputMethod;
+        MouseSettings mouse;
+        GeneralSettings general;
+    };
+
+    ViewContext context() { return {theme_, shared_.strings()}; }
+    Models& models() { return models_.get(platform_, shared_); }
+    KeyRecording keyRecording();
+    void present(const WindowScene& scene);
+    void chooseApplication(std::function<void(const std::filesystem::path&)> chosen);
+    QIcon pictureOf(const std::filesystem::path& bundle);
+
+    std::unique_ptr<QWidget> makeMainWindow();
+    std::unique_ptr<QWidget> makeLogWindow();
+    QWidget* makeGeneral();
+    QWidget* makeKeyboard();
+    QWidget* makeMouse();
+    QWidget* makeAbout();
+
+    Platform& platform_;
+    SharedInstances& shared_;
+    Theme theme_;
+    ApplicationRecency recency_;
+    MadeOnFirstUse<Models> models_;
+    std::vector<Subscription> scenes_;
+};
+
+} // namespace brindlex

@@ -1,0 +1,130 @@
+#include "inputmethod/views/InputMethodSmartStatsRows.h"
+
+#include "ui/controls/Buttons.h"
+#include "ui/controls/TableCells.h"
+
+#include <QHeaderView>
+#include <QShortcut>
+#include <QSortFilterProxyModel>
+#include <QTableView>
+
+#include <array>
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+constexpr int rowHeight = 36;
+constexpr int headHeight = 28;
+constexpr int belowTable = 6;
+/// Of the columns behind the first, which takes what is left.
+constexpr std::array columnWidths{std::pair{SmartStatsModel::status, 104},
+    std::pair{SmartStatsModel::inputSource, 120}, std::pair{SmartStatsModel::samples, 74},
+    std::pair{SmartStatsModel::match, 66}, std::pair{SmartStatsModel::disabled, 84}};
+
+} // namespace
+
+InputMethodSmartStatsRows::InputMethodSmartStatsRows(
+    Page& page, const ViewContext& context, InputMethodSettings& settings)
+    : context_(context), settings_(settings), card_(page.section()), table_(new QTableView),
+      model_(new SmartStatsModel(context, settings, table_)),
+      sorted_(new QSortFilterProxyModel(table_))
+{
+    empty_ = new EmptyState(
+        context.theme, Glyph::keyboard, context.text<"inputMethod.smart.stats.empty.message">());
+    card_.add(empty_);
+    makeTable();
+    makeActions();
+    show();
+}
+
+void InputMethodSmartStatsRows::show()
+{
+    model_->show();
+    const bool hasRows = model_->rowCount() > 0;
+    empty_->setVisible(!hasRows);
+    table_->setVisible(hasRows);
+    actions_->setVisible(hasRows);
+    fit();
+    noteSelection();
+}
+
+void InputMethodSmartStatsRows::makeTable()
+{
+    sorted_->setSourceModel(model_);
+    sorted_->setSortRole(Qt::UserRole);
+    sorted_->setSortLocaleAware(true);
+    table_->setModel(sorted_);
+    table_->setItemDelegate(new TableCells(context_.theme, table_));
+    table_->setAccessibleName(context_.text<"inputMethod.smart.title">());
+    table_->setShowGrid(false);
+    table_->setSelectionBehavior(QAbstractItemView::SelectRows);
+    table_->setSelectionMode(QAbstractItemView::SingleSelection);
+    table_->setTabKeyNavigation(false);
+    table_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table_->verticalHeader()->hide();
+    table_->verticalHeader()->setDefaultSectionSize(rowHeight);
+    auto* const head = table_->horizontalHeader();
+    head->setFont(scaledFont(table_->font(), textScale::second));
+    head->setFixedHeight(headHeight);
+    head->setHighlightSections(false);
+    head->setSectionResizeMode(SmartStatsModel::app, QHeaderView::Stretch);
+    for (const auto& [column, width] : columnWidths)
+        table_->setColumnWidth(column, width);
+    table_->setSortingEnabled(true);
+    head->setSortIndicator(-1, Qt::AscendingOrder);
+    head->setSortIndicatorClearable(true);
+    card_.add(table_);
+    QObject::connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, table_,
+        [this] { noteSelection(); });
+    QObject::connect(
+        new QShortcut(QKeySequence(Qt::Key_Delete), table_, nullptr, nullptr, Qt::WidgetShortcut),
+        &QShortcut::activated, table_, [this] { deleteStats(); });
+}
+
+void InputMethodSmartStatsRows::makeActions()
+{
+    clear_ = makeButton(context_.theme, ButtonRole::plain,
+        context_.text<"inputMethod.smart.clearStats">(), [this] { clearStats(); });
+    delete_ = makeButton(context_.theme, ButtonRole::danger,
+        context_.text<"inputMethod.smart.deleteStats">(), [this] { deleteStats(); });
+    actions_ = new Row(context_.theme);
+    actions_->fill(new QWidget).end(clear_).end(delete_);
+    card_.add(static_cast<QWidget*>(actions_));
+}
+
+/// The page scrolls, not the table.
+void InputMethodSmartStatsRows::fit()
+{
+    table_->setFixedHeight(headHeight + rowHeight * model_->rowCount() + belowTable);
+}
+
+void InputMethodSmartStatsRows::noteSelection()
+{
+    const bool isSelected = selected().has_value();
+    clear_->setEnabled(isSelected);
+    delete_->setEnabled(isSelected);
+}
+
+std::optional<Uuid> InputMethodSmartStatsRows::selected() const
+{
+    const auto rows = table_->selectionModel()->selectedRows();
+    if (rows.isEmpty())
+        return {};
+    return model_->idAt(sorted_->mapToSource(rows.front()).row());
+}
+
+void InputMethodSmartStatsRows::clearStats()
+{
+    if (const auto id = selected())
+        settings_.clearStats(*id);
+}
+
+void InputMethodSmartStatsRows::deleteStats()
+{
+    if (const auto id = selected())
+        settings_.deleteStats(*id);
+}
+
+} // namespace brindlex

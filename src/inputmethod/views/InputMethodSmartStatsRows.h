@@ -1,0 +1,45 @@
+#pragma once
+
+#include "inputmethod/views/SmartStatsModel.h"
+#include "ui/controls/EmptyState.h"
+#include "ui/controls/Page.h"
+
+#include <optional>
+
+class QPushButton;
+class QSortFilterProxyModel;
+class QTableView;
+
+namespace brindlex {
+
+/// The table of what was learned. Its order is that of the list until the user asks for another by
+/// a click on a head; the buttons under it are for the selected application.
+class InputMethodSmartStatsRows {
+public:
+    InputMethodSmartStatsRows(
+        Page& page, const ViewContext& context, InputMethodSettings& settings);
+
+    void show();
+
+private:
+    void makeTable();
+    void makeActions();
+    void fit();
+    void noteSelection();
+    std::optional<Uuid> selected() const;
+    void clearStats();
+    void deleteStats();
+
+    const ViewContext context_;
+    InputMethodSettings& settings_;
+    Card& card_;
+    QTableView* const table_;
+    SmartStatsModel* const model_;
+    QSortFilterProxyModel* const sorted_;
+    EmptyState* empty_ = nullptr;
+    QPushButton* clear_ = nullptr;
+    QPushButton* delete_ = nullptr;
+    Row* actions_ = nullptr;
+};
+
+} // namespace brindlex

@@ -1,0 +1,37 @@
+#include "inputmethod/views/InputRuleRow.h"
+
+#include "inputmethod/views/InputSourceOptions.h"
+
+namespace brindlex {
+namespace {
+
+/// Of all choosers in a list.
+constexpr int chooserWidth = 168;
+
+} // namespace
+
+InputRuleRow::InputRuleRow(const ViewContext& context, const InputMethodSettings& settings,
+    const QIcon& picture, int pictureSize, const QString& name, const Actions& actions)
+    : Row(context.theme), context_(context), settings_(settings),
+      chooser_(new Chooser(context.theme,
+          name + QStringLiteral(": ") + context.text<"inputMethod.smart.header.inputSource">(),
+          actions.choose))
+{
+    chooser_->setFixedWidth(chooserWidth);
+    Row::picture(picture, pictureSize)
+        .words(name)
+        .end(chooser_)
+        .removable(context.text<"controls.remove">() + QStringLiteral(": ") + name, actions.remove);
+}
+
+void InputRuleRow::show(const std::string& inputSourceID)
+{
+    const bool isMissing = settings_.isMissing(inputSourceID);
+    chooser_->show(
+        inputSourceOptions(settings_, inputSourceID), optionOf(settings_, inputSourceID));
+    chooser_->setBad(isMissing);
+    setSecond(isMissing ? context_.text<"inputMethod.rules.missingSource">() : QString(),
+        TextRole::warning);
+}
+
+} // namespace brindlex

@@ -1,0 +1,154 @@
+#include "mouse/views/MouseBindingRow.h"
+
+#include "ui/controls/GlyphLabel.h"
+
+#include <QHBoxLayout>
+
+#include <array>
+#include <type_traits>
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+constexpr int gap = 6;
+constexpr int arrowSize = 14;
+constexpr int leastButton = 92;
+constexpr int mostButton = 160;
+constexpr int leastDirection = 62;
+constexpr int mostDirection = 96;
+
+/// Those that carry bindings.
+constexpr std::array buttons{MouseButton::button3, MouseButton::button4, MouseButton::button5};
+
+constexpr std::array directions{
+    MouseDirection::up, MouseDirection::down, MouseDirection::left, MouseDirection::right};
+
+QString nameOf(MouseButton button, const ViewContext& context)
+{
+    switch (button) {
+    case MouseButton::left:
+        return context.text<"mouse.button.left">();
+    case MouseButton::right:
+        return context.text<"mouse.button.right">();
+    case MouseButton::button3:
+        return context.text<"mouse.button.middle">();
+    case MouseButton::button4:
+        return context.text<"mouse.button.sideBack">();
+    case MouseButton::button5:
+        return context.text<"mouse.button.sideForward">();
+    }
+    return {};
+}
+
+QString nameOf(MouseDirection direction, const ViewContext& context)
+{
+    switch (direction) {
+    case MouseDirection::up:
+        return context.text<"mouse.direction.up">();
+    case MouseDirection::down:
+        return context.text<"mouse.direction.down">();
+    case MouseDirection::left:
+        return context.text<"mouse.direction.left">();
+    case MouseDirection::right:
+        return context.text<"mouse.direction.right">();
+    }
+    return {};
+}
+
+/// What stands for a value in a chooser: its number.
+template <typename Value>
+std::string optionOf(Value value)
+{
+    return std::to_string(static_cast<int>(value));
+}
+
+/// The values to choose from, and the present one, if it is none of them.
+template <typename Value, std::size_t count>
+std::vector<Chooser::Option> optionsOf(
+    const std::array<Value, count>& values, Value present, const ViewContext& context)
+{
+    std::vector<Chooser::Option> options;
+    bool isAmong = false;
+    for (const auto value : values) {
+        options.push_back({optionOf(value), nameOf(value, context), {}});
+        isAmong = isAmong || value == present;
+    }
+    if (!isAmong)
+        options.push_back({optionOf(present), nameOf(present, context), {}});
+    return options;
+}
+
+template <typename Value>
+Value valueWithOption(const std::string& option)
+{
+    return static_cast<Value>(std::stoi(option));
+}
+
+} // namespace
+
+template <typename Binding>
+MouseBindingRow<Binding>::MouseBindingRow(const ViewContext& context, const KeyRecording& recording,
+    const Binding& binding, Actions actions)
+    : Row(context.theme), context_(context), actions_(std::move(actions)), binding_(binding),
+      button_(new Chooser(context.theme, context.text<"mouse.button.picker">(),
+          [this](const std::string& option) {
+              change(
+                  [&](Binding& changed) { changed.button = valueWithOption<MouseButton>(option); });
+          })),
+      action_(new MouseActionPicker(context, recording, [this](const MouseAction::Any& action) {
+          change([&](Binding& changed) { changed.action = action; });
+      }))
+{
+    constexpr bool isGesture = std::is_same_v<Binding, MouseGestureBinding>;
+    auto* const sentence = new QWidget;
+    auto* const layout = new QHBoxLayout(sentence);
+    layout->setContentsMargins({});
+    layout->setSpacing(gap);
+    button_->setMinimumWidth(leastButton);
+    button_->setMaximumWidth(mostButton);
+    layout->addWidget(button_, mostButton);
+    if constexpr (isGesture) {
+        direction_ = new Chooser(context.theme, context.text<"mouse.direction.picker">(),
+            [this](const std::string& option) {
+                change([&](Binding& changed) {
+                    changed.direction = valueWithOption<MouseDirection>(option);
+                });
+            });
+        direction_->setMinimumWidth(leastDirection);
+        direction_->setMaximumWidth(mostDirection);
+        layout->addWidget(direction_, mostDirection);
+    }
+    layout->addWidget(
+        new GlyphLabel(glyphIcon(context.theme, Glyph::arrow, &ThemeTokens::subdued), arrowSize));
+    layout->addWidget(action_, 2 * mostButton);
+    fill(sentence);
+    removable(isGesture ? context.text<"mouse.gesture.removeGesture.help">()
+                        : context.text<"mouse.click.removeBinding.help">(),
+        actions_.remove);
+    show(binding);
+}
+
+template <typename Binding>
+void MouseBindingRow<Binding>::show(const Binding& binding)
+{
+    binding_ = binding;
+    button_->show(optionsOf(buttons, binding.button, context_), optionOf(binding.button));
+    if constexpr (std::is_same_v<Binding, MouseGestureBinding>)
+        direction_->show(
+            optionsOf(directions, binding.direction, context_), optionOf(binding.direction));
+    action_->show(binding.action);
+}
+
+template <typename Binding>
+void MouseBindingRow<Binding>::change(const std::function<void(Binding&)>& change)
+{
+    auto changed = binding_;
+    change(changed);
+    actions_.change(changed);
+}
+
+template class MouseBindingRow<MouseClickBinding>;
+template class MouseBindingRow<MouseGestureBinding>;
+
+} // namespace brindlex

@@ -1,0 +1,207 @@
+#include "inputmethod/views/InputMethodSettingsScreen.h"
+
+#include "support/views/ScreenGallery.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QTableView>
+#include <QToolButton>
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+/// The screen of the keyboard as a user has it in front.
+class InputMethodSettingsScreenTest : public testing::Test {
+protected:
+    template <typename Control>
+    Control* control(const QString& name)
+    {
+        QApplication::processEvents();
+        for (auto* const found : window->findChildren<Control*>())
+            if (found->accessibleName() == name && !found->isHidden())
+                return found;
+        ADD_FAILURE() << "no control is called " << name.toStdString();
+        return nullptr;
+    }
+    void press(QWidget* widget, int key)
+    {
+        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
+        QApplication::sendEvent(widget, &event);
+    }
+    void type(QLineEdit* field, const QString& text)
+    {
+        field->setText(text);
+        field->textEdited(text);
+    }
+    const InputMethodConfig& config() { return gallery.inputMethod.config(); }
+
+    ScreenGallery gallery{StringCatalogue("en")};
+    std::unique_ptr<QWidget> window = gallery.show("keyboard-empty");
+};
+
+TEST_F(InputMethodSettingsScreenTest, storesWhatIsSwitchedAtOnce)
+{
+    control<QAbstractButton>("Enable automatic switching")->click();
+    control<QAbstractButton>("Show HUD on switch")->click();
+    control<QAbstractButton>("Enable website switching")->click();
+    control<QAbstractButton>("Enable smart rules")->click();
+    control<QAbstractButton>("Learn from manual switches")->click();
+
+    EXPECT_FALSE(config().enabled);
+    EXPECT_FALSE(config().showHUD);
+    EXPECT_TRUE(config().domainRulesEnabled);
+    EXPECT_TRUE(gallery.inputMethod.smartConfig().enabled);
+    EXPECT_FALSE(gallery.inputMethod.smartConfig().learningEnabled);
+}
+
+TEST_F(InputMethodSettingsScreenTest, addsARuleForTheApplicationThatIsChosen)
+{
+    control<QPushButton>("Add App")->click();
+
+    ASSERT_EQ(config().rules.size(), 1U);
+    EXPECT_EQ(gallery.choices, 1);
+    auto* const source = control<QComboBox>("Editor: Input Source");
+    ASSERT_TRUE(source);
+    press(source, Qt::Key_Down);
+    EXPECT_EQ(config().rules.front().inputSourceID, "xkb:de::deu");
+}
+
+TEST_F(InputMethodSettingsScreenTest, putsTheFocusOnTheSourceOfANewRule)
+{
+    window->activateWindow();
+    control<QPushButton>("Add App")->click();
+
+    EXPECT_EQ(QApplication::focusWidget(), control<QComboBox>("Editor: Input Source"));
+}
+
+TEST_F(InputMethodSettingsScreenTest, removesARuleAndBringsItBackToItsPlace)
+{
+    control<QPushButton>("Add App")->click();
+    gallery.chosenApplication = "/apps/mail";
+    control<QPushButton>("Add App")->click();
+    const auto before = config().rules;
+
+    control<QToolButton>("Remove: Editor")->click();
+    EXPECT_EQ(config().rules.size(), 1U);
+    control<QPushButton>("Undo")->click();
+
+    EXPECT_EQ(config().rules, before);
+}
+
+TEST_F(InputMethodSettingsScreenTest, addsAWebsiteByItsBareDomain)
+{
+    auto* const field = control<QLineEdit>("Domain or URL");
+    type(field, "https://www.Example.org/path?q=1");
+    press(field, Qt::Key_Return);
+
+    ASSERT_EQ(config().domainRules.size(), 1U);
+    EXPECT_EQ(config().domainRules.front().domainSuffix, "example.org");
+    EXPECT_EQ(field->text(), "");
+    EXPECT_TRUE(control<QComboBox>("example.org: Input Source"));
+}
+
+TEST_F(InputMethodSettingsScreenTest, leavesTheFieldWhereNothingIsAdded)
+{
+    auto* const field = control<QLineEdit>("Domain or URL");
+    type(field, "no domain");
+    control<QPushButton>("Add Website")->click();
+
+    EXPECT_TRUE(config().domainRules.empty());
+    EXPECT_EQ(field->text(), "no domain");
+}
+
+TEST_F(InputMethodSettingsScreenTest, takesAMegabyteInTheFieldOfWebsites)
+{
+    auto* const field = control<QLineEdit>("Domain or URL");
+    type(field, QString(1'000'000, 'g'));
+    press(field, Qt::Key_Return);
+
+    EXPECT_LE(field->text().size(), 2'000);
+    EXPECT_TRUE(config().domainRules.empty());
+}
+
+TEST_F(InputMethodSettingsScreenTest, followsWhatAnotherProcessWrites)
+{
+    InputMethodConfig other;
+    other.rules = {{Uuid::random(), {"org.example.Other", "Other", {}}, "xkb:de::deu"}};
+    gallery.inputMethodStore.applyLoadedConfig(other);
+
+    const auto* const source = control<QComboBox>("Other: Input Source");
+    ASSERT_TRUE(source);
+    EXPECT_EQ(source->currentText(), "German");
+}
+
+TEST_F(InputMethodSettingsScreenTest, storesTheChoicesOfTheLearning)
+{
+    const auto chooseNext
+        = [&](const QString& name) { press(control<QComboBox>(name), Qt::Key_Down); };
+    chooseNext("Priority");
+    chooseNext("Activation threshold");
+    chooseNext("Sample window");
+    chooseNext("App limit");
+
+    const auto& smart = gallery.inputMethod.smartConfig();
+    EXPECT_EQ(smart.priority, SmartInputMethodPriority::beforeManualAppRules);
+    EXPECT_EQ(smart.thresholdRatio, SmartInputMethodThresholdRatio::ninety);
+    EXPECT_EQ(smart.windowSize, SmartInputMethodWindowSize::twenty);
+    EXPECT_EQ(smart.appLimit, SmartInputMethodAppLimit::top30);
+}
+
+/// The table of what was learned.
+class InputMethodSmartStatsRowsTest : public InputMethodSettingsScreenTest {
+protected:
+    InputMethodSmartStatsRowsTest() { window = gallery.show("keyboard"); }
+
+    QTableView& table() { return *window->findChild<QTableView*>(); }
+    QString cell(int row, int column)
+    {
+        return table().model()->index(row, column).data().toString();
+    }
+};
+
+TEST_F(InputMethodSmartStatsRowsTest, keepsTheOrderOfTheListUntilAHeadIsClicked)
+{
+    EXPECT_EQ(cell(0, SmartStatsModel::app), "Code");
+    EXPECT_EQ(cell(0, SmartStatsModel::status), "Active");
+    EXPECT_EQ(cell(0, SmartStatsModel::samples), "10");
+    EXPECT_EQ(cell(0, SmartStatsModel::match), "100%");
+    EXPECT_EQ(cell(1, SmartStatsModel::status), "Learning");
+
+    table().sortByColumn(SmartStatsModel::samples, Qt::AscendingOrder);
+
+    EXPECT_EQ(cell(0, SmartStatsModel::app), "Notes");
+}
+
+TEST_F(InputMethodSmartStatsRowsTest, switchesALearnedRuleOff)
+{
+    table().model()->setData(
+        table().model()->index(0, SmartStatsModel::disabled), Qt::Checked, Qt::CheckStateRole);
+
+    EXPECT_TRUE(gallery.inputMethod.smartConfig().appStats.front().isDisabled);
+    EXPECT_EQ(cell(0, SmartStatsModel::status), "Disabled");
+}
+
+TEST_F(InputMethodSmartStatsRowsTest, deletesWhatIsSelected)
+{
+    EXPECT_FALSE(control<QPushButton>("Delete stats")->isEnabled());
+    table().selectRow(0);
+
+    control<QPushButton>("Delete stats")->click();
+
+    ASSERT_EQ(gallery.inputMethod.smartConfig().appStats.size(), 1U);
+    EXPECT_EQ(cell(0, SmartStatsModel::app), "Notes");
+}
+
+TEST_F(InputMethodSmartStatsRowsTest, clearsTheSamplesOfWhatIsSelected)
+{
+    table().selectRow(0);
+
+    control<QPushButton>("Clear stats")->click();
+
+    EXPECT_TRUE(gallery.inputMethod.smartConfig().appStats.front().samples.empty());
+}
+
+} // namespace
+} // namespace brindlex

@@ -1,0 +1,139 @@
+#include "support/views/ScreenGallery.h"
+
+#include "applications/views/ApplicationChooser.h"
+#include "inputmethod/views/InputMethodSettingsScreen.h"
+#include "logviewer/views/LogWindow.h"
+#include "mouse/views/MouseSettingsScreen.h"
+#include "shell/ShellPreferenceKeys.h"
+#include "shell/WindowScenes.h"
+#include "shell/views/AboutScreen.h"
+#include "shell/views/GeneralScreen.h"
+#include "shell/views/MainWindow.h"
+
+#include <QApplication>
+
+#include <fstream>
+#include <utility>
+
+namespace brindlex {
+namespace {
+
+constexpr auto logLines
+    = "2026-11-22T14:01:52.118Z INFO   [input-method] Brindlex/SwitchCoordinator:120 — Selected\n"
+      "2026-11-22T14:01:53.000Z WARN   [mouse] Brindlex/Tap:12 — A button is held elsewhere\n"
+      "2026-11-22T14:01:54.500Z ERROR  [ui] Brindlex/Window:7 — Something failed\n"
+      "a line in another form\n";
+
+} // namespace
+
+ScreenGallery::ScreenGallery(StringCatalogue catalogue, Brightness brightness)
+    : strings(std::move(catalogue)), theme({.tokens = themeTokens(brightness)})
+{
+    fill();
+}
+
+std::vector<std::string> ScreenGallery::names()
+{
+    return {"general", "keyboard", "keyboard-empty", "mouse", "mouse-empty", "dictation", "about",
+        "logs", "chooser"};
+}
+
+std::unique_ptr<QWidget> ScreenGallery::show(const std::string& name)
+{
+    auto window = make(name);
+    window->show();
+    QApplication::processEvents();
+    return window;
+}
+
+KeyRecording ScreenGallery::recording()
+{
+    return {tap, computer.activation,
+        {{"Ctrl", "Alt", "Shift", "Super"}, [](std::int64_t) { return std::string("t"); }}};
+}
+
+void ScreenGallery::fill()
+{
+    computer.inputSources.install(SimulatedInputSources::keyboard("xkb:us::eng", "English (US)"));
+    computer.inputSources.install(SimulatedInputSources::keyboard("xkb:de::deu", "German"));
+    computer.bundles.install(
+        "/apps/editor", {.identifier = "org.example.Editor", .displayName = "Editor"});
+    computer.bundles.install(
+        "/apps/mail", {.identifier = "org.example.Mail", .displayName = "Mail"});
+    inputMethod.refreshSources();
+    log.setFolder(folder.path());
+    std::ofstream(Log::fileURL(Log::Subsystem::app).value()) << logLines;
+}
+
+std::unique_ptr<QWidget> ScreenGallery::make(const std::string& name)
+{
+    if (name == "logs") {
+        auto window = std::make_unique<LogWindow>(
+            context(), computer.mainThread, [](const std::filesystem::path&) {});
+        window->resize(windowScene::logs.width, windowScene::logs.height);
+        return window;
+    }
+    if (name == "chooser")
+        return std::unique_ptr<QWidget>(new ApplicationChooser(
+            context(),
+            {{"org.example.Editor", "Editor", "/apps/editor", true},
+                {"org.example.Mail", "Mail", "/apps/mail", false}},
+            [](const std::filesystem::path&) { return QIcon(); },
+            [](const std::filesystem::path&) {}, nullptr));
+    if (name == "keyboard") {
+        inputMethod.addAppRule("/apps/editor");
+        const auto id = inputMethod.addAppRule("/apps/mail");
+        inputMethod.setAppRuleSource(*id, "ibus:libpinyin");
+        inputMethod.addDomainRule("github.com");
+        inputMethod.changeSmart([](SmartInputMethodConfig& config) {
+            for (int sample = 0; sample < 12; ++sample)
+                config.recordSample("xkb:de::deu", {"org.example.Code", "Code", {}}, Date{});
+            config.recordSample("xkb:us::eng", {"org.example.Notes", "Notes", {}}, Date{});
+        });
+    }
+    if (name == "mouse") {
+        const auto id = mouse.addClickBinding();
+        mouse.replaceClickBinding({id, MouseButton::button3, {},
+            MouseAction::SendKeystroke{17, ModifierSet::control | ModifierSet::option}});
+        mouse.addClickBinding();
+        mouse.addGestureBinding();
+        mouse.addDisabledApp("/apps/mail");
+    }
+    const auto chooseApplication = [this](auto chosen) {
+        ++choices;
+        chosen(chosenApplication);
+    };
+    const auto tab = name.starts_with("keyboard") ? MainWindowTab::keyboard
+        : name.starts_with("mouse")               ? MainWindowTab::mouse
+        : name == "about"                         ? MainWindowTab::about
+        : name == "dictation"                     ? MainWindowTab::dictation
+                                                  : MainWindowTab::general;
+    writePreference(computer.defaults, ShellPreferenceKeys{}.selectedMainWindowTab, tab);
+    auto window = std::make_unique<MainWindow>(context(), computer.defaults,
+        MainWindow::Screens{
+            {MainWindowTab::general,
+                [this] { return new GeneralScreen(context(), general, computer.defaults); }},
+            {MainWindowTab::keyboard,
+                [this, chooseApplication] {
+                    return new InputMethodSettingsScreen(
+                        context(), inputMethod, inputMethodStore, smartStore, chooseApplication);
+                }},
+            {MainWindowTab::mouse,
+                [this, chooseApplication] {
+                    return new MouseSettingsScreen(
+                        context(), mouse, mouseStore, recording(), chooseApplication);
+                }},
+            {MainWindowTab::about,
+                [this] {
+                    return new AboutScreen(context(),
+                        {{.name = "Brindlex", .shortVersion = "1.2.3", .commit = "0123456789ab"},
+                            {.website = "https://example.org", .support = "mailto:a@example.org"},
+                            {{"Qt", "LGPL-3.0"}}},
+                        {[](const std::string&) {}, [] {}});
+                }},
+        });
+    window->resize(windowScene::main.width, windowScene::main.height);
+    return window;
+}
+
+} // namespace brindlex

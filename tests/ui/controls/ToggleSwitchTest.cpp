@@ -1,0 +1,46 @@
+#include "ui/controls/ToggleSwitch.h"
+
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+TEST(ToggleSwitch, notifiesOfWhatTheUserSwitches)
+{
+    const Theme theme;
+    std::vector<bool> switched;
+    ToggleSwitch control(theme, "Name", [&](bool isOn) { switched.push_back(isOn); });
+
+    control.click();
+    control.click();
+
+    EXPECT_EQ(switched, (std::vector<bool>{true, false}));
+}
+
+TEST(ToggleSwitch, notifiesOfNothingThatTheProgramShows)
+{
+    const Theme theme;
+    int switched = 0;
+    ToggleSwitch control(theme, "Name", [&](bool) { ++switched; });
+
+    control.show(true);
+
+    EXPECT_TRUE(control.isChecked());
+    EXPECT_EQ(switched, 0);
+}
+
+TEST(ToggleSwitch, isThereAtOnceWhereNothingIsToMove)
+{
+    const Theme theme({.reducesMotion = true});
+    ToggleSwitch control(theme, "Name", [](bool) {});
+    const auto before = control.grab().toImage();
+
+    control.click();
+
+    const auto middleOfKnob = QPoint(control.width() - 15, control.height() / 2);
+    EXPECT_EQ(control.grab().toImage().pixelColor(middleOfKnob), QColor(Qt::white));
+    EXPECT_NE(before, control.grab().toImage());
+}
+
+} // namespace
+} // namespace brindlex
