@@ -3,7 +3,6 @@
 #include "support/basics/TemporaryFolder.h"
 
 #include <charconv>
-#include <filesystem>
 #include <fstream>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -26,16 +25,25 @@ std::vector<pid_t> processesWithVariable(const std::string& name, const std::str
     return processes;
 }
 
-std::vector<pid_t> children()
+std::vector<pid_t> children() { return childrenOf(getpid()); }
+
+std::vector<pid_t> childrenOf(pid_t process)
 {
     std::vector<pid_t> processes;
     std::error_code ignored;
-    for (const auto& thread : std::filesystem::directory_iterator("/proc/self/task", ignored)) {
+    for (const auto& thread : std::filesystem::directory_iterator(
+             "/proc/" + std::to_string(process) + "/task", ignored)) {
         std::ifstream list(thread.path() / "children");
-        for (pid_t process = 0; list >> process;)
-            processes.push_back(process);
+        for (pid_t child = 0; list >> child;)
+            processes.push_back(child);
     }
     return processes;
+}
+
+std::filesystem::path fileOf(pid_t process)
+{
+    std::error_code ignored;
+    return std::filesystem::read_symlink("/proc/" + std::to_string(process) + "/exe", ignored);
 }
 
 std::optional<long> timesAsleep(pid_t process)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <filesystem>
 #include <optional>
 #include <string>
 #include <sys/types.h>
@@ -10,8 +11,12 @@ namespace brindlex {
 /// The processes that were started with exactly this variable in their environment.
 std::vector<pid_t> processesWithVariable(const std::string& name, const std::string& value);
 
-/// The processes that this one has started itself.
+/// The processes that this one, or another one, has started itself.
 std::vector<pid_t> children();
+std::vector<pid_t> childrenOf(pid_t process);
+
+/// The file that the process runs, without links; empty when it has ended.
+std::filesystem::path fileOf(pid_t process);
 
 /// How often the threads of the process have gone to sleep; nothing while one of them is awake.
 std::optional<long> timesAsleep(pid_t process);

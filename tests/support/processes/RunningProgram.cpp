@@ -12,9 +12,10 @@ using namespace std::chrono_literals;
 
 constexpr auto timeToEnd = 10s;
 
-std::vector<std::string> command(const std::vector<std::string>& arguments)
+std::vector<std::string> command(
+    const std::filesystem::path& program, const std::vector<std::string>& arguments)
 {
-    std::vector<std::string> command{programFile()};
+    std::vector<std::string> command{program};
     command.insert(command.end(), arguments.begin(), arguments.end());
     return command;
 }
@@ -27,10 +28,13 @@ std::filesystem::path programFile()
     return std::filesystem::read_symlink("/proc/self/exe", ignored).parent_path() / "brindlex";
 }
 
-RunningProgram::RunningProgram(
-    const VirtualDesktop& desktop, const std::vector<std::string>& arguments)
+RunningProgram::RunningProgram(const VirtualDesktop& desktop,
+    const std::vector<std::string>& arguments, const std::filesystem::path& program)
     : desktop_(desktop), files_(desktop), linesBefore_(files_.logLines().size()),
-      process_({.command = command(arguments), .output = desktop.outputFolder() / "brindlex"})
+      process_({
+          .command = command(program, arguments),
+          .output = desktop.outputFolder() / "brindlex",
+      })
 {
 }
 

@@ -12,13 +12,18 @@
 
 namespace brindlex {
 
+/// Where the program stands in the build.
+std::filesystem::path programFile();
+
 /// The program itself, running on a virtual desktop.
 class RunningProgram {
 public:
-    /// Starts the program that was built together with this one, as a desktop does at login: no
-    /// window comes to the front. Without arguments it starts as the user starts it.
+    /// Starts the program that was built together with this one, or another file of it, as a
+    /// desktop does at login: no window comes to the front. Without arguments it starts as the user
+    /// starts it.
     explicit RunningProgram(const VirtualDesktop& desktop,
-        const std::vector<std::string>& arguments = {"--started-at-login"});
+        const std::vector<std::string>& arguments = {"--started-at-login"},
+        const std::filesystem::path& program = programFile());
 
     /// Waits until it says in its log that it has launched.
     bool launches() const { return logs("Brindlex launched"); }
@@ -52,8 +57,5 @@ private:
 
 /// The name under which the first instance is found on the session bus.
 inline constexpr auto programBusName = "com.brindlex.Brindlex";
-
-/// Where the program stands in the build.
-std::filesystem::path programFile();
 
 } // namespace brindlex
