@@ -38,7 +38,7 @@ LinuxPlatform::LinuxPlatform(
           programIdentity::bundleIdentifier, {program_.name, runningProgramFile()})),
       relaunching_(runningProgramFile(), startupIdentifierForNow),
       network_(session.mainThread, runningProgramFile().replace_filename("brindlex-fetch")),
-      abilities_(choose(offer.hasX11, clock, container))
+      appearance_(session.bus.connection()), abilities_(choose(offer.hasX11, clock, container))
 {
 }
 

@@ -6,6 +6,7 @@
 #include "app/linux/X11Session.h"
 #include "foundation/Subscription.h"
 #include "platform/Platform.h"
+#include "platform/linux/appearance/PortalAppearance.h"
 #include "platform/linux/applications/DesktopApplicationBundles.h"
 #include "platform/linux/applications/DesktopEntries.h"
 #include "platform/linux/applications/QtIconRendering.h"
@@ -40,6 +41,9 @@ public:
     Subscription addWindowScene(
         const WindowScene& scene, std::function<std::unique_ptr<QWidget>()> make);
 
+    /// How the user wants windows to look.
+    const Observable<DesktopAppearance>& appearance() const { return appearance_.current(); }
+
     /// Notifies when the connection to the display has ended.
     Subscription observeDisplayEnd(std::function<void()> handler);
 
@@ -68,6 +72,7 @@ private:
     XdgLoginItem loginItem_;
     PosixProgramRelaunching relaunching_;
     FetcherHttpReading network_;
+    PortalAppearance appearance_;
 
     /// Made for the first provider that needs it.
     std::shared_ptr<X11Session> x11_;

@@ -37,6 +37,14 @@ void revealFile(const std::filesystem::path& file)
     QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file.parent_path())));
 }
 
+Theme::Look lookFor(const DesktopAppearance& appearance)
+{
+    const auto accent
+        = appearance.accent ? std::optional(Colour::fromHex(*appearance.accent)) : std::nullopt;
+    return {themeTokens(appearance.isDark ? Brightness::dark : Brightness::light, accent),
+        appearance.reducesMotion};
+}
+
 } // namespace
 
 ProgramScreens::Models::Models(Platform& platform, SharedInstances& shared)
@@ -52,6 +60,8 @@ ProgramScreens::Models::Models(Platform& platform, SharedInstances& shared)
 ProgramScreens::ProgramScreens(LinuxPlatform& linuxPlatform, SharedInstances& shared)
     : platform_(linuxPlatform.abilities()), shared_(shared), recency_(platform_.applications)
 {
+    appearance_ = linuxPlatform.appearance().subscribe(
+        [this](const DesktopAppearance& appearance) { theme_.setLook(lookFor(appearance)); });
     scenes_.push_back(
         linuxPlatform.addWindowScene(windowScene::main, [this] { return makeMainWindow(); }));
     scenes_.push_back(

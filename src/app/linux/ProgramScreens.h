@@ -54,6 +54,7 @@ private:
     Platform& platform_;
     SharedInstances& shared_;
     Theme theme_;
+    Subscription appearance_;
     ApplicationRecency recency_;
     MadeOnFirstUse<Models> models_;
     std::vector<Subscription> scenes_;

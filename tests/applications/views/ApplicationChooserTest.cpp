@@ -13,6 +13,8 @@ namespace {
 
 class ApplicationChooserTest : public testing::Test {
 protected:
+    ~ApplicationChooserTest() override { delete chooser; }
+
     void open(std::vector<ApplicationChoice> choices)
     {
         chooser = new ApplicationChooser(
