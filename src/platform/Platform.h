@@ -28,6 +28,7 @@
 #include "platform/ProgramWindows.h"
 #include "platform/RunningApplications.h"
 #include "platform/SessionLock.h"
+#include "platform/StatusItem.h"
 #include "platform/UserDefaults.h"
 #include "platform/UserFolders.h"
 #include "platform/WindowList.h"
@@ -57,6 +58,7 @@ struct Platform {
     ProgramActivation& activation;
     ActivationPolicySetting& activationPolicy;
     ProgramWindows& programWindows;
+    StatusItem& statusItem;
     SessionLock& sessionLock;
     EventPermissions& eventPermissions;
     EventTapping& eventTapping;

@@ -15,6 +15,7 @@
 #include "platform/linux/panels/X11ApplicationOpening.h"
 #include "platform/linux/programwindows/X11ActivationPolicy.h"
 #include "platform/linux/system/DBusSessionLock.h"
+#include "platform/linux/tray/TrayStatusItem.h"
 #include "platform/linux/windows/RandRDisplayLink.h"
 #include "platform/linux/windows/X11DisplayScale.h"
 #include "platform/linux/windows/X11SessionLock.h"
@@ -71,6 +72,11 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
         .activationPolicy = first.of<ActivationPolicySetting>(
             {{hasX11, [&] { return make_shared<X11ActivationPolicy>(x11().display); }}}),
         .programWindows = first.of<ProgramWindows>({{hasX11, [&] { return x11Windows(); }}}),
+        .statusItem = first.of<StatusItem>({{hasX11,
+            [&] {
+                return make_shared<TrayStatusItem>(x11().display, session_.bus.connection(),
+                    std::string(programIdentity::bundleIdentifier));
+            }}}),
         .sessionLock = first.of<SessionLock>({{hasX11, [&] { return x11Lock(); }}}),
         .eventPermissions = first.of<EventPermissions>({{hasX11,
             [&] { return make_shared<X11EventPermissions>(x11().input, session_.preferences); }}}),

@@ -9,9 +9,9 @@ SimulatedComputer::SimulatedComputer(const SimulatedComputerSetup& setup)
       inputSources(mainThread, setup.journal), browserPages(mainThread, setup.journal),
       overlayPanel(mainThread, setup.journal), activation(setup.journal),
       activationPolicy(setup.journal), programWindows(mainThread, activation, setup.journal),
-      eventPermissions(setup.journal), input(setup.tapPlace, setup.journal),
-      displayLink(setup.journal), processes(setup.journal), opening(setup.journal),
-      loginItem(setup.journal), relaunching(setup.journal),
+      statusItem(setup.journal), eventPermissions(setup.journal),
+      input(setup.tapPlace, setup.journal), displayLink(setup.journal), processes(setup.journal),
+      opening(setup.journal), loginItem(setup.journal), relaunching(setup.journal),
       platform_(platformWithInput(input, input))
 {
 }
@@ -36,6 +36,7 @@ Platform SimulatedComputer::platformWithInput(EventTapping& tapping, EventPostin
         .activation = activation,
         .activationPolicy = activationPolicy,
         .programWindows = programWindows,
+        .statusItem = statusItem,
         .sessionLock = sessionLock,
         .eventPermissions = eventPermissions,
         .eventTapping = tapping,

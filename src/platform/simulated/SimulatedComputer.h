@@ -30,6 +30,7 @@
 #include "platform/simulated/SimulatedProgramRelaunching.h"
 #include "platform/simulated/SimulatedProgramWindows.h"
 #include "platform/simulated/SimulatedSessionLock.h"
+#include "platform/simulated/SimulatedStatusItem.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
 #include "platform/simulated/SimulatedUserFolders.h"
 #include "platform/simulated/SimulatedWindowList.h"
@@ -90,6 +91,7 @@ public:
     SimulatedProgramActivation activation;
     SimulatedActivationPolicy activationPolicy;
     SimulatedProgramWindows programWindows;
+    SimulatedStatusItem statusItem;
     SimulatedSessionLock sessionLock;
     SimulatedEventPermissions eventPermissions;
     SimulatedInput input;

@@ -30,6 +30,7 @@ TEST(SimulatedComputer, offersEachAbilityUnderItsName)
     EXPECT_EQ(&platform.activation, &computer.activation);
     EXPECT_EQ(&platform.activationPolicy, &computer.activationPolicy);
     EXPECT_EQ(&platform.programWindows, &computer.programWindows);
+    EXPECT_EQ(&platform.statusItem, &computer.statusItem);
     EXPECT_EQ(&platform.eventPermissions, &computer.eventPermissions);
     EXPECT_EQ(&platform.eventTapping, &computer.input);
     EXPECT_EQ(&platform.eventPosting, &computer.input);
@@ -92,6 +93,10 @@ TEST(SimulatedComputer, hasInOneJournalWhatIsAskedOfAllAbilities)
     const auto pages = platform.browserPages.observeChanges(nothing);
     platform.overlayPanel.show("text");
     platform.overlayPanel.fadeOut();
+    platform.statusItem.show({});
+    const auto clicks = platform.statusItem.observeActivation(nothing);
+    const auto choices = platform.statusItem.observeChoice(nothing);
+    platform.statusItem.hide();
     const auto active = platform.activation.observeDidBecomeActive(nothing);
     const auto permissions = platform.eventPermissions.observeAccessibilityChanges(nothing);
     const auto frames = platform.displayLink.onEachFrame({}, [](Seconds) {});
@@ -102,7 +107,8 @@ TEST(SimulatedComputer, hasInOneJournalWhatIsAskedOfAllAbilities)
         (Entries{"set key", "remove key", "synchronize", "observe preferences", "container",
             "post name object", "observe name object", "list one", "activate 7", "terminate",
             "observe activations", "select us", "observe selection", "observe enabled sources",
-            "observe pages", "show text", "fadeOut", "observe becoming active",
+            "observe pages", "show text", "fadeOut", "show icon", "observe clicks on the icon",
+            "observe choices at the icon", "hide icon", "observe becoming active",
             "observe permissions", "observe frames", "launch /bin/true",
             "open /apps/mail.desktop"}));
 }
