@@ -88,7 +88,8 @@ void measureIdle()
     VirtualDesktop desktop;
     RunningProgram program(desktop);
     program.launches();
-    std::this_thread::sleep_for(std::chrono::seconds(3));
+    // It looks once, five seconds after its launch, whether a tray has taken its icon.
+    std::this_thread::sleep_for(std::chrono::seconds(6));
     const auto before = voluntarySwitches(program.process());
     std::this_thread::sleep_for(std::chrono::seconds(seconds));
     const auto wakes = voluntarySwitches(program.process()) - before;

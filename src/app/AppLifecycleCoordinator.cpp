@@ -46,6 +46,7 @@ void AppLifecycleCoordinator::start()
 
 void AppLifecycleCoordinator::didFinishLaunching(bool isSilentLaunch)
 {
+    startMenuBarExtra();
     const bool restoresFocus = consumeRestoreFocusFlag(platform_.defaults);
     shared_.windows().mainWindow().finishLaunching(restoresFocus || !isSilentLaunch);
 }
@@ -61,6 +62,8 @@ void AppLifecycleCoordinator::stop()
     shared_.windows().mainWindow().stop();
     showRequests_.reset();
     showing_.cancel();
+    if (auto* menuBarExtra = menuBarExtra_.ifMade())
+        menuBarExtra->stop();
 }
 
 void AppLifecycleCoordinator::showMainWindow()
@@ -69,9 +72,31 @@ void AppLifecycleCoordinator::showMainWindow()
     auto& windows = shared_.windows();
     const auto result = windows.applyDockPolicy();
     windows.mainWindow().handleDockResult(result, false);
-    windows.mainWindow().showMainWindow();
-    if (!windows.mainWindow().hasMainWindow())
+    presentMainWindow();
+}
+
+void AppLifecycleCoordinator::openMainWindow()
+{
+    Log::info("Asked to show the main window", logCategory::lifecycle);
+    presentMainWindow();
+}
+
+void AppLifecycleCoordinator::presentMainWindow()
+{
+    auto& mainWindow = shared_.windows().mainWindow();
+    mainWindow.showMainWindow();
+    if (!mainWindow.hasMainWindow())
         shared_.overlayHUDController().show("Brindlex", overlayDuration);
+}
+
+void AppLifecycleCoordinator::startMenuBarExtra()
+{
+    menuBarExtra_
+        .get(platform_.statusItem, platform_.mainThread, shared_.softwareUpdateManager(),
+            shared_.strings(), platform_.program.name,
+            MenuBarExtra::Actions{
+                [this] { openMainWindow(); }, [this] { platform_.instances.terminate(); }})
+        .start();
 }
 
 bool AppLifecycleCoordinator::wakeExistingInstance()

@@ -2,8 +2,10 @@
 
 #include "app/RequestFolding.h"
 #include "app/SharedInstances.h"
+#include "foundation/MadeOnFirstUse.h"
 #include "foundation/Subscription.h"
 #include "platform/Platform.h"
+#include "shell/MenuBarExtra.h"
 
 namespace brindlex {
 
@@ -23,9 +25,10 @@ public:
     /// Whether `start` went through to its end.
     bool isStarted() const { return isStarted_; }
 
-    /// Decides whether the launch brings the main window forward; called once, from the loop, after
-    /// `start`. A process that the desktop has started by itself, `isSilentLaunch`, shows nothing,
-    /// unless it has taken the place of one that had the user's eyes.
+    /// Shows the icon in the menu bar or tray and decides whether the launch brings the main window
+    /// forward; called once, from the loop, after `start`. A process that the desktop has started
+    /// by itself, `isSilentLaunch`, shows nothing, unless it has taken the place of one that had
+    /// the user's eyes.
     void didFinishLaunching(bool isSilentLaunch);
 
     /// Runs the stop sequence.
@@ -38,6 +41,9 @@ public:
 private:
     bool wakeExistingInstance();
     void showMainWindow();
+    void openMainWindow();
+    void presentMainWindow();
+    void startMenuBarExtra();
     void observeShowRequests();
     void startInputSwitching();
 
@@ -45,6 +51,7 @@ private:
     SharedInstances& shared_;
     RequestFolding showing_;
     Subscription showRequests_;
+    MadeOnFirstUse<MenuBarExtra> menuBarExtra_;
     bool isStarted_ = false;
 };
 
