@@ -21,7 +21,7 @@ double contrast(QColor one, QColor other)
         return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF())
             + 0.0722 * linear(colour.blueF());
     };
-    const auto [low, high] = std::minmax(luminance(one), luminance(other));
+    const auto [low, high] = std::minmax({luminance(one), luminance(other)});
     return (high + 0.05) / (low + 0.05);
 }
 
