@@ -10,6 +10,7 @@
 #include "platform/linux/input/X11EventPermissions.h"
 #include "platform/linux/input/X11EventPosting.h"
 #include "platform/linux/input/X11EventTapping.h"
+#include "platform/linux/input/X11KeyCharacters.h"
 #include "platform/linux/inputsources/DesktopInputSources.h"
 #include "platform/linux/panels/QtOverlayPanel.h"
 #include "platform/linux/panels/X11ApplicationOpening.h"
@@ -116,6 +117,12 @@ Subscription LinuxPlatform::addWindowScene(
         .size = {scene.width, scene.height},
         .make = std::move(make),
     });
+}
+
+KeyCharacters LinuxPlatform::keyCharacters()
+{
+    return [characters = std::make_shared<X11KeyCharacters>(x11().display)](
+               std::int64_t virtualKeyCode) { return characters->of(virtualKeyCode); };
 }
 
 Subscription LinuxPlatform::observeDisplayEnd(std::function<void()> handler)

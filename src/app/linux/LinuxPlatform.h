@@ -4,6 +4,7 @@
 #include "app/linux/ProviderChoice.h"
 #include "app/linux/SessionOffer.h"
 #include "app/linux/X11Session.h"
+#include "eventtap/KeyName.h"
 #include "foundation/Subscription.h"
 #include "platform/Platform.h"
 #include "platform/linux/appearance/PortalAppearance.h"
@@ -40,6 +41,9 @@ public:
     /// ends; see `QtProgramWindows::Scene`.
     Subscription addWindowScene(
         const WindowScene& scene, std::function<std::unique_ptr<QWidget>()> make);
+
+    /// What keys write, by their virtual key codes.
+    KeyCharacters keyCharacters();
 
     /// How the user wants windows to look.
     const Observable<DesktopAppearance>& appearance() const { return appearance_.current(); }

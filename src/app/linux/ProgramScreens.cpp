@@ -58,7 +58,8 @@ ProgramScreens::Models::Models(Platform& platform, SharedInstances& shared)
 }
 
 ProgramScreens::ProgramScreens(LinuxPlatform& linuxPlatform, SharedInstances& shared)
-    : platform_(linuxPlatform.abilities()), shared_(shared), recency_(platform_.applications)
+    : linuxPlatform_(linuxPlatform), platform_(linuxPlatform.abilities()), shared_(shared),
+      recency_(platform_.applications)
 {
     appearance_ = linuxPlatform.appearance().subscribe(
         [this](const DesktopAppearance& appearance) { theme_.setLook(lookFor(appearance)); });
@@ -71,7 +72,7 @@ ProgramScreens::ProgramScreens(LinuxPlatform& linuxPlatform, SharedInstances& sh
 KeyRecording ProgramScreens::keyRecording()
 {
     return {shared_.globalEventTap(), platform_.activation,
-        {modifierNames, [](std::int64_t) { return std::string(); }}};
+        {modifierNames, linuxPlatform_.keyCharacters()}};
 }
 
 void ProgramScreens::present(const WindowScene& scene)

@@ -51,6 +51,7 @@ private:
     QWidget* makeMouse();
     QWidget* makeAbout();
 
+    LinuxPlatform& linuxPlatform_;
     Platform& platform_;
     SharedInstances& shared_;
     Theme theme_;
