@@ -49,11 +49,11 @@ const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheir
         {"AboutScreen", "ApplicationIcon", "Buttons", "Card", "EmptyState", "GeneralScreen",
             "Glyph", "InputMethodDomainRulesSection", "InputMethodOptionsSection",
             "InputMethodRulesSection", "InputMethodSmartRulesSection", "InputMethodSmartStatsRows",
-            "InputRuleRow", "InputSourceOptions", "KeyRecorderField", "LogTableModel",
-            "MouseActionPicker", "MouseBindingRow", "MouseBindingSection",
-            "MouseDisabledAppsSection", "MouseGestureSection", "MouseScrollSection", "Page",
-            "SmartStatsModel", "StatusLabel", "StyleSheet", "TabPlaceholder", "TableCells",
-            "TextLabel"}},
+            "InputRuleRow", "InputSourceOptions", "KeyRecorderField", "LogDetail",
+            "LogLevelsButton", "LogTableModel", "MouseActionPicker", "MouseBindingRow",
+            "MouseBindingSection", "MouseDisabledAppsSection", "MouseGestureSection",
+            "MouseScrollSection", "Page", "SmartStatsModel", "StatusLabel", "StyleSheet",
+            "TabPlaceholder", "TableCells", "TextLabel"}},
 };
 
 /// Whether the folder or one inside it has a header whose concept the test is named after, with or

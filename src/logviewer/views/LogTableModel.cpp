@@ -1,5 +1,6 @@
 #include "logviewer/views/LogTableModel.h"
 
+#include "logviewer/views/LogLevelNames.h"
 #include "ui/controls/TableCells.h"
 
 #include <QDateTime>
@@ -20,23 +21,6 @@ QString formatted(const LogEntry& entry, const QString& format)
         return QString::fromStdString(entry.timestampString);
     const auto milliseconds = std::llround(entry.timestamp->unixTime() * 1000.0);
     return QDateTime::fromMSecsSinceEpoch(milliseconds).toString(format);
-}
-
-QString nameOf(LogLevel level)
-{
-    switch (level) {
-    case LogLevel::info:
-        return QStringLiteral("INFO");
-    case LogLevel::notice:
-        return QStringLiteral("NOTICE");
-    case LogLevel::warn:
-        return QStringLiteral("WARN");
-    case LogLevel::error:
-        return QStringLiteral("ERROR");
-    case LogLevel::raw:
-        return QStringLiteral("RAW");
-    }
-    return {};
 }
 
 Token inkOf(LogLevel level)

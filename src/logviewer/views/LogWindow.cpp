@@ -3,19 +3,15 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/TableCells.h"
 
-#include <QApplication>
-#include <QClipboard>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLocale>
-#include <QMenu>
 #include <QMessageBox>
 #include <QScrollBar>
 #include <QStackedWidget>
 #include <QTableView>
 #include <QVBoxLayout>
 
-#include <array>
 #include <utility>
 
 namespace brindlex {
@@ -25,22 +21,9 @@ constexpr QSize leastSize{560, 360};
 constexpr int rowHeight = 26;
 constexpr int headHeight = 28;
 constexpr int barHeight = 48;
-constexpr int detailHeight = 53;
 constexpr int footHeight = 24;
 constexpr int margin = 12;
 constexpr int gap = 8;
-
-constexpr std::array levelsInOrder{
-    LogLevel::info, LogLevel::notice, LogLevel::warn, LogLevel::error, LogLevel::raw};
-
-QString nameOf(LogLevel level)
-{
-    constexpr std::array names{"INFO", "NOTICE", "WARN", "ERROR", "RAW"};
-    return QLatin1String(names[static_cast<std::size_t>(level)]);
-}
-
-const std::set<LogLevel> allLevels(levelsInOrder.begin(), levelsInOrder.end());
-const std::set<LogLevel> warningsAndErrors{LogLevel::warn, LogLevel::error};
 
 QFrame* makeStrip(const char* name, int height)
 {
@@ -59,7 +42,11 @@ LogWindow::LogWindow(const ViewContext& context, MainThread& mainThread,
     std::function<void(const std::filesystem::path& file)> reveal)
     : context_(context), reveal_(std::move(reveal)), screen_(mainThread, context.strings),
       model_(new LogTableModel(context, screen_, this)), table_(new QTableView),
-      levels_(new QToolButton), middle_(new QStackedWidget)
+
+      levels_(new LogLevelsButton(
+          context, [this](const std::set<LogLevel>& levels) { setLevels(levels); })),
+      middle_(new QStackedWidget),
+      detail_(new LogDetail(context, [this] { return screen_.selectedEntry(); }))
 {
     setObjectName("window");
     setWindowTitle(context.text<"logs.windowTitle">());
@@ -72,10 +59,10 @@ LogWindow::LogWindow(const ViewContext& context, MainThread& mainThread,
     middle_->addWidget(table_);
     middle_->addWidget(makeEmpty());
     layout->addWidget(middle_, 1);
-    layout->addWidget(makeDetail());
+    layout->addWidget(detail_);
     layout->addWidget(makeFoot());
     context.theme.dress(*this);
-    showLevels();
+    levels_->show(screen_.filter().levels);
     setFocus();
     screen_.appear();
     changes_ = screen_.visible().subscribe([this](const auto&) { showEntries(); });
@@ -86,7 +73,6 @@ QWidget* LogWindow::makeBar()
     auto* const bar = makeStrip("bar", barHeight);
     auto* const layout = bar->layout();
     layout->addWidget(makeSubsystems());
-    makeLevels();
     layout->addWidget(levels_);
     auto* const search
         = new SearchField(context_.theme, context_.text<"logs.search.placeholder">());
@@ -130,33 +116,6 @@ QWidget* LogWindow::makeSubsystems()
     return segments;
 }
 
-void LogWindow::makeLevels()
-{
-    auto* const menu = new QMenu(levels_);
-    const auto addChoice = [&](const QString& text, const std::set<LogLevel>& levels) {
-        menu->addAction(text, this, [this, levels] { setLevels(levels); });
-    };
-    addChoice(context_.text<"logs.filter.all">(), allLevels);
-    addChoice(context_.text<"logs.filter.warningsAndErrors">(), warningsAndErrors);
-    addChoice(context_.text<"logs.filter.none">(), {});
-    menu->addSeparator();
-    for (const auto level : levelsInOrder) {
-        auto* const action = menu->addAction(nameOf(level));
-        action->setCheckable(true);
-        connect(action, &QAction::triggered, this,
-            [this, level](bool isShown) { toggle(level, isShown); });
-    }
-    levels_->setMenu(menu);
-    levels_->setPopupMode(QToolButton::InstantPopup);
-    levels_->setFocusPolicy(Qt::StrongFocus);
-    levels_->setObjectName("chooser");
-    // The picture behind the words.
-    levels_->setLayoutDirection(Qt::RightToLeft);
-    levels_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    levels_->setIcon(glyphIcon(context_.theme, Glyph::chevronDown, &ThemeTokens::subdued));
-    levels_->setIconSize({12, 12});
-}
-
 void LogWindow::makeTable()
 {
     table_->setObjectName("ground");
@@ -194,36 +153,6 @@ void LogWindow::makeTable()
     });
 }
 
-QWidget* LogWindow::makeDetail()
-{
-    auto* const detail = makeStrip("foot", detailHeight);
-    auto* const words = new QWidget;
-    auto* const column = new QVBoxLayout(words);
-    column->setContentsMargins(4, 4, 0, 4);
-    column->setSpacing(1);
-    message_ = new TextLabel(context_.theme, TextRole::body, {});
-    message_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    message_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    place_ = new TextLabel(context_.theme, TextRole::second, {});
-    place_->setWordWrap(false);
-    place_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    column->addWidget(message_);
-    column->addWidget(place_);
-    auto* const layout = static_cast<QHBoxLayout*>(detail->layout());
-    layout->addWidget(words, 1);
-    const auto copySelected = [this](std::string LogEntry::*text) {
-        if (const auto* const entry = screen_.selectedEntry())
-            copy(entry->*text);
-    };
-    layout->addWidget(makeButton(context_.theme, ButtonRole::plain,
-        context_.text<"logs.copyMessage">(), [copySelected] { copySelected(&LogEntry::message); }));
-    layout->addWidget(makeButton(context_.theme, ButtonRole::plain,
-        context_.text<"logs.copyRawEntry">(), [copySelected] { copySelected(&LogEntry::raw); }));
-    detail->hide();
-    detail_ = detail;
-    return detail;
-}
-
 QWidget* LogWindow::makeFoot()
 {
     auto* const foot = makeStrip("foot", footHeight);
@@ -255,37 +184,10 @@ QWidget* LogWindow::makeEmpty()
 
 void LogWindow::show(LogDisplaySubsystem subsystem) { screen_.setSubsystem(subsystem); }
 
-void LogWindow::toggle(LogLevel level, bool isShown)
+void LogWindow::setLevels(const std::set<LogLevel>& levels)
 {
-    auto levels = screen_.filter().levels;
-    if (isShown)
-        levels.insert(level);
-    else
-        levels.erase(level);
-    setLevels(std::move(levels));
-}
-
-void LogWindow::setLevels(std::set<LogLevel> levels)
-{
-    screen_.setSelectedLevels(std::move(levels));
-    showLevels();
-}
-
-void LogWindow::showLevels()
-{
-    const auto& levels = screen_.filter().levels;
-    QStringList shown;
-    for (auto* const action : levels_->menu()->actions())
-        for (const auto level : levelsInOrder)
-            if (action->isCheckable() && action->text() == nameOf(level)) {
-                action->setChecked(levels.contains(level));
-                if (levels.contains(level))
-                    shown.push_back(nameOf(level));
-            }
-    levels_->setText(levels == allLevels  ? context_.text<"logs.filter.allLevels">()
-            : levels == warningsAndErrors ? context_.text<"logs.filter.warningsAndErrors">()
-            : shown.isEmpty()             ? context_.text<"logs.filter.none">()
-                                          : shown.join(QStringLiteral(", ")));
+    screen_.setSelectedLevels(levels);
+    levels_->show(levels);
 }
 
 void LogWindow::showEntries()
@@ -320,15 +222,9 @@ void LogWindow::showEntries()
 void LogWindow::showSelection()
 {
     const auto* const entry = screen_.selectedEntry();
-    detail_->setVisible(entry);
+    detail_->show(entry);
     if (!entry)
         return;
-    message_->setText(message_->fontMetrics().elidedText(
-        QString::fromUtf8(entry->message.data(),
-            static_cast<qsizetype>(std::min(entry->message.size(), std::size_t{4'000}))),
-        Qt::ElideRight, 4 * width()));
-    place_->setText(
-        QString::fromStdString(entry->location) + QStringLiteral("  ·  ") + dayAndTimeOf(*entry));
     const auto row = model_->rowOf(entry->id);
     if (row && table_->currentIndex().row() != *row)
         table_->selectRow(*row);
@@ -347,11 +243,6 @@ void LogWindow::follow(bool isOn)
     screen_.setAutoScroll(isOn);
     if (isOn)
         table_->scrollToBottom();
-}
-
-void LogWindow::copy(const std::string& text)
-{
-    QApplication::clipboard()->setText(QString::fromStdString(text));
 }
 
 void LogWindow::reveal()

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "logviewer/LogScreen.h"
+#include "logviewer/views/LogDetail.h"
+#include "logviewer/views/LogLevelsButton.h"
 #include "logviewer/views/LogTableModel.h"
 #include "ui/controls/EmptyState.h"
 #include "ui/controls/SearchField.h"
@@ -15,7 +17,6 @@
 class QPushButton;
 class QStackedWidget;
 class QTableView;
-class QToolButton;
 
 namespace brindlex {
 
@@ -29,21 +30,16 @@ public:
 private:
     QWidget* makeBar();
     QWidget* makeSubsystems();
-    void makeLevels();
     void makeTable();
-    QWidget* makeDetail();
     QWidget* makeFoot();
     QWidget* makeEmpty();
 
     void show(LogDisplaySubsystem subsystem);
-    void toggle(LogLevel level, bool isShown);
-    void setLevels(std::set<LogLevel> levels);
-    void showLevels();
+    void setLevels(const std::set<LogLevel>& levels);
     void showEntries();
     void showSelection();
     void selectRow(const QModelIndex& current);
     void follow(bool isOn);
-    void copy(const std::string& text);
     void reveal();
     void askToClear();
 
@@ -52,14 +48,12 @@ private:
     LogScreen screen_;
     LogTableModel* const model_;
     QTableView* const table_;
-    QToolButton* const levels_;
+    LogLevelsButton* const levels_;
     QPushButton* follow_ = nullptr;
     QStackedWidget* const middle_;
+    LogDetail* const detail_;
     TextLabel* emptyTitle_ = nullptr;
     TextLabel* emptySubtitle_ = nullptr;
-    QWidget* detail_ = nullptr;
-    TextLabel* message_ = nullptr;
-    TextLabel* place_ = nullptr;
     TextLabel* count_ = nullptr;
     TextLabel* size_ = nullptr;
     Subscription changes_;
