@@ -26,6 +26,8 @@ public:
     /// Starts the program anew, unless it is the present choice.
     void setLanguage(LanguagePreference language);
 
+    /// Whether there is a guide to open.
+    bool hasPermissionsGuide() const { return windows_.hasWindow(windowScene::permissions); }
     void openPermissionsGuide();
 
 private:

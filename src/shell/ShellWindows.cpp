@@ -21,6 +21,11 @@ DockIconPolicyResult ShellWindows::applyDockPolicy()
     return dockIconPolicy_.apply(showsDockIcon());
 }
 
+bool ShellWindows::hasWindow(const WindowScene& scene) const
+{
+    return platform_.programWindows.hasScene(std::string(scene.id));
+}
+
 void ShellWindows::setShowsDockIcon(bool showsDockIcon)
 {
     applyDeferred(showsDockIcon, true);

@@ -4,6 +4,7 @@
 #include "shell/AuxiliaryWindowPresenter.h"
 #include "shell/DockIconPolicyManager.h"
 #include "shell/MainWindowPresenter.h"
+#include "shell/WindowScenes.h"
 
 namespace brindlex {
 
@@ -19,6 +20,9 @@ public:
 
     /// Applies the dock policy of the preference now.
     DockIconPolicyResult applyDockPolicy();
+
+    /// Whether the program has the window.
+    bool hasWindow(const WindowScene& scene) const;
 
     /// Stores what the user has chosen and applies it; the main window stays in front.
     void setShowsDockIcon(bool showsDockIcon);

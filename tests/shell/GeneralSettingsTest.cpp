@@ -54,7 +54,9 @@ TEST_F(GeneralSettingsTest, storesWhetherTheProgramHasAPlaceInTheDock)
 TEST_F(GeneralSettingsTest, opensThePermissionGuide)
 {
     const std::string scene(windowScene::permissions.id);
+    EXPECT_FALSE(settings.hasPermissionsGuide());
     computer.programWindows.addScene(scene);
+    EXPECT_TRUE(settings.hasPermissionsGuide());
 
     settings.openPermissionsGuide();
 

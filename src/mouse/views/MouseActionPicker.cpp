@@ -12,7 +12,7 @@ namespace {
 
 constexpr int gap = 6;
 constexpr int leastChooser = 92;
-constexpr int mostChooser = 150;
+constexpr int mostChooser = 190;
 constexpr int leastKeys = 122;
 constexpr int mostKeys = 160;
 

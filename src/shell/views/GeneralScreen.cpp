@@ -66,12 +66,19 @@ GeneralScreen::GeneralScreen(
     card.setting(context.text<"general.showsDockIcon">(),
         context.text<"general.showsDockIconDescription">(), showsDockIcon_);
     card.setting(context.text<"general.language">(), {}, language_);
-    card.setting(context.text<"general.permissionsGuide">(),
-        context.text<"general.permissionsGuideDescription">(),
-        makeButton(context.theme, ButtonRole::plain, context.text<"general.openPermissionsGuide">(),
-            [this] { settings_.openPermissionsGuide(); }));
+    if (settings.hasPermissionsGuide())
+        addPermissionsRow(card);
     finish();
     show();
+}
+
+void GeneralScreen::addPermissionsRow(Card& card)
+{
+    card.setting(context_.text<"general.permissionsGuide">(),
+        context_.text<"general.permissionsGuideDescription">(),
+        makeButton(context_.theme, ButtonRole::plain,
+            context_.text<"general.openPermissionsGuide">(),
+            [this] { settings_.openPermissionsGuide(); }));
 }
 
 /// The desktop may have changed what starts at login while the user was elsewhere.

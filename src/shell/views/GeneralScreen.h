@@ -18,6 +18,7 @@ protected:
     bool event(QEvent* event) override;
 
 private:
+    void addPermissionsRow(Card& card);
     void show();
 
     const ViewContext context_;

@@ -7,6 +7,8 @@
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
 #include <QVariant>
 #include <QWheelEvent>
 
@@ -121,10 +123,18 @@ void Chooser::setBad(bool isBad)
     style()->polish(this);
 }
 
-void Chooser::paintEvent(QPaintEvent* event)
+void Chooser::paintEvent(QPaintEvent*)
 {
-    QComboBox::paintEvent(event);
-    QPainter painter(this);
+    QStylePainter painter(this);
+    QStyleOptionComboBox option;
+    initStyleOption(&option);
+    const auto room
+        = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
+    const int badge = option.currentIcon.isNull() ? 0 : badgeSize.width() + badgeGap;
+    option.currentText
+        = fontMetrics().elidedText(option.currentText, Qt::ElideRight, room.width() - badge);
+    painter.drawComplexControl(QStyle::CC_ComboBox, option);
+    painter.drawControl(QStyle::CE_ComboBoxLabel, option);
     const auto ink = theme_.colour(isEnabled() ? &ThemeTokens::subdued : &ThemeTokens::edge);
     const int left
         = layoutDirection() == Qt::RightToLeft ? chevronRoom - chevronSize : width() - chevronRoom;

@@ -45,6 +45,7 @@ QPushButton:default { background: @accent@; color: white; }
 QPushButton:default:focus { border-color: @text@; }
 QPushButton:checked { background: @select@; color: @accentText@; }
 QPushButton[role=danger] { color: @danger@; }
+QPushButton[role=danger]:disabled { color: @subdued@; }
 QPushButton[role=link] { color: @accentText@; background: transparent; padding: 0 4px; }
 QPushButton[role=add] {
     background: transparent; color: @accentText@; text-align: left; padding: 0 14px;

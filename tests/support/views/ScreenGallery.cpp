@@ -54,6 +54,7 @@ KeyRecording ScreenGallery::recording()
 
 void ScreenGallery::fill()
 {
+    computer.programWindows.addScene(std::string(windowScene::permissions.id));
     computer.inputSources.install(SimulatedInputSources::keyboard("xkb:us::eng", "English (US)"));
     computer.inputSources.install(SimulatedInputSources::keyboard("xkb:de::deu", "German"));
     computer.bundles.install(
