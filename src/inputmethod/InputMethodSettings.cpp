@@ -1,5 +1,6 @@
 #include "inputmethod/InputMethodSettings.h"
 
+#include "foundation/RestoredMember.h"
 #include "foundation/Text.h"
 #include "inputmethod/NormalizedDomain.h"
 #include "inputmethod/SmartInputMethodForgetting.h"
@@ -24,19 +25,6 @@ template <typename Rule>
 void remove(std::vector<Rule>& rules, const Uuid& id)
 {
     std::erase_if(rules, [&](const Rule& rule) { return rule.id == id; });
-}
-
-/// Two rules are for the same when `subject` is the same of both.
-template <typename Rule, typename Subject>
-void restore(std::vector<Rule>& rules, const Rule& rule, std::size_t index, Subject subject)
-{
-    const auto isForTheSame = [&](const Rule& each) {
-        return std::invoke(subject, each) == std::invoke(subject, rule);
-    };
-    if (std::any_of(rules.begin(), rules.end(), isForTheSame))
-        return;
-    const auto place = std::min(index, rules.size());
-    rules.insert(rules.begin() + static_cast<std::ptrdiff_t>(place), rule);
 }
 
 } // namespace
@@ -116,7 +104,8 @@ void InputMethodSettings::removeAppRule(const Uuid& id)
 void InputMethodSettings::restoreAppRule(const InputMethodRule& rule, std::size_t index)
 {
     const auto application = [](const InputMethodRule& each) { return each.app.bundleID; };
-    change([&](InputMethodConfig& config) { restore(config.rules, rule, index, application); });
+    change(
+        [&](InputMethodConfig& config) { restoreMember(config.rules, rule, index, application); });
 }
 
 std::optional<Uuid> InputMethodSettings::addDomainRule(const std::string& text)
@@ -150,7 +139,7 @@ void InputMethodSettings::removeDomainRule(const Uuid& id)
 void InputMethodSettings::restoreDomainRule(const DomainInputMethodRule& rule, std::size_t index)
 {
     change([&](InputMethodConfig& config) {
-        restore(config.domainRules, rule, index, &DomainInputMethodRule::domainSuffix);
+        restoreMember(config.domainRules, rule, index, &DomainInputMethodRule::domainSuffix);
     });
 }
 

@@ -1,5 +1,6 @@
 #include "mouse/MouseSettings.h"
 
+#include "foundation/RestoredMember.h"
 #include "log/Log.h"
 #include "mouse/ScrollSteps.h"
 
@@ -30,18 +31,6 @@ template <typename Binding>
 void remove(std::vector<Binding>& bindings, const Uuid& id)
 {
     std::erase_if(bindings, [&](const Binding& binding) { return binding.id == id; });
-}
-
-/// Two are the same when `identity` is the same of both.
-template <typename Member, typename Identity>
-void restore(std::vector<Member>& members, const Member& member, std::size_t index,
-    Identity Member::*identity)
-{
-    const auto isTheSame = [&](const Member& each) { return each.*identity == member.*identity; };
-    if (std::any_of(members.begin(), members.end(), isTheSame))
-        return;
-    const auto place = std::min(index, members.size());
-    members.insert(members.begin() + static_cast<std::ptrdiff_t>(place), member);
 }
 
 } // namespace
@@ -81,7 +70,7 @@ void MouseSettings::removeClickBinding(const Uuid& id)
 void MouseSettings::restoreClickBinding(const MouseClickBinding& binding, std::size_t index)
 {
     change([&](MouseConfig& config) {
-        restore(config.click.bindings, binding, index, &MouseClickBinding::id);
+        restoreMember(config.click.bindings, binding, index, &MouseClickBinding::id);
     });
 }
 
@@ -110,7 +99,7 @@ void MouseSettings::removeGestureBinding(const Uuid& id)
 void MouseSettings::restoreGestureBinding(const MouseGestureBinding& binding, std::size_t index)
 {
     change([&](MouseConfig& config) {
-        restore(config.gesture.bindings, binding, index, &MouseGestureBinding::id);
+        restoreMember(config.gesture.bindings, binding, index, &MouseGestureBinding::id);
     });
 }
 
@@ -154,7 +143,7 @@ void MouseSettings::removeDisabledApp(const std::string& bundleID)
 void MouseSettings::restoreDisabledApp(const AppIdentifier& app, std::size_t index)
 {
     change([&](MouseConfig& config) {
-        restore(config.scroll.disabledApps, app, index, &AppIdentifier::bundleID);
+        restoreMember(config.scroll.disabledApps, app, index, &AppIdentifier::bundleID);
     });
 }
 
