@@ -30,8 +30,7 @@ void InputRuleRow::show(const std::string& inputSourceID)
     chooser_->show(
         inputSourceOptions(settings_, inputSourceID), optionOf(settings_, inputSourceID));
     chooser_->setBad(isMissing);
-    setSecond(isMissing ? context_.text<"inputMethod.rules.missingSource">() : QString(),
-        TextRole::warning);
+    setWarning(isMissing ? context_.text<"inputMethod.rules.missingSource">() : QString());
 }
 
 } // namespace brindlex

@@ -75,7 +75,7 @@ void Card::paintEvent(QPaintEvent*)
         if (row && row->isRemovable() && row->isHot())
             painter.fillRect(row->geometry(), theme_.colour(&ThemeTokens::hover));
         const int left = row ? row->x() + row->wordsLeft() : 0;
-        if (!isFirst && !(row && row->continuesRow()))
+        if (!isFirst)
             painter.fillRect(
                 QRect(left, widget->y(), width() - left, 1), theme_.colour(&ThemeTokens::line));
         isFirst = false;

@@ -33,8 +33,6 @@ const char* shapesOf(Glyph glyph)
     case Glyph::dictation:
         return "<rect x='9' y='3' width='6' height='11' rx='3'/>"
                "<path d='M6 11a6 6 0 0 0 12 0M12 17v4'/>";
-    case Glyph::eye:
-        return "<path d='M2 12c4-8 16-8 20 0-4 8-16 8-20 0z'/><circle cx='12' cy='12' r='3'/>";
     case Glyph::files:
         return "<path d='M3 18V7a2 2 0 0 1 2-2h4l2 2h8a2 2 0 0 1 2 2v9a2 2 0 0 1-2 2H5"
                "a2 2 0 0 1-2-2z'/>";
@@ -49,13 +47,9 @@ const char* shapesOf(Glyph glyph)
     case Glyph::globe:
         return "<circle cx='12' cy='12' r='9'/>"
                "<path d='M3 12h18M12 3c5 6 5 12 0 18-5-6-5-12 0-18'/>";
-    case Glyph::grip:
-        return "<path d='M9 6h.01M15 6h.01M9 12h.01M15 12h.01M9 18h.01M15 18h.01'/>";
     case Glyph::keyboard:
         return "<rect x='3' y='6' width='18' height='12' rx='2'/>"
                "<path d='M7 10h.01M10.3 10h.01M13.7 10h.01M17 10h.01M8 14h8'/>";
-    case Glyph::link:
-        return "<path d='M8 16 17 7M10 7h7v7'/>";
     case Glyph::mouse:
         return "<rect x='7' y='3' width='10' height='18' rx='5'/><path d='M12 7v3'/>";
     case Glyph::person:
@@ -63,12 +57,8 @@ const char* shapesOf(Glyph glyph)
                "<path d='M5 10c4 1.5 10 1.5 14 0M12 11v4l-3 6M12 15l3 6'/>";
     case Glyph::reload:
         return "<path d='M20 12a8 8 0 1 1-2.5-5.8M20 3v5h-5'/>";
-    case Glyph::screen:
-        return "<rect x='3' y='4' width='18' height='13' rx='2'/><path d='M9 21h6'/>";
     case Glyph::search:
         return "<circle cx='11' cy='11' r='6'/><path d='m20 20-4.5-4.5'/>";
-    case Glyph::target:
-        return "<circle cx='12' cy='12' r='6'/><path d='M12 2v6M12 16v6M2 12h6M16 12h6'/>";
     case Glyph::trash:
         return "<path d='M5 7h14M9 7V4h6v3M7 7l1 13h8l1-13'/>";
     case Glyph::warning:

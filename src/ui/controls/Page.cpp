@@ -95,8 +95,6 @@ Card& Page::section(const QString& heading, const QString& second)
 
 void Page::add(QWidget* widget) { layout_->addWidget(widget); }
 
-void Page::addSpace(int height) { layout_->addSpacing(height); }
-
 void Page::finish() { layout_->addStretch(); }
 
 void Page::offerUndo(const QString& removed, std::function<void()> undo)

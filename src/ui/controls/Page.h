@@ -26,7 +26,6 @@ public:
 
     /// Anything else, in the column.
     void add(QWidget* widget);
-    void addSpace(int height);
     /// Keeps what was added at the top.
     void finish();
 

@@ -21,7 +21,6 @@ constexpr int switchMargin = 12;
 constexpr int crossMargin = 10;
 constexpr int oneLine = 44;
 constexpr int twoLines = 52;
-constexpr int continued = 36;
 constexpr int gap = 8;
 constexpr int wordsGap = 12;
 constexpr int warningSize = 14;
@@ -89,25 +88,11 @@ Row& Row::removable(const QString& name, std::function<void()> remove)
     return *this;
 }
 
-Row& Row::continues()
-{
-    continues_ = true;
-    setMinimumHeight(continued);
-    layout_->setContentsMargins(margin, 0, layout_->contentsMargins().right(), gap);
-    return *this;
-}
-
 void Row::setTitle(const QString& title) { title_->setText(title); }
 
-void Row::setSecond(const QString& words, TextRole role)
-{
-    second_->setText(words);
-    second_->setRole(role);
-    warning_->setVisible(role == TextRole::warning);
-    secondLine_->setVisible(!words.isEmpty());
-    if (!words.isEmpty())
-        setMinimumHeight(std::max(minimumHeight(), twoLines));
-}
+void Row::setSecond(const QString& words) { show(*second_, *second_, words); }
+
+void Row::setWarning(const QString& words) { show(*warning_, *warningLine_, words); }
 
 int Row::wordsLeft() const { return wordsBox_ ? wordsBox_->x() : margin; }
 
@@ -133,7 +118,7 @@ void Row::keyPressEvent(QKeyEvent* event)
         QWidget::keyPressEvent(event);
 }
 
-/// The name, and under it the second line with a picture in front that only a warning has.
+/// The name, and under it the lines that the row may have.
 void Row::makeWords()
 {
     wordsBox_ = new QWidget;
@@ -142,20 +127,37 @@ void Row::makeWords()
     column->setSpacing(1);
     title_ = new TextLabel(theme_, TextRole::body, {});
     second_ = new TextLabel(theme_, TextRole::second, {});
-    warning_
-        = new GlyphLabel(glyphIcon(theme_, Glyph::warning, &ThemeTokens::warning), warningSize);
-    secondLine_ = new QWidget;
-    auto* const line = new QHBoxLayout(secondLine_);
-    line->setContentsMargins({});
-    line->setSpacing(5);
-    line->addWidget(warning_);
-    line->addWidget(second_, 1);
+    makeWarning();
     column->addStretch();
     column->addWidget(title_);
-    column->addWidget(secondLine_);
+    column->addWidget(second_);
+    column->addWidget(warningLine_);
     column->addStretch();
     layout_->addWidget(wordsBox_, 1);
     layout_->addSpacing(gap);
+}
+
+/// Words behind a picture.
+void Row::makeWarning()
+{
+    warningLine_ = new QWidget;
+    warningLine_->hide();
+    warning_ = new TextLabel(theme_, TextRole::warning, {});
+    auto* const line = new QHBoxLayout(warningLine_);
+    line->setContentsMargins({});
+    line->setSpacing(5);
+    line->addWidget(
+        new GlyphLabel(glyphIcon(theme_, Glyph::warning, &ThemeTokens::warning), warningSize), 0,
+        Qt::AlignTop);
+    line->addWidget(warning_, 1);
+}
+
+void Row::show(TextLabel& label, QWidget& line, const QString& words)
+{
+    label.setText(words);
+    line.setVisible(!words.isEmpty());
+    if (!words.isEmpty())
+        setMinimumHeight(std::max(minimumHeight(), twoLines));
 }
 
 void Row::noteFocus(const QWidget* focused)

@@ -31,14 +31,13 @@ public:
     Row& fill(QWidget* control);
     /// The cross at its very end, and Delete; its name says what goes.
     Row& removable(const QString& name, std::function<void()> remove);
-    /// Goes on with the row before it: no hairline between them, and no taller than its control.
-    Row& continues();
 
     void setTitle(const QString& title);
-    /// Other words under the name, of the role `second` or `warning`; none for none.
-    void setSecond(const QString& words, TextRole role = TextRole::second);
+    /// Other words under the name, or none.
+    void setSecond(const QString& words);
+    /// What is wrong and what to do, under all other words; nothing while nothing is.
+    void setWarning(const QString& words);
 
-    bool continuesRow() const { return continues_; }
     /// Where the hairline above it begins, from the left.
     int wordsLeft() const;
     /// Whether the pointer or the focus is in it.
@@ -52,6 +51,8 @@ protected:
 
 private:
     void makeWords();
+    void makeWarning();
+    void show(TextLabel& label, QWidget& line, const QString& words);
     void noteFocus(const QWidget* focused);
     void noteHot();
 
@@ -59,12 +60,11 @@ private:
     QHBoxLayout* const layout_;
     QWidget* wordsBox_ = nullptr;
     TextLabel* title_ = nullptr;
-    QWidget* secondLine_ = nullptr;
     TextLabel* second_ = nullptr;
-    QLabel* warning_ = nullptr;
+    QWidget* warningLine_ = nullptr;
+    TextLabel* warning_ = nullptr;
     QToolButton* cross_ = nullptr;
     std::function<void()> remove_;
-    bool continues_ = false;
     bool isHovered_ = false;
     bool hasFocusWithin_ = false;
 };
