@@ -2,6 +2,7 @@
 
 #include "ui/controls/Buttons.h"
 #include "ui/controls/TableCells.h"
+#include "ui/controls/WindowKeys.h"
 
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -42,7 +43,6 @@ LogWindow::LogWindow(const ViewContext& context, MainThread& mainThread,
     std::function<void(const std::filesystem::path& file)> reveal)
     : context_(context), reveal_(std::move(reveal)), screen_(mainThread, context.strings),
       model_(new LogTableModel(context, screen_, this)), table_(new QTableView),
-
       levels_(new LogLevelsButton(
           context, [this](const std::set<LogLevel>& levels) { setLevels(levels); })),
       middle_(new QStackedWidget),
@@ -66,6 +66,14 @@ LogWindow::LogWindow(const ViewContext& context, MainThread& mainThread,
     setFocus();
     screen_.appear();
     changes_ = screen_.visible().subscribe([this](const auto&) { showEntries(); });
+}
+
+void LogWindow::keyPressEvent(QKeyEvent* event)
+{
+    if (closesWindow(*event))
+        close();
+    else
+        QWidget::keyPressEvent(event);
 }
 
 QWidget* LogWindow::makeBar()

@@ -27,6 +27,9 @@ public:
     LogWindow(const ViewContext& context, MainThread& mainThread,
         std::function<void(const std::filesystem::path& file)> reveal);
 
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     QWidget* makeBar();
     QWidget* makeSubsystems();

@@ -2,6 +2,7 @@
 
 #include "shell/ShellPreferenceKeys.h"
 #include "shell/views/TabPlaceholder.h"
+#include "ui/controls/WindowKeys.h"
 
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -75,8 +76,7 @@ void MainWindow::select(MainWindowTab tab) { tabs_->setCurrentIndex(static_cast<
 
 void MainWindow::keyPressEvent(QKeyEvent* event)
 {
-    const bool closes = event->matches(QKeySequence::Close) || event->key() == Qt::Key_Escape;
-    if (closes)
+    if (closesWindow(*event))
         close();
     else
         QWidget::keyPressEvent(event);

@@ -113,5 +113,13 @@ TEST_F(LogWindowTest, saysThatThereIsNothingYet)
     EXPECT_TRUE(isSaid);
 }
 
+TEST_F(LogWindowTest, closesByEscape)
+{
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(window.get(), &escape);
+
+    EXPECT_FALSE(window->isVisible());
+}
+
 } // namespace
 } // namespace brindlex
