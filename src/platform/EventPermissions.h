@@ -3,8 +3,35 @@
 #include "foundation/Subscription.h"
 
 #include <functional>
+#include <optional>
+#include <string>
 
 namespace brindlex {
+
+/// What the user allows a program to do with the input.
+enum class EventPermission {
+    /// To control other programs.
+    accessibility,
+    /// To listen to what the user does in them.
+    inputMonitoring,
+};
+
+/// Why a permission is not there.
+struct PermissionObstacle {
+    enum class Reason {
+        /// The user has not given it, or has taken it back.
+        refused,
+        /// The system cannot do what it is for.
+        lacking,
+        /// The user's session lets no program do it.
+        closedSession,
+    };
+    Reason reason = Reason::refused;
+    /// What the system lacks, by its name: "XTEST".
+    std::string lacking{};
+
+    bool operator==(const PermissionObstacle&) const = default;
+};
 
 /// What the user allows the program to do with the input. Main thread only.
 ///
@@ -22,6 +49,13 @@ public:
     /// Notifies the observer that `isAccessibilityTrusted` may have changed, for this or another
     /// program.
     virtual Subscription observeAccessibilityChanges(std::function<void()> handler) = 0;
+
+    /// Why the permission is not there; nothing while it is.
+    virtual std::optional<PermissionObstacle> obstacle(EventPermission permission) = 0;
+
+    /// Asks the user for a permission that was refused, in the system's way; another obstacle stays
+    /// as it is.
+    virtual void request(EventPermission permission) = 0;
 };
 
 /// Both permissions at one moment.

@@ -5,6 +5,7 @@
 #include "platform/AppGroupContainer.h"
 #include "platform/ApplicationBundles.h"
 #include "platform/ApplicationOpening.h"
+#include "platform/AutomationPermission.h"
 #include "platform/BrowserPageReading.h"
 #include "platform/Clock.h"
 #include "platform/CursorReading.h"
@@ -61,6 +62,7 @@ struct Platform {
     StatusItem& statusItem;
     SessionLock& sessionLock;
     EventPermissions& eventPermissions;
+    AutomationPermission& automation;
     EventTapping& eventTapping;
     EventPosting& eventPosting;
     DisplayLink& displayLink;

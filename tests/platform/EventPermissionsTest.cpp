@@ -86,6 +86,43 @@ TYPED_TEST(EventPermissionsContract, tellOfAChange)
     EXPECT_EQ(this->notified, 2);
 }
 
+TYPED_TEST(EventPermissionsContract, haveAnObstacleWhileTheyAreMissing)
+{
+    auto& permissions = this->user.permissions();
+    const PermissionObstacle refused{PermissionObstacle::Reason::refused};
+    EXPECT_EQ(permissions.obstacle(EventPermission::accessibility), std::nullopt);
+
+    this->user.allowAccessibility(false);
+    EXPECT_EQ(permissions.obstacle(EventPermission::accessibility), refused);
+    EXPECT_EQ(permissions.obstacle(EventPermission::inputMonitoring), std::nullopt);
+
+    this->user.allowAccessibility(true);
+    this->user.allowInputMonitoring(false);
+    EXPECT_EQ(permissions.obstacle(EventPermission::accessibility), std::nullopt);
+    EXPECT_EQ(permissions.obstacle(EventPermission::inputMonitoring), refused);
+}
+
+TYPED_TEST(EventPermissionsContract, areGivenWhenTheyAreRequested)
+{
+    this->user.allowAccessibility(false);
+    this->user.allowInputMonitoring(false);
+
+    this->user.permissions().request(EventPermission::accessibility);
+    EXPECT_EQ(this->ask(), (EventPermissionState{true, false}));
+    EXPECT_EQ(this->notified, 3);
+
+    this->user.permissions().request(EventPermission::inputMonitoring);
+    EXPECT_EQ(this->ask(), (EventPermissionState{true, true}));
+    EXPECT_EQ(this->notified, 4);
+}
+
+TYPED_TEST(EventPermissionsContract, tellNothingWhenOneThatIsThereIsRequested)
+{
+    this->user.permissions().request(EventPermission::inputMonitoring);
+
+    EXPECT_EQ(this->notified, 0);
+}
+
 TYPED_TEST(EventPermissionsContract, tellNobodyWhoHasEndedTheSubscription)
 {
     this->observation.reset();

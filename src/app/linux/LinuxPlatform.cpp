@@ -36,6 +36,7 @@ LinuxPlatform::LinuxPlatform(
       desktopEntries_(DesktopEntries::ofUser()), browserQueue_("Brindlex.AX"),
       elementQueue_("Brindlex.Elem"), bundles_(desktopEntries_), icons_(desktopEntries_),
       processes_(session.mainThread), program_(programBuild()),
+      accessibilitySwitch_(session.bus.connection()),
       loginItem_(XdgLoginItem::ofUser(
           programIdentity::bundleIdentifier, {program_.name, runningProgramFile()})),
       relaunching_(runningProgramFile(), startupIdentifierForNow),
@@ -81,6 +82,7 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
         .sessionLock = first.of<SessionLock>({{hasX11, [&] { return x11Lock(); }}}),
         .eventPermissions = first.of<EventPermissions>({{hasX11,
             [&] { return make_shared<X11EventPermissions>(x11().input, session_.preferences); }}}),
+        .automation = accessibilitySwitch_,
         .eventTapping = first.of<EventTapping>(
             {{hasX11, [&] { return make_shared<X11EventTapping>(x11().input); }}}),
         .eventPosting = first.of<EventPosting>({{hasX11,

@@ -7,6 +7,7 @@
 #include "eventtap/KeyName.h"
 #include "foundation/Subscription.h"
 #include "platform/Platform.h"
+#include "platform/linux/accessibility/AccessibilitySwitch.h"
 #include "platform/linux/appearance/PortalAppearance.h"
 #include "platform/linux/applications/DesktopApplicationBundles.h"
 #include "platform/linux/applications/DesktopEntries.h"
@@ -73,6 +74,7 @@ private:
     QtProgramActivation activation_;
     PosixProcessLaunching processes_;
     const ProgramBundle program_;
+    AccessibilitySwitch accessibilitySwitch_;
     XdgLoginItem loginItem_;
     PosixProgramRelaunching relaunching_;
     FetcherHttpReading network_;

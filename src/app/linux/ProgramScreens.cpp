@@ -7,6 +7,7 @@
 #include "shell/views/AboutScreen.h"
 #include "shell/views/GeneralScreen.h"
 #include "shell/views/MainWindow.h"
+#include "shell/views/PermissionGuideScreen.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -53,7 +54,8 @@ ProgramScreens::Models::Models(Platform& platform, SharedInstances& shared)
           sources, loader, platform.clock),
       mouse(shared.mouse().configStore(), loader),
       general(platform.defaults, shared.launchAtLoginManager(), shared.windows(),
-          shared.languageManager())
+          shared.languageManager()),
+      permissions(platform.eventPermissions, platform.automation)
 {
 }
 
@@ -67,6 +69,8 @@ ProgramScreens::ProgramScreens(LinuxPlatform& linuxPlatform, SharedInstances& sh
         linuxPlatform.addWindowScene(windowScene::main, [this] { return makeMainWindow(); }));
     scenes_.push_back(
         linuxPlatform.addWindowScene(windowScene::logs, [this] { return makeLogWindow(); }));
+    scenes_.push_back(linuxPlatform.addWindowScene(
+        windowScene::permissions, [this] { return makePermissionGuide(); }));
 }
 
 KeyRecording ProgramScreens::keyRecording()
@@ -113,6 +117,11 @@ std::unique_ptr<QWidget> ProgramScreens::makeMainWindow()
 std::unique_ptr<QWidget> ProgramScreens::makeLogWindow()
 {
     return std::make_unique<LogWindow>(context(), platform_.mainThread, revealFile);
+}
+
+std::unique_ptr<QWidget> ProgramScreens::makePermissionGuide()
+{
+    return std::make_unique<PermissionGuideScreen>(context(), models().permissions);
 }
 
 QWidget* ProgramScreens::makeGeneral()

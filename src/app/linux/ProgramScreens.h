@@ -10,6 +10,7 @@
 #include "inputmethod/TextInputSourceService.h"
 #include "mouse/MouseSettings.h"
 #include "shell/GeneralSettings.h"
+#include "shell/PermissionGuide.h"
 #include "ui/controls/ViewContext.h"
 
 #include <vector>
@@ -35,6 +36,7 @@ private:
         InputMethodSettings inputMethod;
         MouseSettings mouse;
         GeneralSettings general;
+        PermissionGuide permissions;
     };
 
     ViewContext context() { return {theme_, shared_.strings()}; }
@@ -46,6 +48,7 @@ private:
 
     std::unique_ptr<QWidget> makeMainWindow();
     std::unique_ptr<QWidget> makeLogWindow();
+    std::unique_ptr<QWidget> makePermissionGuide();
     QWidget* makeGeneral();
     QWidget* makeKeyboard();
     QWidget* makeMouse();

@@ -9,7 +9,7 @@ SimulatedComputer::SimulatedComputer(const SimulatedComputerSetup& setup)
       inputSources(mainThread, setup.journal), browserPages(mainThread, setup.journal),
       overlayPanel(mainThread, setup.journal), activation(setup.journal),
       activationPolicy(setup.journal), programWindows(mainThread, activation, setup.journal),
-      statusItem(setup.journal), eventPermissions(setup.journal),
+      statusItem(setup.journal), eventPermissions(setup.journal), automation(setup.journal),
       input(setup.tapPlace, setup.journal), displayLink(setup.journal), processes(setup.journal),
       opening(setup.journal), loginItem(setup.journal), relaunching(setup.journal),
       platform_(platformWithInput(input, input))
@@ -39,6 +39,7 @@ Platform SimulatedComputer::platformWithInput(EventTapping& tapping, EventPostin
         .statusItem = statusItem,
         .sessionLock = sessionLock,
         .eventPermissions = eventPermissions,
+        .automation = automation,
         .eventTapping = tapping,
         .eventPosting = posting,
         .displayLink = displayLink,

@@ -7,6 +7,7 @@
 #include "platform/simulated/SimulatedApplicationBundles.h"
 #include "platform/simulated/SimulatedApplicationOpening.h"
 #include "platform/simulated/SimulatedApplications.h"
+#include "platform/simulated/SimulatedAutomationPermission.h"
 #include "platform/simulated/SimulatedBrowserPages.h"
 #include "platform/simulated/SimulatedClock.h"
 #include "platform/simulated/SimulatedCursor.h"
@@ -94,6 +95,7 @@ public:
     SimulatedStatusItem statusItem;
     SimulatedSessionLock sessionLock;
     SimulatedEventPermissions eventPermissions;
+    SimulatedAutomationPermission automation;
     SimulatedInput input;
     SimulatedMouse mouse{input};
     SimulatedKeyboard keyboard{input};

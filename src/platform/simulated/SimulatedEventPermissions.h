@@ -27,6 +27,18 @@ public:
         return journal_.addObservation("permissions", subscribers_.add(std::move(handler)));
     }
 
+    std::optional<PermissionObstacle> obstacle(EventPermission permission) override
+    {
+        return isGiven(permission) ? std::nullopt : std::optional(reason);
+    }
+    void request(EventPermission permission) override
+    {
+        if (isGiven(permission) || reason.reason != PermissionObstacle::Reason::refused)
+            return;
+        isGiven(permission) = true;
+        notify();
+    }
+
     /// Gives or takes both, without a notification.
     void set(bool isGranted) { isTrusted = canListen = isGranted; }
 
@@ -36,8 +48,15 @@ public:
     bool isTrusted = true;
     bool canListen = true;
     int timesAsked = 0;
+    /// Why those that are not there are not.
+    PermissionObstacle reason{};
 
 private:
+    bool& isGiven(EventPermission permission)
+    {
+        return permission == EventPermission::accessibility ? isTrusted : canListen;
+    }
+
     SimulatedJournal::Writer journal_;
     Subscribers<std::function<void()>> subscribers_;
 };

@@ -9,6 +9,7 @@
 #include "shell/views/AboutScreen.h"
 #include "shell/views/GeneralScreen.h"
 #include "shell/views/MainWindow.h"
+#include "shell/views/PermissionGuideScreen.h"
 
 #include <QApplication>
 
@@ -35,7 +36,7 @@ ScreenGallery::ScreenGallery(StringCatalogue catalogue, Brightness brightness)
 std::vector<std::string> ScreenGallery::names()
 {
     return {"general", "keyboard", "keyboard-empty", "mouse", "mouse-empty", "dictation", "about",
-        "logs", "chooser"};
+        "logs", "chooser", "permissions", "permissions-missing"};
 }
 
 std::unique_ptr<QWidget> ScreenGallery::show(const std::string& name)
@@ -72,6 +73,16 @@ std::unique_ptr<QWidget> ScreenGallery::make(const std::string& name)
         auto window = std::make_unique<LogWindow>(
             context(), computer.mainThread, [](const std::filesystem::path&) {});
         window->resize(windowScene::logs.width, windowScene::logs.height);
+        return window;
+    }
+    if (name.starts_with("permissions")) {
+        computer.automation.system = AutomationPermission::State::on;
+        if (name == "permissions-missing") {
+            computer.automation.system = AutomationPermission::State::off;
+            computer.eventPermissions.set(false);
+        }
+        auto window = std::make_unique<PermissionGuideScreen>(context(), permissions);
+        window->resize(windowScene::permissions.width, windowScene::permissions.height);
         return window;
     }
     if (name == "chooser")

@@ -8,6 +8,7 @@
 #include "mouse/MouseSettings.h"
 #include "platform/simulated/SimulatedComputer.h"
 #include "shell/GeneralSettings.h"
+#include "shell/PermissionGuide.h"
 #include "support/basics/RecordedLog.h"
 #include "support/basics/TemporaryFolder.h"
 #include "ui/controls/ViewContext.h"
@@ -49,6 +50,7 @@ public:
     ShellWindows windows{computer.platform()};
     LanguageManager language{computer.defaults, computer.relaunching, computer.instances};
     GeneralSettings general{computer.defaults, launchAtLogin, windows, language};
+    PermissionGuide permissions{computer.eventPermissions, computer.automation};
     /// What the chooser of applications will give, and how often it was asked.
     std::filesystem::path chosenApplication = "/apps/editor";
     int choices = 0;

@@ -20,18 +20,15 @@ public:
     {
     }
 
-    bool isAccessibilityTrusted() override
-    {
-        return isAllowed("allowsAccessibility") && stream_.isTappable();
-    }
-    bool canListenToEvents() override
-    {
-        return isAllowed("allowsInputMonitoring") && stream_.isTappable();
-    }
+    bool isAccessibilityTrusted() override { return !obstacle(EventPermission::accessibility); }
+    bool canListenToEvents() override { return !obstacle(EventPermission::inputMonitoring); }
     Subscription observeAccessibilityChanges(std::function<void()> handler) override;
+    std::optional<PermissionObstacle> obstacle(EventPermission permission) override;
+    /// Removes the preference by which the user has forbidden it.
+    void request(EventPermission permission) override;
 
 private:
-    bool isAllowed(const std::string& preference) const;
+    bool isAllowed(EventPermission permission) const;
 
     X11InputStream& stream_;
     UserDefaults& defaults_;

@@ -80,28 +80,39 @@ std::map<std::uint16_t, xcb_atom_t> driverTypes(X11Connection& connection)
     return types;
 }
 
+Failure<X11TappingProblem> failLacking(std::string name, std::string words)
+{
+    return fail(X11TappingProblem{
+        std::move(words), {PermissionObstacle::Reason::lacking, std::move(name)}});
+}
+
+Failure<X11TappingProblem> failLacking(const std::string& name)
+{
+    return failLacking(name, "the X server has no " + name);
+}
+
 } // namespace
 
-Result<X11MasterDevices, std::string> tappableMasters(X11Connection& connection)
+Result<X11MasterDevices, X11TappingProblem> tappableMasters(X11Connection& connection)
 {
     if (!connection.isAlive())
-        return fail("there is no X server");
+        return failLacking("X", "there is no X server");
     auto* const server = connection.get();
     const auto* input = xcb_get_extension_data(server, &xcb_input_id);
     const auto* test = xcb_get_extension_data(server, &xcb_test_id);
     if (!test || !test->present)
-        return fail("the X server has no XTEST");
+        return failLacking("XTEST");
     if (!input || !input->present)
-        return fail("the X server has no XInput");
+        return failLacking("XInput");
     const X11Message<xcb_input_xi_query_version_reply_t> version(xcb_input_xi_query_version_reply(
         server, xcb_input_xi_query_version(server, inputMajor, inputMinor), nullptr));
     if (!version || version->major_version != inputMajor || version->minor_version < inputMinor)
-        return fail("the XInput of the X server is older than 2.2");
+        return failLacking("XInput 2.2", "the XInput of the X server is older than 2.2");
     const X11Message<xcb_input_xi_get_client_pointer_reply_t> pointer(
         xcb_input_xi_get_client_pointer_reply(
             server, xcb_input_xi_get_client_pointer(server, XCB_WINDOW_NONE), nullptr));
     if (!pointer)
-        return fail("the X server has no pointer");
+        return failLacking("pointer");
 
     // A client that has not moved the cursor yet has no pointer of its own: it gets the first.
     X11MasterDevices masters{pointer->set ? pointer->deviceid : std::uint16_t{0}, 0};
@@ -114,9 +125,10 @@ Result<X11MasterDevices, std::string> tappableMasters(X11Connection& connection)
             masters.keyboard = device.attachment;
     });
     if (isGuest)
-        return fail("the X server is a guest of a Wayland session");
+        return fail(X11TappingProblem{"the X server is a guest of a Wayland session",
+            {PermissionObstacle::Reason::closedSession, {}}});
     if (masters.keyboard == 0)
-        return fail("the X server has no keyboard");
+        return failLacking("keyboard");
     return masters;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundation/Result.h"
+#include "platform/EventPermissions.h"
 #include "platform/linux/x11/X11Connection.h"
 
 #include <cstdint>
@@ -30,10 +31,16 @@ struct X11MasterDevices {
     bool operator==(const X11MasterDevices&) const = default;
 };
 
-/// Says in words for the log why the input cannot be tapped: the server has no second version of
-/// its input extension that is new enough, it cannot put in events (XTEST), or it is a guest of a
-/// Wayland session, whose input never belongs to it.
-Result<X11MasterDevices, std::string> tappableMasters(X11Connection& connection);
+/// Why the input cannot be tapped: in words for the log, and for the user.
+struct X11TappingProblem {
+    std::string words{};
+    PermissionObstacle obstacle{};
+};
+
+/// The problem is that the server has no second version of its input extension that is new enough,
+/// that it cannot put in events (XTEST), or that it is a guest of a Wayland session, whose input
+/// never belongs to it.
+Result<X11MasterDevices, X11TappingProblem> tappableMasters(X11Connection& connection);
 
 /// The devices of the masters that can be taken from the applications and played back to them.
 ///

@@ -44,6 +44,11 @@ X11TapSession* X11InputStream::session()
     return session_.get();
 }
 
+std::optional<PermissionObstacle> X11InputStream::obstacle()
+{
+    return isTappable() ? std::nullopt : std::optional(problem_.obstacle);
+}
+
 void X11InputStream::inTurn(std::function<void()> work)
 {
     waiting_.push_back(std::move(work));
@@ -96,11 +101,11 @@ void X11InputStream::reconnect()
         taps_.switchOff(EventType::tapDisabledByTimeout);
 }
 
-void X11InputStream::report(const std::string& problem)
+void X11InputStream::report(const X11TappingProblem& problem)
 {
     // Whoever waits for permission asks again and again.
-    if (std::exchange(reportedProblem_, problem) != problem)
-        Log::warn("Input cannot be tapped: " + problem, logCategory::mouse);
+    if (std::exchange(problem_, problem).words != problem.words)
+        Log::warn("Input cannot be tapped: " + problem.words, logCategory::mouse);
 }
 
 } // namespace brindlex

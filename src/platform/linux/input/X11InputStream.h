@@ -46,6 +46,9 @@ public:
     /// Whether the input can be tapped, be it only when the connection that was cut is back.
     bool isTappable() { return session_ || isReconnecting_ || session(); }
 
+    /// Why it cannot be tapped; nothing while it can.
+    std::optional<PermissionObstacle> obstacle();
+
     /// How many connections there have been.
     int sessionCount() const { return sessionCount_; }
 
@@ -56,7 +59,7 @@ private:
     void applyWants();
     void runWaiting();
     void reconnect();
-    void report(const std::string& problem);
+    void report(const X11TappingProblem& problem);
 
     MainThread& mainThread_;
     Options options_;
@@ -64,7 +67,7 @@ private:
     std::unique_ptr<X11TapSession> session_;
     bool isReconnecting_ = false;
     int sessionCount_ = 0;
-    std::string reportedProblem_;
+    X11TappingProblem problem_;
     TapWatchdog watchdog_;
     std::deque<std::function<void()>> waiting_;
     bool isRunningWaiting_ = false;

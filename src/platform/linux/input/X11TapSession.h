@@ -39,8 +39,8 @@ public:
 
     /// Whether the server is there and lets the input be tapped.
     bool isUsable() const { return masters_ && connection_.isAlive(); }
-    /// Why the input could not be tapped when the connection was made, in words for the log.
-    std::optional<std::string> problem() const
+    /// Why the input could not be tapped when the connection was made.
+    std::optional<X11TappingProblem> problem() const
     {
         return masters_ ? std::nullopt : std::optional(masters_.error());
     }
@@ -80,7 +80,7 @@ private:
 
     Hooks hooks_;
     X11Connection connection_;
-    Result<X11MasterDevices, std::string> masters_;
+    Result<X11MasterDevices, X11TappingProblem> masters_;
     std::uint8_t inputOpcode_ = 0;
     xcb_window_t handle_ = 0;
     bool listensToReleases_ = false;

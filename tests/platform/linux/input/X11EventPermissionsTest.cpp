@@ -56,6 +56,30 @@ TEST(X11EventPermissions, areMissingOnAServerOnWhichNothingCanBePlayed)
     X11EventPermissions permissions(stream, defaults);
 
     EXPECT_EQ(EventPermissionState::ask(permissions), (EventPermissionState{false, false}));
+    EXPECT_EQ(permissions.obstacle(EventPermission::inputMonitoring),
+        (PermissionObstacle{PermissionObstacle::Reason::lacking, "XTEST"}));
+    permissions.request(EventPermission::inputMonitoring);
+    EXPECT_FALSE(permissions.canListenToEvents());
+}
+
+TEST(X11EventPermissions, areRefusedByTheUserFirstAndThenByWhatTheServerLacks)
+{
+    const VirtualDesktop desktop(
+        {.windowManager = WindowManager::none, .sessionBus = false, .disabledExtension = "XTEST"});
+    SimulatedClock time;
+    SimulatedMainThread mainThread(time);
+    SimulatedUserDefaults defaults;
+    X11InputStream stream(mainThread);
+    X11EventPermissions permissions(stream, defaults);
+    defaults.set("allowsAccessibility", false);
+    ASSERT_EQ(permissions.obstacle(EventPermission::accessibility),
+        PermissionObstacle{PermissionObstacle::Reason::refused});
+
+    permissions.request(EventPermission::accessibility);
+
+    EXPECT_EQ(defaults.value("allowsAccessibility"), std::nullopt);
+    EXPECT_EQ(permissions.obstacle(EventPermission::accessibility),
+        (PermissionObstacle{PermissionObstacle::Reason::lacking, "XTEST"}));
 }
 
 TEST(X11EventPermissions, areForbiddenByNothingButTheWordFalse)
