@@ -10,10 +10,15 @@ namespace {
 
 constexpr std::uint64_t timeToReply = 5'000'000; // in microseconds
 
-void append(sd_bus_message* message, const std::vector<std::string>& arguments)
+void append(sd_bus_message* message, const std::vector<BusConnection::Argument>& arguments)
 {
-    for (const auto& argument : arguments)
-        sd_bus_message_append_basic(message, SD_BUS_TYPE_STRING, argument.c_str());
+    for (const auto& argument : arguments) {
+        if (const auto* const text = std::get_if<std::string>(&argument))
+            sd_bus_message_append_basic(message, SD_BUS_TYPE_STRING, text->c_str());
+        else
+            sd_bus_message_append_basic(
+                message, SD_BUS_TYPE_UINT32, &std::get<std::uint32_t>(argument));
+    }
 }
 
 sd_bus* connect(const std::string& address)
@@ -74,6 +79,40 @@ bool BusReply::boolean()
         && value != 0;
 }
 
+std::string BusReply::path()
+{
+    const char* path = nullptr;
+    if (!message_ || sd_bus_message_read_basic(message_, SD_BUS_TYPE_OBJECT_PATH, &path) <= 0)
+        return {};
+    return path;
+}
+
+std::int32_t BusReply::number()
+{
+    std::int32_t number = 0;
+    if (message_)
+        sd_bus_message_read_basic(message_, SD_BUS_TYPE_INT32, &number);
+    return number;
+}
+
+std::vector<std::uint32_t> BusReply::numbers()
+{
+    const void* list = nullptr;
+    std::size_t size = 0;
+    if (!message_ || sd_bus_message_read_array(message_, SD_BUS_TYPE_UINT32, &list, &size) < 0)
+        return {};
+    const auto* const first = static_cast<const std::uint32_t*>(list);
+    return {first, first + size / sizeof(std::uint32_t)};
+}
+
+bool BusReply::isAtEnd() { return !message_ || sd_bus_message_at_end(message_, 0) != 0; }
+
+void BusReply::leave()
+{
+    if (message_)
+        sd_bus_message_exit_container(message_);
+}
+
 std::vector<std::string> BusReply::texts()
 {
     char** list = nullptr;
@@ -121,7 +160,7 @@ std::optional<int> BusConnection::processOf(const std::string& name) const
 
 BusReply BusConnection::call(const std::string& service, const std::string& path,
     const std::string& interface, const std::string& operation,
-    const std::vector<std::string>& arguments) const
+    const std::vector<Argument>& arguments) const
 {
     sd_bus_message* question = nullptr;
     sd_bus_message* reply = nullptr;
@@ -154,7 +193,7 @@ void BusConnection::emit(const std::string& path, const std::string& interface,
                bus_, &message, path.c_str(), interface.c_str(), signal.c_str())
             < 0)
         return;
-    append(message, arguments);
+    append(message, {arguments.begin(), arguments.end()});
     sd_bus_send(bus_, message, nullptr);
     sd_bus_flush(bus_);
     sd_bus_message_unref(message);

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
+#include <variant>
 #include <vector>
 
 struct sd_bus;
@@ -28,8 +30,17 @@ public:
     /// The text at hand; empty when there is none.
     std::string text();
     bool boolean();
+    /// The path of an object at hand; empty when there is none.
+    std::string path();
+    std::int32_t number();
     /// The list of texts at hand.
     std::vector<std::string> texts();
+    /// The list of numbers without a sign at hand.
+    std::vector<std::uint32_t> numbers();
+    /// Whether nothing is left in the container at hand.
+    bool isAtEnd();
+    /// Goes out of the container at hand.
+    void leave();
 
 private:
     sd_bus_message* message_;
@@ -50,9 +61,11 @@ public:
     /// The process that owns the name; nothing when nobody does.
     std::optional<int> processOf(const std::string& name) const;
 
-    /// Calls an operation whose arguments are all texts; an owner is never started for it.
+    using Argument = std::variant<std::string, std::uint32_t>;
+
+    /// Calls an operation; an owner is never started for it.
     BusReply call(const std::string& service, const std::string& path, const std::string& interface,
-        const std::string& operation, const std::vector<std::string>& arguments = {}) const;
+        const std::string& operation, const std::vector<Argument>& arguments = {}) const;
 
     /// Reads a property; the reply stands before its value.
     BusReply property(const std::string& service, const std::string& path,
