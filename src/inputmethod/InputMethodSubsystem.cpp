@@ -14,7 +14,7 @@ SmartInputMethodConfigStore& InputMethodSubsystem::smartConfigStore()
 
 InputMethodSwitchCoordinator& InputMethodSubsystem::switchCoordinator()
 {
-    return switchCoordinator_.get(configStore(), smartConfigStore(),
+    return switchCoordinator_.get(configStore(), smartConfigStore(), switchReasons_,
         SwitchAbilities{
             .mainThread = platform_.mainThread,
             .clock = platform_.clock,

@@ -4,6 +4,7 @@
 #include "inputmethod/InputMethodConfigStore.h"
 #include "inputmethod/InputMethodSwitchCoordinator.h"
 #include "inputmethod/SmartInputMethodConfigStore.h"
+#include "inputmethod/SwitchReasons.h"
 #include "platform/Platform.h"
 
 namespace brindlex {
@@ -16,6 +17,7 @@ public:
 
     InputMethodConfigStore& configStore();
     SmartInputMethodConfigStore& smartConfigStore();
+    const SwitchReasons& switchReasons() const { return switchReasons_; }
     InputMethodSwitchCoordinator& switchCoordinator();
 
     /// Takes over what another process has written to the preferences.
@@ -25,6 +27,7 @@ private:
     Platform& platform_;
     MadeOnFirstUse<InputMethodConfigStore> configStore_;
     MadeOnFirstUse<SmartInputMethodConfigStore> smartConfigStore_;
+    SwitchReasons switchReasons_;
     MadeOnFirstUse<InputMethodSwitchCoordinator> switchCoordinator_;
 };
 

@@ -39,8 +39,8 @@ AppIdentifier identifierOf(const RunningApplication& application, const std::str
 } // namespace
 
 InputMethodSwitchCoordinator::InputMethodSwitchCoordinator(InputMethodConfigStore& store,
-    SmartInputMethodConfigStore& smartStore, SwitchAbilities abilities)
-    : store_(store), smartStore_(smartStore), abilities_(abilities),
+    SmartInputMethodConfigStore& smartStore, SwitchReasons& reasons, SwitchAbilities abilities)
+    : store_(store), smartStore_(smartStore), reasons_(reasons), abilities_(abilities),
       obstacles_(abilities.inputSources, abilities.bundles, abilities.applications)
 {
     // The replay at subscription is wanted: it makes the first event of each kind.
@@ -81,6 +81,7 @@ void InputMethodSwitchCoordinator::handle(const SwitchEvent::Any& event)
     smartStore_.persist();
     for (const auto& effect : effects)
         carryOut(effect);
+    reasons_.noteEvent(event, state_, abilities_.clock.now());
 }
 
 void InputMethodSwitchCoordinator::carryOut(const SwitchEffect::Any& effect)
@@ -189,10 +190,15 @@ SwitchEnvironment InputMethodSwitchCoordinator::environment()
         = [this](const std::optional<std::string>& bundleID) { return browserHost(bundleID); };
     environment.systemTime = [this] { return abilities_.clock.now(); };
     environment.whyUndone = [this] { return abilities_.inputSources.whyUndone(); };
-    environment.noteSwitch = [](const InputMethodSwitchDecision& decision) {
-        Log::info("Selected " + description(decision), logCategory::inputMethod);
-    };
+    environment.noteSwitch
+        = [this](const InputMethodSwitchDecision& decision) { noteSwitch(decision); };
     return environment;
+}
+
+void InputMethodSwitchCoordinator::noteSwitch(const InputMethodSwitchDecision& decision)
+{
+    Log::info("Selected " + description(decision), logCategory::inputMethod);
+    reasons_.noteSwitch(decision, smartStore_.config().value(), abilities_.clock.now());
 }
 
 std::optional<AppIdentifier> InputMethodSwitchCoordinator::appIdentifier(

@@ -8,6 +8,7 @@
 #include "inputmethod/SwitchEffect.h"
 #include "inputmethod/SwitchEnvironment.h"
 #include "inputmethod/SwitchEvent.h"
+#include "inputmethod/SwitchReasons.h"
 #include "inputmethod/SwitchState.h"
 #include "platform/AppGroupContainer.h"
 #include "platform/ApplicationBundles.h"
@@ -41,13 +42,13 @@ struct SwitchAbilities {
 ///
 /// Turns what the computer and the stores report into events, feeds them one at a time to `reduce`,
 /// writes what was learned back to its store and carries out the effects in their order. Logs each
-/// switch and what keeps rules from applying. Decides nothing itself. With switching enabled it
-/// observes from its construction on. It expects `Stop` to have been dispatched before its end.
-/// Main thread only.
+/// switch and what keeps rules from applying, and notes the reason of each switch. Decides nothing
+/// itself. With switching enabled it observes from its construction on. It expects `Stop` to have
+/// been dispatched before its end. Main thread only.
 class InputMethodSwitchCoordinator {
 public:
     InputMethodSwitchCoordinator(InputMethodConfigStore& store,
-        SmartInputMethodConfigStore& smartStore, SwitchAbilities abilities);
+        SmartInputMethodConfigStore& smartStore, SwitchReasons& reasons, SwitchAbilities abilities);
 
     /// Called with the label to show when a switch has happened.
     std::function<void(const std::string& label)> onSwitch;
@@ -70,11 +71,13 @@ private:
     void stopBrowserPolling();
     void tick();
     SwitchEnvironment environment();
+    void noteSwitch(const InputMethodSwitchDecision& decision);
     std::optional<AppIdentifier> appIdentifier(const std::optional<std::string>& bundleID) const;
     std::optional<std::string> browserHost(const std::optional<std::string>& bundleID) const;
 
     InputMethodConfigStore& store_;
     SmartInputMethodConfigStore& smartStore_;
+    SwitchReasons& reasons_;
     SwitchAbilities abilities_;
     RuleObstacles obstacles_;
     SwitchState state_;
