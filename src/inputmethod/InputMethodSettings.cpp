@@ -42,10 +42,10 @@ std::string matchText(const SmartInputMethodAppStats& stats)
 }
 
 InputMethodSettings::InputMethodSettings(InputMethodConfigStore& store,
-    SmartInputMethodConfigStore& smartStore, const TextInputSourceService& sources,
-    const AppIdentifierLoader& loader, const Clock& clock)
-    : store_(store), smartStore_(smartStore), sources_(sources), loader_(loader), clock_(clock),
-      availableSources_(sources.availableSources())
+    SmartInputMethodConfigStore& smartStore, const SwitchReasons& reasons,
+    const TextInputSourceService& sources, const AppIdentifierLoader& loader, const Clock& clock)
+    : store_(store), smartStore_(smartStore), reasons_(reasons), sources_(sources), loader_(loader),
+      clock_(clock), availableSources_(sources.availableSources())
 {
 }
 
@@ -53,6 +53,11 @@ bool InputMethodSettings::isMissing(const std::string& inputSourceID) const
 {
     return std::none_of(availableSources_.begin(), availableSources_.end(),
         [&](const TextInputSource& source) { return isSameSource(source.id, inputSourceID); });
+}
+
+SwitchExplanation::Any InputMethodSettings::why(const std::string& bundleID) const
+{
+    return explanation(reasons_.reason(bundleID));
 }
 
 void InputMethodSettings::change(const std::function<void(InputMethodConfig&)>& change)

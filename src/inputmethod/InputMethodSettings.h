@@ -3,6 +3,8 @@
 #include "applications/AppIdentifierLoader.h"
 #include "inputmethod/InputMethodConfigStore.h"
 #include "inputmethod/SmartInputMethodConfigStore.h"
+#include "inputmethod/SwitchExplanation.h"
+#include "inputmethod/SwitchReasons.h"
 #include "inputmethod/TextInputSourceService.h"
 #include "platform/Clock.h"
 
@@ -27,8 +29,8 @@ std::string matchText(const SmartInputMethodAppStats& stats);
 class InputMethodSettings {
 public:
     InputMethodSettings(InputMethodConfigStore& store, SmartInputMethodConfigStore& smartStore,
-        const TextInputSourceService& sources, const AppIdentifierLoader& loader,
-        const Clock& clock);
+        const SwitchReasons& reasons, const TextInputSourceService& sources,
+        const AppIdentifierLoader& loader, const Clock& clock);
 
     const InputMethodConfig& config() const { return store_.config().value(); }
     const SmartInputMethodConfig& smartConfig() const { return smartStore_.config().value(); }
@@ -37,6 +39,9 @@ public:
     /// Asks for the sources again.
     void refreshSources() { availableSources_ = sources_.availableSources(); }
     bool isMissing(const std::string& inputSourceID) const;
+    /// Why the application has its source, and the time by which to say when that was.
+    SwitchExplanation::Any why(const std::string& bundleID) const;
+    Date now() const { return clock_.now(); }
 
     /// Applies changes that have no operation of their own below.
     void change(const std::function<void(InputMethodConfig&)>& change);
@@ -71,6 +76,7 @@ private:
 
     InputMethodConfigStore& store_;
     SmartInputMethodConfigStore& smartStore_;
+    const SwitchReasons& reasons_;
     const TextInputSourceService& sources_;
     const AppIdentifierLoader& loader_;
     const Clock& clock_;

@@ -48,12 +48,12 @@ const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheir
     {"ScreenGalleryTest, which walks all screens, and the tests of the screens",
         {"AboutScreen", "ApplicationIcon", "Buttons", "Card", "EmptyState", "GeneralScreen",
             "Glyph", "InputMethodDomainRulesSection", "InputMethodOptionsSection",
-            "InputMethodRulesSection", "InputMethodSmartRulesSection", "InputMethodSmartStatsRows",
-            "InputRuleRow", "InputSourceOptions", "KeyRecorderField", "LogDetail",
-            "LogLevelsButton", "LogTableModel", "MouseActionPicker", "MouseBindingRow",
-            "MouseBindingSection", "MouseDisabledAppsSection", "MouseGestureSection",
-            "MouseScrollSection", "Page", "SmartStatsModel", "StatusLabel", "StyleSheet",
-            "TabPlaceholder", "TableCells", "TextLabel"}},
+            "InputMethodRulesSection", "InputMethodSmartRulesSection", "InputRuleRow",
+            "InputSourceOptions", "KeyRecorderField", "LogDetail", "LogLevelsButton",
+            "LogTableModel", "MouseActionPicker", "MouseBindingRow", "MouseBindingSection",
+            "MouseDisabledAppsSection", "MouseGestureSection", "MouseScrollSection", "Page",
+            "SmartStatsModel", "StatusLabel", "StyleSheet", "TabPlaceholder", "TableCells",
+            "TextLabel"}},
 };
 
 /// Whether the folder or one inside it has a header whose concept the test is named after, with or

@@ -1,6 +1,7 @@
 #include "desktop/ProgramDesk.h"
 #include "support/hardware/Keycodes.h"
 #include "support/hardware/PlayedInput.h"
+#include "support/windows/AccessibleControls.h"
 #include "support/windows/TypingWindow.h"
 
 #include <gtest/gtest.h>
@@ -168,6 +169,24 @@ TEST_F(SettingsWindow, losesNothingWhenTheProgramIsKilledWithItOpen)
     const RunningProgram again(desk.desktop, byHand);
     ASSERT_TRUE(windowInFront("Brindlex")) << again.report();
     EXPECT_TRUE(isSwitchedOff());
+}
+
+TEST(SettingsWindowForAScreenReader, saysWhichRuleHasSwitched)
+{
+    const ProgramDesk desk({.keyboardLayouts = "us,de,ru", .accessibility = true});
+    desk.applyRules({{"Beta", german}});
+    auto preferences = desk.files.readPreferences();
+    preferences["selectedMainWindowTab"] = "Keyboard";
+    preferences["AppleLanguages"] = json::array({"en"});
+    desk.files.writePreferences(preferences);
+    const RunningProgram program(desk.desktop, byHand);
+    const AccessibleControls controls(program.process());
+    ASSERT_TRUE(controls.says("Not used yet")) << controls.report();
+
+    const TypingWindow beta(desk.windows, "Beta");
+    ASSERT_TRUE(desk.usesGroup(germanGroup)) << program.report();
+
+    EXPECT_TRUE(controls.says("This rule, last used today")) << controls.report();
 }
 
 } // namespace

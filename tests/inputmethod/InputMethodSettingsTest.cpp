@@ -41,7 +41,8 @@ protected:
     TextInputSourceService sources{computer.inputSources};
     InputMethodConfigStore store{computer.defaults};
     SmartInputMethodConfigStore smartStore{computer.defaults};
-    InputMethodSettings settings{store, smartStore, sources, loader, computer.clock};
+    SwitchReasons reasons;
+    InputMethodSettings settings{store, smartStore, reasons, sources, loader, computer.clock};
 };
 
 TEST_F(InputMethodSettingsTest, addsARuleWithTheSelectedSource)

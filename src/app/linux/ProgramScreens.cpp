@@ -51,7 +51,7 @@ Theme::Look lookFor(const DesktopAppearance& appearance)
 ProgramScreens::Models::Models(Platform& platform, SharedInstances& shared)
     : loader(platform.bundles, platform.icons, platform.container), sources(platform.inputSources),
       inputMethod(shared.inputMethod().configStore(), shared.inputMethod().smartConfigStore(),
-          sources, loader, platform.clock),
+          shared.inputMethod().switchReasons(), sources, loader, platform.clock),
       mouse(shared.mouse().configStore(), loader),
       general(platform.defaults, shared.launchAtLoginManager(), shared.windows(),
           shared.languageManager()),
@@ -133,7 +133,7 @@ QWidget* ProgramScreens::makeKeyboard()
 {
     auto& subsystem = shared_.inputMethod();
     return new InputMethodSettingsScreen(context(), models().inputMethod, subsystem.configStore(),
-        subsystem.smartConfigStore(),
+        subsystem.smartConfigStore(), subsystem.switchReasons(),
         [this](auto chosen) { chooseApplication(std::move(chosen)); });
 }
 

@@ -1,6 +1,7 @@
 #include "inputmethod/views/InputMethodRulesSection.h"
 
 #include "applications/views/ApplicationIcon.h"
+#include "inputmethod/views/WhyWords.h"
 #include "ui/controls/Buttons.h"
 
 #include <algorithm>
@@ -36,7 +37,7 @@ void InputMethodRulesSection::show()
         ids.push_back(rule.id);
     rows_.show(ids, [this](const Uuid& id) { return makeRow(id); });
     for (const auto& rule : settings_.config().rules)
-        rows_.row(rule.id)->show(rule.inputSourceID);
+        rows_.row(rule.id)->show(rule.inputSourceID, whyUnderRule(context_, settings_, rule.app));
     empty_->setVisible(ids.empty());
     addRow_->setVisible(!ids.empty());
 }

@@ -6,7 +6,8 @@ namespace brindlex {
 
 InputMethodSettingsScreen::InputMethodSettingsScreen(const ViewContext& context,
     InputMethodSettings& settings, InputMethodConfigStore& store,
-    SmartInputMethodConfigStore& smartStore, const ApplicationChoosing& chooseApplication)
+    SmartInputMethodConfigStore& smartStore, const SwitchReasons& reasons,
+    const ApplicationChoosing& chooseApplication)
     : Page(context), settings_(settings), options_(*this, context, settings),
       rules_(*this, context, settings, chooseApplication), domainRules_(*this, context, settings),
       smartRules_(*this, context, settings)
@@ -19,6 +20,11 @@ InputMethodSettingsScreen::InputMethodSettingsScreen(const ViewContext& context,
     }));
     changes_.push_back(smartStore.config().stream().withoutFirst().subscribe(
         [this](const auto&) { smartRules_.show(); }));
+    changes_.push_back(
+        reasons.byApplication().stream().withoutFirst().subscribe([this](const auto&) {
+            rules_.show();
+            smartRules_.show();
+        }));
 }
 
 /// Sources may have been added while the user was elsewhere.

@@ -11,13 +11,13 @@
 
 namespace brindlex {
 
-/// The settings of input-source switching. It follows what anybody changes of them while it is
-/// there; its arguments outlive it.
+/// The settings of input-source switching. It follows what anybody changes of them, and what
+/// becomes of them, while it is there; its arguments outlive it.
 class InputMethodSettingsScreen : public Page {
 public:
     InputMethodSettingsScreen(const ViewContext& context, InputMethodSettings& settings,
         InputMethodConfigStore& store, SmartInputMethodConfigStore& smartStore,
-        const ApplicationChoosing& chooseApplication);
+        const SwitchReasons& reasons, const ApplicationChoosing& chooseApplication);
 
 protected:
     bool event(QEvent* event) override;

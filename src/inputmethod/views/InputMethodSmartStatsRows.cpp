@@ -1,5 +1,6 @@
 #include "inputmethod/views/InputMethodSmartStatsRows.h"
 
+#include "inputmethod/views/WhyWords.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/TableCells.h"
 
@@ -17,6 +18,8 @@ namespace {
 constexpr int rowHeight = 36;
 constexpr int headHeight = 28;
 constexpr int belowTable = 6;
+/// With two lines of words, which come and go with the selection.
+constexpr int actionsHeight = 52;
 /// Of the columns behind the first, which takes what is left.
 constexpr std::array columnWidths{std::pair{SmartStatsModel::status, 104},
     std::pair{SmartStatsModel::inputSource, 120}, std::pair{SmartStatsModel::samples, 74},
@@ -90,7 +93,8 @@ void InputMethodSmartStatsRows::makeActions()
     delete_ = makeButton(context_.theme, ButtonRole::danger,
         context_.text<"inputMethod.smart.deleteStats">(), [this] { deleteStats(); });
     actions_ = new Row(context_.theme);
-    actions_->fill(new QWidget).end(clear_).end(delete_);
+    actions_->words({}).end(clear_).end(delete_);
+    actions_->setMinimumHeight(actionsHeight);
     card_.add(static_cast<QWidget*>(actions_));
 }
 
@@ -102,29 +106,31 @@ void InputMethodSmartStatsRows::fit()
 
 void InputMethodSmartStatsRows::noteSelection()
 {
-    const bool isSelected = selected().has_value();
-    clear_->setEnabled(isSelected);
-    delete_->setEnabled(isSelected);
+    const auto* const stats = selected();
+    clear_->setEnabled(stats);
+    delete_->setEnabled(stats);
+    actions_->setTitle(stats ? context_.text<"why.title">() : QString());
+    actions_->setSecond(stats ? whyInTable(context_, settings_, stats->app) : QString());
 }
 
-std::optional<Uuid> InputMethodSmartStatsRows::selected() const
+const SmartInputMethodAppStats* InputMethodSmartStatsRows::selected() const
 {
     const auto rows = table_->selectionModel()->selectedRows();
     if (rows.isEmpty())
-        return {};
-    return model_->idAt(sorted_->mapToSource(rows.front()).row());
+        return nullptr;
+    return &model_->statsAt(sorted_->mapToSource(rows.front()).row());
 }
 
 void InputMethodSmartStatsRows::clearStats()
 {
-    if (const auto id = selected())
-        settings_.clearStats(*id);
+    if (const auto* const stats = selected())
+        settings_.clearStats(Uuid(stats->id));
 }
 
 void InputMethodSmartStatsRows::deleteStats()
 {
-    if (const auto id = selected())
-        settings_.deleteStats(*id);
+    if (const auto* const stats = selected())
+        settings_.deleteStats(Uuid(stats->id));
 }
 
 } // namespace brindlex

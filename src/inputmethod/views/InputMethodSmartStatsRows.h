@@ -4,8 +4,6 @@
 #include "ui/controls/EmptyState.h"
 #include "ui/controls/Page.h"
 
-#include <optional>
-
 class QPushButton;
 class QSortFilterProxyModel;
 class QTableView;
@@ -13,7 +11,8 @@ class QTableView;
 namespace brindlex {
 
 /// The table of what was learned. Its order is that of the list until the user asks for another by
-/// a click on a head; the buttons under it are for the selected application.
+/// a click on a head. The row under it is about the selected application: why it has its source,
+/// and buttons.
 class InputMethodSmartStatsRows {
 public:
     InputMethodSmartStatsRows(
@@ -26,7 +25,8 @@ private:
     void makeActions();
     void fit();
     void noteSelection();
-    std::optional<Uuid> selected() const;
+    /// Null where no application is selected.
+    const SmartInputMethodAppStats* selected() const;
     void clearStats();
     void deleteStats();
 

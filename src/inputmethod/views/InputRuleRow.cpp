@@ -24,12 +24,13 @@ InputRuleRow::InputRuleRow(const ViewContext& context, const InputMethodSettings
         .removable(context.text<"controls.remove">() + QStringLiteral(": ") + name, actions.remove);
 }
 
-void InputRuleRow::show(const std::string& inputSourceID)
+void InputRuleRow::show(const std::string& inputSourceID, const QString& words)
 {
     const bool isMissing = settings_.isMissing(inputSourceID);
     chooser_->show(
         inputSourceOptions(settings_, inputSourceID), optionOf(settings_, inputSourceID));
     chooser_->setBad(isMissing);
+    setSecond(isMissing ? QString() : words);
     setWarning(isMissing ? context_.text<"inputMethod.rules.missingSource">() : QString());
 }
 

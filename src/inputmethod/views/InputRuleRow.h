@@ -22,8 +22,9 @@ public:
     InputRuleRow(const ViewContext& context, const InputMethodSettings& settings,
         const QIcon& picture, int pictureSize, const QString& name, const Actions& actions);
 
-    /// Shows the source that the rule names, with a warning where it is not there.
-    void show(const std::string& inputSourceID);
+    /// Shows the source that the rule names, with a warning where it is not there, and else what
+    /// there is to say of the rule, if anything.
+    void show(const std::string& inputSourceID, const QString& words = {});
 
     /// Puts the focus where the source is chosen.
     void focusChooser() { chooser_->setFocus(Qt::OtherFocusReason); }

@@ -2,6 +2,7 @@
 
 #include "applications/views/ApplicationIcon.h"
 #include "inputmethod/views/InputSourceOptions.h"
+#include "inputmethod/views/WhyWords.h"
 #include "ui/controls/TableCells.h"
 
 #include <algorithm>
@@ -80,11 +81,16 @@ int SmartStatsModel::columnCount(const QModelIndex& parent) const
 
 QVariant SmartStatsModel::data(const QModelIndex& index, int role) const
 {
-    const auto& stats = stats_[static_cast<std::size_t>(index.row())];
+    const auto& stats = statsAt(index.row());
     switch (role) {
     case Qt::DisplayRole:
-    case Qt::ToolTipRole:
         return text(stats, index.column());
+    case Qt::ToolTipRole:
+        return index.column() == app
+            ? text(stats, app) + QLatin1Char('\n') + whyInTable(context_, settings_, stats.app)
+            : text(stats, index.column());
+    case Qt::AccessibleDescriptionRole:
+        return index.column() == app ? whyInTable(context_, settings_, stats.app) : QString();
     case Qt::AccessibleTextRole:
         return index.column() == disabled ? headerData(disabled, Qt::Horizontal, Qt::DisplayRole)
                                           : text(stats, index.column());
@@ -110,7 +116,7 @@ bool SmartStatsModel::setData(const QModelIndex& index, const QVariant& value, i
 {
     if (role != Qt::CheckStateRole || index.column() != disabled)
         return false;
-    const auto bundleID = stats_[static_cast<std::size_t>(index.row())].app.bundleID;
+    const auto bundleID = statsAt(index.row()).app.bundleID;
     settings_.setDisabled(bundleID, value.toInt() == Qt::Checked);
     return true;
 }

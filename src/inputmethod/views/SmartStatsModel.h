@@ -9,7 +9,8 @@
 
 namespace brindlex {
 
-/// What was learned of the applications, as a table. The check mark of the last column switches
+/// What was learned of the applications, as a table. The first cell of a row also says why its
+/// application has its source. The check mark of the last column switches
 /// the learned rule of an application off.
 class SmartStatsModel : public QAbstractTableModel {
 public:
@@ -19,7 +20,10 @@ public:
 
     /// Shows what the settings have now.
     void show();
-    const Uuid& idAt(int row) const { return stats_[static_cast<std::size_t>(row)].id; }
+    const SmartInputMethodAppStats& statsAt(int row) const
+    {
+        return stats_[static_cast<std::size_t>(row)];
+    }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     int columnCount(const QModelIndex& parent = {}) const override;

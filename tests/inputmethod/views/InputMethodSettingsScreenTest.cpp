@@ -1,45 +1,10 @@
-#include "inputmethod/views/InputMethodSettingsScreen.h"
+#include "inputmethod/views/InputMethodSettingsScreenFixture.h"
 
-#include "support/views/ScreenGallery.h"
-
-#include <QApplication>
-#include <QKeyEvent>
 #include <QPushButton>
-#include <QTableView>
 #include <QToolButton>
-#include <gtest/gtest.h>
 
 namespace brindlex {
 namespace {
-
-/// The screen of the keyboard as a user has it in front.
-class InputMethodSettingsScreenTest : public testing::Test {
-protected:
-    template <typename Control>
-    Control* control(const QString& name)
-    {
-        QApplication::processEvents();
-        for (auto* const found : window->findChildren<Control*>())
-            if (found->accessibleName() == name && !found->isHidden())
-                return found;
-        ADD_FAILURE() << "no control is called " << name.toStdString();
-        return nullptr;
-    }
-    void press(QWidget* widget, int key)
-    {
-        QKeyEvent event(QEvent::KeyPress, key, Qt::NoModifier);
-        QApplication::sendEvent(widget, &event);
-    }
-    void type(QLineEdit* field, const QString& text)
-    {
-        field->setText(text);
-        field->textEdited(text);
-    }
-    const InputMethodConfig& config() { return gallery.inputMethod.config(); }
-
-    ScreenGallery gallery{StringCatalogue("en")};
-    std::unique_ptr<QWidget> window = gallery.show("keyboard-empty");
-};
 
 TEST_F(InputMethodSettingsScreenTest, storesWhatIsSwitchedAtOnce)
 {
@@ -147,60 +112,6 @@ TEST_F(InputMethodSettingsScreenTest, storesTheChoicesOfTheLearning)
     EXPECT_EQ(smart.thresholdRatio, SmartInputMethodThresholdRatio::ninety);
     EXPECT_EQ(smart.windowSize, SmartInputMethodWindowSize::twenty);
     EXPECT_EQ(smart.appLimit, SmartInputMethodAppLimit::top30);
-}
-
-/// The table of what was learned.
-class InputMethodSmartStatsRowsTest : public InputMethodSettingsScreenTest {
-protected:
-    InputMethodSmartStatsRowsTest() { window = gallery.show("keyboard"); }
-
-    QTableView& table() { return *window->findChild<QTableView*>(); }
-    QString cell(int row, int column)
-    {
-        return table().model()->index(row, column).data().toString();
-    }
-};
-
-TEST_F(InputMethodSmartStatsRowsTest, keepsTheOrderOfTheListUntilAHeadIsClicked)
-{
-    EXPECT_EQ(cell(0, SmartStatsModel::app), "Code");
-    EXPECT_EQ(cell(0, SmartStatsModel::status), "Active");
-    EXPECT_EQ(cell(0, SmartStatsModel::samples), "10");
-    EXPECT_EQ(cell(0, SmartStatsModel::match), "100%");
-    EXPECT_EQ(cell(1, SmartStatsModel::status), "Learning");
-
-    table().sortByColumn(SmartStatsModel::samples, Qt::AscendingOrder);
-
-    EXPECT_EQ(cell(0, SmartStatsModel::app), "Notes");
-}
-
-TEST_F(InputMethodSmartStatsRowsTest, switchesALearnedRuleOff)
-{
-    table().model()->setData(
-        table().model()->index(0, SmartStatsModel::disabled), Qt::Checked, Qt::CheckStateRole);
-
-    EXPECT_TRUE(gallery.inputMethod.smartConfig().appStats.front().isDisabled);
-    EXPECT_EQ(cell(0, SmartStatsModel::status), "Disabled");
-}
-
-TEST_F(InputMethodSmartStatsRowsTest, deletesWhatIsSelected)
-{
-    EXPECT_FALSE(control<QPushButton>("Delete stats")->isEnabled());
-    table().selectRow(0);
-
-    control<QPushButton>("Delete stats")->click();
-
-    ASSERT_EQ(gallery.inputMethod.smartConfig().appStats.size(), 1U);
-    EXPECT_EQ(cell(0, SmartStatsModel::app), "Notes");
-}
-
-TEST_F(InputMethodSmartStatsRowsTest, clearsTheSamplesOfWhatIsSelected)
-{
-    table().selectRow(0);
-
-    control<QPushButton>("Clear stats")->click();
-
-    EXPECT_TRUE(gallery.inputMethod.smartConfig().appStats.front().samples.empty());
 }
 
 } // namespace

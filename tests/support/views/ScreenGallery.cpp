@@ -67,6 +67,21 @@ void ScreenGallery::fill()
     std::ofstream(Log::fileURL(Log::Subsystem::app).value()) << logLines;
 }
 
+/// A rule has switched for the application, and the user has changed it.
+void ScreenGallery::noteOverriddenSwitch(const std::string& bundleID)
+{
+    const InputMethodSwitchDecision decision{
+        bundleID, {}, "xkb:de::deu", InputMethodSwitchDecisionSource::manualAppRule};
+    const auto context = autoSwitchContext(decision);
+    SwitchState state;
+    state.override = {context, context, decision.inputSourceID};
+    state.standing.isChosenSinceSwitch = true;
+    state.lastInputSourceID = "xkb:us::eng";
+    const auto now = computer.clock.now();
+    reasons.noteSwitch(decision, inputMethod.smartConfig(), now);
+    reasons.noteEvent(SwitchEvent::InputSourceChanged{}, state, now);
+}
+
 std::unique_ptr<QWidget> ScreenGallery::make(const std::string& name)
 {
     if (name == "logs") {
@@ -102,6 +117,7 @@ std::unique_ptr<QWidget> ScreenGallery::make(const std::string& name)
                 config.recordSample("xkb:de::deu", {"org.example.Code", "Code", {}}, Date{});
             config.recordSample("xkb:us::eng", {"org.example.Notes", "Notes", {}}, Date{});
         });
+        noteOverriddenSwitch("org.example.Editor");
     }
     if (name == "mouse") {
         const auto id = mouse.addClickBinding();
@@ -127,8 +143,8 @@ std::unique_ptr<QWidget> ScreenGallery::make(const std::string& name)
                 [this] { return new GeneralScreen(context(), general, computer.defaults); }},
             {MainWindowTab::keyboard,
                 [this, chooseApplication] {
-                    return new InputMethodSettingsScreen(
-                        context(), inputMethod, inputMethodStore, smartStore, chooseApplication);
+                    return new InputMethodSettingsScreen(context(), inputMethod, inputMethodStore,
+                        smartStore, reasons, chooseApplication);
                 }},
             {MainWindowTab::mouse,
                 [this, chooseApplication] {

@@ -43,7 +43,9 @@ public:
     TextInputSourceService sources{computer.inputSources};
     InputMethodConfigStore inputMethodStore{computer.defaults};
     SmartInputMethodConfigStore smartStore{computer.defaults};
-    InputMethodSettings inputMethod{inputMethodStore, smartStore, sources, loader, computer.clock};
+    SwitchReasons reasons;
+    InputMethodSettings inputMethod{
+        inputMethodStore, smartStore, reasons, sources, loader, computer.clock};
     MouseConfigStore mouseStore{computer.defaults};
     MouseSettings mouse{mouseStore, loader};
     LaunchAtLoginManager launchAtLogin{computer.defaults, computer.loginItem, computer.activation};
@@ -57,6 +59,7 @@ public:
 
 private:
     void fill();
+    void noteOverriddenSwitch(const std::string& bundleID);
     std::unique_ptr<QWidget> make(const std::string& name);
 };
 

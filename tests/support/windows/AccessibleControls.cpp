@@ -40,6 +40,14 @@ std::optional<ScreenArea> AccessibleControls::find(
     return area;
 }
 
+bool AccessibleControls::says(const std::string& beginning) const
+{
+    return eventually([&] {
+        return visitAll(
+            [&](const Object& object) { return nameOf(object).starts_with(beginning); });
+    });
+}
+
 std::string AccessibleControls::report() const
 {
     std::string lines;

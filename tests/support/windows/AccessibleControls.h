@@ -22,6 +22,9 @@ public:
     /// the screen; where it is.
     std::optional<ScreenArea> find(const std::string& role, const std::string& name) const;
 
+    /// Waits until anything in the windows has a name that begins so.
+    bool says(const std::string& beginning) const;
+
     /// All that it finds now, a line for each, for the words of a failure.
     std::string report() const;
 
