@@ -5,6 +5,7 @@
 #include "ui/controls/TableCells.h"
 
 #include <QHeaderView>
+#include <QMenu>
 #include <QShortcut>
 #include <QSortFilterProxyModel>
 #include <QTableView>
@@ -81,9 +82,19 @@ void InputMethodSmartStatsRows::makeTable()
     card_.add(table_);
     QObject::connect(table_->selectionModel(), &QItemSelectionModel::selectionChanged, table_,
         [this] { noteSelection(); });
-    QObject::connect(
-        new QShortcut(QKeySequence(Qt::Key_Delete), table_, nullptr, nullptr, Qt::WidgetShortcut),
-        &QShortcut::activated, table_, [this] { deleteStats(); });
+    table_->setContextMenuPolicy(Qt::CustomContextMenu);
+    QObject::connect(table_, &QWidget::customContextMenuRequested, table_,
+        [this](const QPoint& place) { openMenu(place); });
+    makeShortcut(Qt::Key_Delete, &InputMethodSmartStatsRows::deleteStats);
+    // The key for menus opens it by itself; not every keyboard has one.
+    makeShortcut(Qt::SHIFT | Qt::Key_F10, &InputMethodSmartStatsRows::openMenuOfCurrentRow);
+}
+
+void InputMethodSmartStatsRows::makeShortcut(
+    const QKeySequence& keys, void (InputMethodSmartStatsRows::*action)())
+{
+    QObject::connect(new QShortcut(keys, table_, nullptr, nullptr, Qt::WidgetShortcut),
+        &QShortcut::activated, table_, [this, action] { (this->*action)(); });
 }
 
 void InputMethodSmartStatsRows::makeActions()
@@ -119,6 +130,38 @@ const SmartInputMethodAppStats* InputMethodSmartStatsRows::selected() const
     if (rows.isEmpty())
         return nullptr;
     return &model_->statsAt(sorted_->mapToSource(rows.front()).row());
+}
+
+void InputMethodSmartStatsRows::openMenuOfCurrentRow()
+{
+    openMenu(table_->visualRect(table_->currentIndex()).center());
+}
+
+/// For the row at the place, which is selected with it.
+void InputMethodSmartStatsRows::openMenu(const QPoint& place)
+{
+    const auto index = table_->indexAt(place);
+    if (!index.isValid())
+        return;
+    table_->selectRow(index.row());
+    auto* const menu = new QMenu(table_);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    auto* const disabled = menu->addAction(context_.text<"inputMethod.smart.header.disabled">(),
+        menu, [this](bool isOn) { switchSelected(isOn); });
+    disabled->setCheckable(true);
+    disabled->setChecked(selected()->isDisabled);
+    menu->addSeparator();
+    menu->addAction(
+        context_.text<"inputMethod.smart.clearStats">(), menu, [this] { clearStats(); });
+    menu->addAction(
+        context_.text<"inputMethod.smart.deleteStats">(), menu, [this] { deleteStats(); });
+    menu->popup(table_->viewport()->mapToGlobal(place));
+}
+
+void InputMethodSmartStatsRows::switchSelected(bool isDisabled)
+{
+    if (const auto* const stats = selected())
+        settings_.setDisabled(std::string(stats->app.bundleID), isDisabled);
 }
 
 void InputMethodSmartStatsRows::clearStats()

@@ -4,6 +4,8 @@
 #include "ui/controls/EmptyState.h"
 #include "ui/controls/Page.h"
 
+class QKeySequence;
+class QPoint;
 class QPushButton;
 class QSortFilterProxyModel;
 class QTableView;
@@ -12,7 +14,7 @@ namespace brindlex {
 
 /// The table of what was learned. Its order is that of the list until the user asks for another by
 /// a click on a head. The row under it is about the selected application: why it has its source,
-/// and buttons.
+/// and buttons, which are in the menu of its row, too.
 class InputMethodSmartStatsRows {
 public:
     InputMethodSmartStatsRows(
@@ -23,10 +25,14 @@ public:
 private:
     void makeTable();
     void makeActions();
+    void makeShortcut(const QKeySequence& keys, void (InputMethodSmartStatsRows::*action)());
     void fit();
     void noteSelection();
     /// Null where no application is selected.
     const SmartInputMethodAppStats* selected() const;
+    void openMenuOfCurrentRow();
+    void openMenu(const QPoint& place);
+    void switchSelected(bool isDisabled);
     void clearStats();
     void deleteStats();
 

@@ -93,6 +93,7 @@ QHeaderView::section:first { padding-left: 16px; }
 
 QMenu { background: @card@; color: @text@; border: 1px solid @line@; padding: 4px; }
 QMenu::item { padding: 5px 20px 5px 12px; border-radius: 4px; }
+QMenu::separator { height: 1px; background: @line@; margin: 4px 0; }
 QMenu::item:selected { background: @select@; color: @text@; }
 )";
 
