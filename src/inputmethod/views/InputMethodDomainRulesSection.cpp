@@ -2,6 +2,7 @@
 
 #include "inputmethod/DomainRecommendation.h"
 #include "ui/controls/Buttons.h"
+#include "ui/controls/TableCells.h"
 
 #include <QAbstractItemView>
 #include <QCompleter>
@@ -13,6 +14,7 @@ namespace brindlex {
 namespace {
 
 constexpr int glyphSize = 20;
+constexpr int suggestionHeight = 36;
 
 } // namespace
 
@@ -56,6 +58,11 @@ void InputMethodDomainRulesSection::makeField(Card& card)
     completer_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
     completer_->setCompletionRole(Qt::EditRole);
     field_->setCompleter(completer_);
+    // A window of its own, which has nothing of the one that it belongs to.
+    completer_->popup()->setObjectName("suggestions");
+    context_.theme.dress(*completer_->popup());
+    completer_->popup()->setItemDelegate(
+        new TableCells(context_.theme, suggestionHeight, completer_));
     QObject::connect(
         field_, &QLineEdit::textEdited, field_, [this](const QString& typed) { suggest(typed); });
     QObject::connect(field_, &QLineEdit::returnPressed, field_, [this] { add(field_->text()); });
@@ -90,7 +97,8 @@ void InputMethodDomainRulesSection::suggest(const QString& typed)
         auto* const item = new QStandardItem(
             glyphIcon(context_.theme, Glyph::globe, &ThemeTokens::subdued), QString());
         item->setData(domain, Qt::EditRole);
-        item->setToolTip(name);
+        item->setData(name, trailingTextRole);
+        item->setData(name, Qt::AccessibleDescriptionRole);
         model->appendRow(item);
     }
     if (model->rowCount() > 0)

@@ -57,7 +57,7 @@ void TableCells::paint(
     } else {
         const int left = index.column() == 0 ? firstMargin : margin;
         const auto place = paintLeading(*painter, option.rect.adjusted(left, 0, -margin, 0), index);
-        paintWords(*painter, place, option, index);
+        paintWords(*painter, paintTrailing(*painter, place, option, index), option, index);
     }
     painter->restore();
 }
@@ -118,6 +118,20 @@ QRect TableCells::paintLeading(QPainter& painter, QRect place, const QModelIndex
         painter.drawEllipse(QRectF(place.left(), place.center().y() - 3, dotSize, dotSize));
         place.setLeft(place.left() + dotSize + margin + 1);
     }
+    return place;
+}
+
+QRect TableCells::paintTrailing(QPainter& painter, QRect place, const QStyleOptionViewItem& option,
+    const QModelIndex& index) const
+{
+    const auto text = index.data(trailingTextRole).toString();
+    if (text.isEmpty())
+        return place;
+    place.setRight(place.right() - margin);
+    painter.setFont(scaledFont(option.font, textScale::second));
+    painter.setPen(theme_.colour(&ThemeTokens::subdued));
+    painter.drawText(place, Qt::AlignRight | Qt::AlignVCenter, text);
+    place.setRight(place.right() - painter.fontMetrics().horizontalAdvance(text) - iconGap);
     return place;
 }
 

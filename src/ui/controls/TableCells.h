@@ -16,6 +16,8 @@ enum TableRole {
     dotRole,
     /// Whether its letters have one width (bool).
     fixedWidthRole,
+    /// What stands at its other end, smaller and subdued (text).
+    trailingTextRole,
 };
 
 /// Draws the cells of all tables: no lines, the selected row a tint with a bar at its left. Numbers
@@ -42,7 +44,10 @@ private:
     void paintCheck(QPainter& painter, const QRect& place, bool isChecked) const;
     void paintWords(QPainter& painter, const QRect& place, const QStyleOptionViewItem& option,
         const QModelIndex& index) const;
+    /// Both return what is left of the place.
     QRect paintLeading(QPainter& painter, QRect place, const QModelIndex& index) const;
+    QRect paintTrailing(QPainter& painter, QRect place, const QStyleOptionViewItem& option,
+        const QModelIndex& index) const;
 
     const Theme& theme_;
     const int rowHeight_ = 0;

@@ -1,5 +1,9 @@
 #include "inputmethod/views/InputMethodSettingsScreenFixture.h"
 
+#include "ui/controls/TableCells.h"
+
+#include <QAbstractItemView>
+#include <QCompleter>
 #include <QPushButton>
 #include <QToolButton>
 
@@ -85,6 +89,31 @@ TEST_F(InputMethodSettingsScreenTest, takesAMegabyteInTheFieldOfWebsites)
 
     EXPECT_LE(field->text().size(), 2'000);
     EXPECT_TRUE(config().domainRules.empty());
+}
+
+TEST_F(InputMethodSettingsScreenTest, suggestsWebsitesWithTheirNames)
+{
+    auto* const field = control<QLineEdit>("Domain or URL");
+    type(field, "git");
+
+    const auto& suggestions = *field->completer()->completionModel();
+    ASSERT_EQ(suggestions.rowCount(), 1);
+    const auto suggestion = suggestions.index(0, 0);
+    EXPECT_EQ(suggestion.data(), "github.com");
+    EXPECT_EQ(suggestion.data(trailingTextRole), "GitHub");
+    EXPECT_EQ(suggestion.data(Qt::AccessibleDescriptionRole), "GitHub");
+}
+
+TEST_F(InputMethodSettingsScreenTest, suggestsNothingForASingleLetter)
+{
+    auto* const field = control<QLineEdit>("Domain or URL");
+    type(field, "git");
+    ASSERT_TRUE(field->completer()->popup()->isVisible());
+
+    type(field, "g");
+
+    EXPECT_EQ(field->completer()->completionModel()->rowCount(), 0);
+    EXPECT_FALSE(field->completer()->popup()->isVisible());
 }
 
 TEST_F(InputMethodSettingsScreenTest, followsWhatAnotherProcessWrites)
