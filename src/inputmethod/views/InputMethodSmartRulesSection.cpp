@@ -1,38 +1,9 @@
 #include "inputmethod/views/InputMethodSmartRulesSection.h"
 
-#include <sstream>
-#include <type_traits>
+#include "ui/controls/ChooserValues.h"
 
 namespace brindlex {
 namespace {
-
-/// What stands for a value in a chooser: as it is stored.
-template <typename Value>
-std::string optionOfValue(Value value)
-{
-    std::ostringstream text;
-    text << storedValue(value);
-    return text.str();
-}
-
-/// One option for each value that can be stored.
-template <typename Value, typename Text>
-std::vector<Chooser::Option> optionsOf(Text text)
-{
-    std::vector<Chooser::Option> options;
-    for (const auto& [value, stored] : storedValues(std::type_identity<Value>()))
-        options.push_back({optionOfValue(value), text(value), {}});
-    return options;
-}
-
-template <typename Value>
-Value valueWithOption(const std::string& option)
-{
-    for (const auto& [value, stored] : storedValues(std::type_identity<Value>()))
-        if (optionOfValue(value) == option)
-            return value;
-    return {};
-}
 
 /// The figure that is stored, with what follows it.
 template <typename Value>
@@ -95,10 +66,11 @@ void InputMethodSmartRulesSection::show()
     enabled_->show(config.enabled);
     learningEnabled_->show(config.learningEnabled);
     priority_->show(priorities(), optionOfValue(config.priority));
-    threshold_->show(
-        optionsOf<SmartInputMethodThresholdRatio>(figureWith<SmartInputMethodThresholdRatio>("%")),
+    threshold_->show(optionsOfAllValues<SmartInputMethodThresholdRatio>(
+                         figureWith<SmartInputMethodThresholdRatio>("%")),
         optionOfValue(config.thresholdRatio));
-    window_->show(optionsOf<SmartInputMethodWindowSize>(figureWith<SmartInputMethodWindowSize>("")),
+    window_->show(
+        optionsOfAllValues<SmartInputMethodWindowSize>(figureWith<SmartInputMethodWindowSize>("")),
         optionOfValue(config.windowSize));
     limit_->show(limits(), optionOfValue(config.appLimit));
     stats_.show();
@@ -121,7 +93,7 @@ void InputMethodSmartRulesSection::makeRows(Card& card)
 
 std::vector<Chooser::Option> InputMethodSmartRulesSection::priorities() const
 {
-    return optionsOf<SmartInputMethodPriority>([this](SmartInputMethodPriority priority) {
+    return optionsOfAllValues<SmartInputMethodPriority>([this](SmartInputMethodPriority priority) {
         switch (priority) {
         case SmartInputMethodPriority::afterManualRules:
             return context_.text<"inputMethod.smart.priority.afterManualRules">();
@@ -136,7 +108,7 @@ std::vector<Chooser::Option> InputMethodSmartRulesSection::priorities() const
 
 std::vector<Chooser::Option> InputMethodSmartRulesSection::limits() const
 {
-    return optionsOf<SmartInputMethodAppLimit>([this](SmartInputMethodAppLimit limit) {
+    return optionsOfAllValues<SmartInputMethodAppLimit>([this](SmartInputMethodAppLimit limit) {
         const auto count = applicationCount(limit);
         return count ? QStringLiteral("Top %1").arg(*count)
                      : context_.text<"inputMethod.smart.appLimit.unlimited">();

@@ -1,6 +1,7 @@
 #include "mouse/views/MouseActionPicker.h"
 
 #include "mouse/MouseActionTag.h"
+#include "ui/controls/ChooserValues.h"
 
 #include <QHBoxLayout>
 
@@ -18,17 +19,6 @@ constexpr int mostKeys = 160;
 
 constexpr std::array tags{MouseActionTag::missionControl, MouseActionTag::switchSpaceLeft,
     MouseActionTag::switchSpaceRight, MouseActionTag::sendKeystroke};
-
-/// What stands for an action in the chooser: its place among them.
-std::string optionOf(MouseActionTag tag) { return std::to_string(static_cast<int>(tag)); }
-
-MouseActionTag tagWithOption(const std::string& option)
-{
-    for (const auto tag : tags)
-        if (optionOf(tag) == option)
-            return tag;
-    return MouseActionTag::switchSpaceLeft;
-}
 
 QString nameOf(MouseActionTag tag, const ViewContext& context)
 {
@@ -51,7 +41,9 @@ MouseActionPicker::MouseActionPicker(const ViewContext& context, const KeyRecord
     std::function<void(const MouseAction::Any&)> changed)
     : context_(context), changed_(std::move(changed)),
       actions_(new Chooser(context.theme, context.text<"mouse.action.picker">(),
-          [this](const std::string& option) { changed_(actionWithTag(tagWithOption(option))); })),
+          [this](const std::string& option) {
+              changed_(actionWithTag(valueWithOption<MouseActionTag>(option)));
+          })),
       keys_(new KeyRecorderField(context, context.text<"mouse.action.customShortcut">(), recording,
           [this](const HotkeyCombo& combo) { changed_(withKeystroke(action_, combo)); }))
 {
@@ -76,17 +68,11 @@ void MouseActionPicker::show(const MouseAction::Any& action)
 {
     action_ = action;
     const auto tag = tagOf(action);
-    actions_->show(options(), optionOf(tag));
+    const auto options
+        = optionsOfValues(tags, [this](MouseActionTag each) { return nameOf(each, context_); });
+    actions_->show(options, optionOfValue(tag));
     keys_->setVisible(tag == MouseActionTag::sendKeystroke);
     keys_->show(keystrokeOf(action));
-}
-
-std::vector<Chooser::Option> MouseActionPicker::options() const
-{
-    std::vector<Chooser::Option> options;
-    for (const auto tag : tags)
-        options.push_back({optionOf(tag), nameOf(tag, context_), {}});
-    return options;
 }
 
 } // namespace brindlex

@@ -22,8 +22,6 @@ public:
     void show(const MouseAction::Any& action);
 
 private:
-    std::vector<Chooser::Option> options() const;
-
     const ViewContext context_;
     MouseAction::Any action_{};
     const std::function<void(const MouseAction::Any&)> changed_;

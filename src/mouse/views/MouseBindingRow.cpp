@@ -1,9 +1,11 @@
 #include "mouse/views/MouseBindingRow.h"
 
+#include "ui/controls/ChooserValues.h"
 #include "ui/controls/GlyphLabel.h"
 
 #include <QHBoxLayout>
 
+#include <algorithm>
 #include <array>
 #include <type_traits>
 #include <utility>
@@ -56,33 +58,16 @@ QString nameOf(MouseDirection direction, const ViewContext& context)
     return {};
 }
 
-/// What stands for a value in a chooser: its number.
-template <typename Value>
-std::string optionOf(Value value)
-{
-    return std::to_string(static_cast<int>(value));
-}
-
 /// The values to choose from, and the present one, if it is none of them.
 template <typename Value, std::size_t count>
 std::vector<Chooser::Option> optionsOf(
     const std::array<Value, count>& values, Value present, const ViewContext& context)
 {
-    std::vector<Chooser::Option> options;
-    bool isAmong = false;
-    for (const auto value : values) {
-        options.push_back({optionOf(value), nameOf(value, context), {}});
-        isAmong = isAmong || value == present;
-    }
-    if (!isAmong)
-        options.push_back({optionOf(present), nameOf(present, context), {}});
+    const auto name = [&](Value value) { return nameOf(value, context); };
+    auto options = optionsOfValues(values, name);
+    if (std::find(values.begin(), values.end(), present) == values.end())
+        options.push_back({optionOfValue(present), name(present), {}});
     return options;
-}
-
-template <typename Value>
-Value valueWithOption(const std::string& option)
-{
-    return static_cast<Value>(std::stoi(option));
 }
 
 } // namespace
@@ -133,10 +118,10 @@ template <typename Binding>
 void MouseBindingRow<Binding>::show(const Binding& binding)
 {
     binding_ = binding;
-    button_->show(optionsOf(buttons, binding.button, context_), optionOf(binding.button));
+    button_->show(optionsOf(buttons, binding.button, context_), optionOfValue(binding.button));
     if constexpr (std::is_same_v<Binding, MouseGestureBinding>)
         direction_->show(
-            optionsOf(directions, binding.direction, context_), optionOf(binding.direction));
+            optionsOf(directions, binding.direction, context_), optionOfValue(binding.direction));
     action_->show(binding.action);
 }
 

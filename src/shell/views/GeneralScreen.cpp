@@ -1,6 +1,7 @@
 #include "shell/views/GeneralScreen.h"
 
 #include "ui/controls/Buttons.h"
+#include "ui/controls/ChooserValues.h"
 
 #include <QEvent>
 
@@ -33,14 +34,6 @@ QString nameOf(LanguagePreference language, const ViewContext& context)
     return {};
 }
 
-std::vector<Chooser::Option> languageOptions(const ViewContext& context)
-{
-    std::vector<Chooser::Option> options;
-    for (const auto& [language, stored] : storedValues(std::type_identity<LanguagePreference>()))
-        options.push_back({stored, nameOf(language, context), {}});
-    return options;
-}
-
 } // namespace
 
 GeneralScreen::GeneralScreen(
@@ -55,8 +48,7 @@ GeneralScreen::GeneralScreen(
           [this](bool isOn) { settings_.setShowsDockIcon(isOn); })),
       language_(new Chooser(context.theme, context.text<"general.language">(),
           [this](const std::string& option) {
-              if (const auto language = caseWithStoredValue<LanguagePreference>(option))
-                  settings_.setLanguage(*language);
+              settings_.setLanguage(valueWithOption<LanguagePreference>(option));
           })),
       changes_(defaults.observeChanges([this] { show(); }))
 {
@@ -93,7 +85,9 @@ void GeneralScreen::show()
 {
     launchAtLogin_->show(settings_.launchAtLogin());
     showsDockIcon_->show(settings_.showsDockIcon());
-    language_->show(languageOptions(context_), storedValue(settings_.language()));
+    const auto languages = optionsOfAllValues<LanguagePreference>(
+        [this](LanguagePreference language) { return nameOf(language, context_); });
+    language_->show(languages, optionOfValue(settings_.language()));
 }
 
 } // namespace brindlex
