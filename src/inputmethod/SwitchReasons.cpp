@@ -54,21 +54,24 @@ void SwitchReasons::noteEvent(const SwitchEvent::Any& event, const SwitchState& 
 {
     if (std::holds_alternative<SwitchEvent::InputSourceChanged>(event))
         changedAt_ = now;
+    const auto noted = std::exchange(noted_, {});
+    const auto last = reason(lastApplication_);
+    const auto overriddenAt = isOverridden(state) ? std::optional(changedAt_) : std::nullopt;
+    const bool isSwitch = noted && noted->decision.bundleID;
+    // Nearly all events: nothing is copied for them.
+    if (!isSwitch && (!last || last->overriddenAt == overriddenAt))
+        return;
     auto reasons = byApplication_.value();
-    const auto override = [&](std::optional<Date> at) {
-        if (const auto last = reasons.find(lastApplication_); last != reasons.end())
-            last->second.overriddenAt = at;
-    };
-    if (const auto noted = std::exchange(noted_, {}); noted && noted->decision.bundleID) {
-        override({});
+    if (isSwitch) {
+        if (last)
+            reasons[lastApplication_].overriddenAt = {};
         lastApplication_ = *noted->decision.bundleID;
         reasons[lastApplication_] = *noted;
-        if (reasons.size() > mostApplications)
-            dropOldest(reasons);
     }
-    override(isOverridden(state) ? std::optional(changedAt_) : std::nullopt);
-    if (reasons != byApplication_.value())
-        byApplication_.set(std::move(reasons));
+    reasons[lastApplication_].overriddenAt = overriddenAt;
+    if (reasons.size() > mostApplications)
+        dropOldest(reasons);
+    byApplication_.set(std::move(reasons));
 }
 
 } // namespace brindlex
