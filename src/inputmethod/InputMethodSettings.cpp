@@ -169,10 +169,30 @@ void InputMethodSettings::clearStats(const Uuid& id)
         changeSmart(step);
 }
 
-void InputMethodSettings::deleteStats(const Uuid& id)
+std::function<void()> InputMethodSettings::deleteStats(const Uuid& id)
 {
-    for (const auto& step : brindlex::deleteStats(smartConfig(), id))
+    const auto before = smartConfig();
+    for (const auto& step : brindlex::deleteStats(before, id))
         changeSmart(step);
+    const auto place = std::find_if(before.appStats.begin(), before.appStats.end(),
+        [&](const SmartInputMethodAppStats& stats) { return stats.id == id; });
+    if (place == before.appStats.end())
+        return [] {};
+    const auto index = static_cast<std::size_t>(place - before.appStats.begin());
+    return [this, before, index] { restoreStats(before, index); };
+}
+
+void InputMethodSettings::restoreStats(const SmartInputMethodConfig& before, std::size_t index)
+{
+    const auto& stats = before.appStats[index];
+    changeSmart([&](SmartInputMethodConfig& config) {
+        const auto learned = config.appStats.size();
+        restoreMember(config.appStats, stats, index,
+            [](const SmartInputMethodAppStats& each) { return each.app.bundleID; });
+        const auto switches = before.appActivations.find(stats.app.bundleID);
+        if (config.appStats.size() > learned && switches != before.appActivations.end())
+            config.appActivations.insert(*switches);
+    });
 }
 
 std::optional<std::string> InputMethodSettings::sourceOfNewRule() const

@@ -69,10 +69,13 @@ public:
     std::vector<SmartInputMethodAppStats> displayedStats() const;
     void setDisabled(const std::string& bundleID, bool isDisabled);
     void clearStats(const Uuid& id);
-    void deleteStats(const Uuid& id);
+    /// Returns what brings them back to their place, with the switches that they were made from;
+    /// nothing comes back of an application of which something was learned since.
+    std::function<void()> deleteStats(const Uuid& id);
 
 private:
     std::optional<std::string> sourceOfNewRule() const;
+    void restoreStats(const SmartInputMethodConfig& before, std::size_t index);
 
     InputMethodConfigStore& store_;
     SmartInputMethodConfigStore& smartStore_;

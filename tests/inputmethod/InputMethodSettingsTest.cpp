@@ -196,5 +196,39 @@ TEST_F(InputMethodSettingsTest, switchesOffClearsAndDeletesWhatWasLearned)
     EXPECT_EQ(settings.smartConfig().appStats[0].app.bundleID, "two");
 }
 
+TEST_F(InputMethodSettingsTest, bringsDeletedStatisticsBackToTheirPlace)
+{
+    settings.changeSmart([](SmartInputMethodConfig& config) {
+        for (const auto* const app : {"one", "two"}) {
+            config.recordSample("xkb:de::deu", {app, app, {}}, Date{1});
+            config.recordActivation(app, Date{1});
+        }
+    });
+    const auto before = settings.smartConfig();
+    const auto bringBack = settings.deleteStats(before.appStats[0].id);
+    ASSERT_EQ(settings.smartConfig().appStats.size(), 1U);
+    ASSERT_EQ(settings.smartConfig().appActivations.count("one"), 0U);
+
+    bringBack();
+
+    EXPECT_EQ(settings.smartConfig(), before);
+}
+
+TEST_F(InputMethodSettingsTest, bringsNoStatisticsBackOverWhatWasLearnedSince)
+{
+    const auto learn = [](SmartInputMethodConfig& config) {
+        config.recordSample("xkb:de::deu", {"one", "one", {}}, Date{1});
+        config.recordActivation("one", Date{1});
+    };
+    settings.changeSmart(learn);
+    const auto bringBack = settings.deleteStats(settings.smartConfig().appStats[0].id);
+    settings.changeSmart(learn);
+    const auto learned = settings.smartConfig();
+
+    bringBack();
+
+    EXPECT_EQ(settings.smartConfig(), learned);
+}
+
 } // namespace
 } // namespace brindlex

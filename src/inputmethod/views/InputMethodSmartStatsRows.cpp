@@ -30,8 +30,8 @@ constexpr std::array columnWidths{std::pair{SmartStatsModel::status, 104},
 
 InputMethodSmartStatsRows::InputMethodSmartStatsRows(
     Page& page, const ViewContext& context, InputMethodSettings& settings)
-    : context_(context), settings_(settings), card_(page.section()), table_(new QTableView),
-      model_(new SmartStatsModel(context, settings, table_)),
+    : page_(page), context_(context), settings_(settings), card_(page.section()),
+      table_(new QTableView), model_(new SmartStatsModel(context, settings, table_)),
       sorted_(new QSortFilterProxyModel(table_))
 {
     empty_ = new EmptyState(
@@ -172,8 +172,11 @@ void InputMethodSmartStatsRows::clearStats()
 
 void InputMethodSmartStatsRows::deleteStats()
 {
-    if (const auto* const stats = selected())
-        settings_.deleteStats(Uuid(stats->id));
+    const auto* const stats = selected();
+    if (!stats)
+        return;
+    const auto name = QString::fromStdString(stats->app.displayName);
+    page_.offerUndo(name, settings_.deleteStats(Uuid(stats->id)));
 }
 
 } // namespace brindlex

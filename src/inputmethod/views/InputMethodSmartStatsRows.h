@@ -36,6 +36,7 @@ private:
     void clearStats();
     void deleteStats();
 
+    Page& page_;
     const ViewContext context_;
     InputMethodSettings& settings_;
     Card& card_;

@@ -85,6 +85,18 @@ TEST_F(InputMethodSmartStatsRowsTest, deletesWhatIsSelected)
     EXPECT_EQ(cell(0, SmartStatsModel::app), "Notes");
 }
 
+TEST_F(InputMethodSmartStatsRowsTest, bringsBackWhatWasDeleted)
+{
+    const auto before = gallery.inputMethod.smartConfig();
+    table().selectRow(0);
+    control<QPushButton>("Delete stats")->click();
+    ASSERT_EQ(gallery.inputMethod.smartConfig().appStats.size(), 1U);
+
+    control<QPushButton>("Undo")->click();
+
+    EXPECT_EQ(gallery.inputMethod.smartConfig(), before);
+}
+
 TEST_F(InputMethodSmartStatsRowsTest, clearsTheSamplesOfWhatIsSelected)
 {
     table().selectRow(0);
