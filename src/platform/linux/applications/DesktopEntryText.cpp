@@ -1,24 +1,16 @@
 #include "platform/linux/applications/DesktopEntryText.h"
 
 #include "foundation/Text.h"
+#include "platform/linux/files/KeyFileLines.h"
 
 #include <utility>
 
 namespace brindlex {
 namespace {
 
+constexpr std::string_view entryGroup = "Desktop Entry";
 constexpr std::string_view escapeNames = "sntr";
 constexpr std::string_view escapeMeanings = " \n\t\r";
-
-/// ASCII only: what a line of the format is built of.
-std::string_view stripped(std::string_view text)
-{
-    constexpr std::string_view blanks = " \t\r\f\v";
-    const auto begin = text.find_first_not_of(blanks);
-    if (begin == text.npos)
-        return {};
-    return text.substr(begin, text.find_last_not_of(blanks) - begin + 1);
-}
 
 std::string unescaped(std::string_view value)
 {
@@ -52,53 +44,6 @@ std::string escaped(std::string_view value)
     return text;
 }
 
-/// A line of a text, and what it is in the group "Desktop Entry".
-struct EntryLine {
-    /// With its end.
-    std::string_view whole{};
-    bool isHeader = false;
-    /// Both empty unless it is a key of the group.
-    std::string_view key{};
-    std::string_view value{};
-};
-
-/// Takes a text apart into its lines.
-class EntryLines {
-public:
-    explicit EntryLines(std::string_view text) : rest_(text) { }
-
-    std::optional<EntryLine> next()
-    {
-        if (rest_.empty())
-            return {};
-        const auto end = rest_.find('\n');
-        const auto size = end == rest_.npos ? rest_.size() : end + 1;
-        EntryLine line{.whole = rest_.substr(0, size)};
-        rest_.remove_prefix(size);
-        classify(line, stripped(line.whole.substr(0, end == rest_.npos ? size : size - 1)));
-        return line;
-    }
-
-private:
-    void classify(EntryLine& line, std::string_view content)
-    {
-        const auto equals = content.find('=');
-        if (content.starts_with('[')) {
-            // The group is the first of its name.
-            line.isHeader = !hasBeenInside_ && content == "[Desktop Entry]";
-            isInside_ = line.isHeader;
-            hasBeenInside_ = hasBeenInside_ || isInside_;
-        } else if (isInside_ && equals != content.npos && !content.starts_with('#')) {
-            line.key = stripped(content.substr(0, equals));
-            line.value = stripped(content.substr(equals + 1));
-        }
-    }
-
-    std::string_view rest_;
-    bool isInside_ = false;
-    bool hasBeenInside_ = false;
-};
-
 bool hasToBeQuoted(std::string_view word)
 {
     return word.empty() || word.find_first_of(" \t\n\"'\\><~|&;$*?#()`") != word.npos;
@@ -108,7 +53,7 @@ bool hasToBeQuoted(std::string_view word)
 
 DesktopEntryKeys::DesktopEntryKeys(std::string_view text)
 {
-    EntryLines lines(text);
+    KeyFileLines lines(text, entryGroup);
     while (const auto line = lines.next()) {
         hasGroup_ = hasGroup_ || line->isHeader;
         if (!line->key.empty())
@@ -137,7 +82,7 @@ std::string withDesktopEntryKey(
     const bool isThere = DesktopEntryKeys(text).contains(key);
     auto missing = value ? std::string(key) + "=" + escaped(*value) + "\n" : std::string();
     std::string result;
-    EntryLines lines(text);
+    KeyFileLines lines(text, entryGroup);
     while (const auto line = lines.next()) {
         const bool isKey = !line->key.empty() && line->key == key;
         if (isKey)

@@ -4,7 +4,7 @@
 #include "platform/BackgroundQueue.h"
 #include "platform/MainThread.h"
 #include "platform/UserDefaults.h"
-#include "platform/linux/preferences/FolderWatcher.h"
+#include "platform/linux/files/FolderWatcher.h"
 #include "platform/linux/preferences/PreferenceFile.h"
 #include "platform/linux/preferences/PreferenceFileSync.h"
 

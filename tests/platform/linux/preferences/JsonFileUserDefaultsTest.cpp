@@ -1,6 +1,6 @@
 #include "platform/linux/preferences/JsonFileUserDefaultsFixture.h"
 
-#include "platform/linux/preferences/FolderWatcher.h"
+#include "platform/linux/files/FolderWatcher.h"
 #include "platform/simulated/SimulatedQueue.h"
 
 #include <set>

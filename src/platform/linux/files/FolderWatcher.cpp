@@ -1,4 +1,4 @@
-#include "platform/linux/preferences/FolderWatcher.h"
+#include "platform/linux/files/FolderWatcher.h"
 
 #include "foundation/FileHandle.h"
 
