@@ -72,6 +72,22 @@ void XConnection::ask(
     sync();
 }
 
+void XConnection::manage(const std::string& selection, xcb_window_t window) const
+{
+    xcb_set_selection_owner(connection_, window, atom(selection), XCB_CURRENT_TIME);
+    xcb_client_message_event_t message{};
+    message.response_type = XCB_CLIENT_MESSAGE;
+    message.format = 32;
+    message.window = root();
+    message.type = atom("MANAGER");
+    message.data.data32[0] = XCB_CURRENT_TIME;
+    message.data.data32[1] = atom(selection);
+    message.data.data32[2] = window;
+    xcb_send_event(connection_, false, root(), XCB_EVENT_MASK_STRUCTURE_NOTIFY,
+        reinterpret_cast<const char*>(&message));
+    sync();
+}
+
 void XConnection::sync() const
 {
     const XReply<xcb_get_input_focus_reply_t> reply(

@@ -36,6 +36,10 @@ public:
     void ask(
         xcb_window_t window, const std::string& type, const std::vector<std::uint32_t>& data) const;
 
+    /// Makes the window the owner of a selection by which it manages something for all programs,
+    /// and announces it to whoever waits for one.
+    void manage(const std::string& selection, xcb_window_t window) const;
+
     /// Waits until the server has done all that was asked.
     void sync() const;
 

@@ -10,8 +10,7 @@ constexpr std::uint16_t trayMargin = 4;
 } // namespace
 
 DockTray::DockTray(const Options& options)
-    : options_(options), window_(xcb_generate_id(server_.get())),
-      selection_(server_.atom("_NET_SYSTEM_TRAY_S0"))
+    : options_(options), window_(xcb_generate_id(server_.get()))
 {
     constexpr std::uint32_t mask = XCB_CW_BACK_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_EVENT_MASK;
     const std::array<std::uint32_t, 3> values{
@@ -22,9 +21,7 @@ DockTray::DockTray(const Options& options)
     xcb_map_window(server_.get(), window_);
     if (options.wantsAlpha)
         requestAlpha();
-    xcb_set_selection_owner(server_.get(), window_, selection_, XCB_CURRENT_TIME);
-    announce();
-    server_.sync();
+    server_.manage("_NET_SYSTEM_TRAY_S0", window_);
 }
 
 DockTray::~DockTray() = default;
@@ -95,21 +92,6 @@ void DockTray::requestAlpha()
             xcb_change_property(server_.get(), XCB_PROP_MODE_REPLACE, window_,
                 server_.atom("_NET_SYSTEM_TRAY_VISUAL"), XCB_ATOM_VISUALID, 32, 1,
                 &xcb_depth_visuals(depths.data)->visual_id);
-}
-
-/// As the rules of selections want it, to whoever waits for a tray.
-void DockTray::announce()
-{
-    xcb_client_message_event_t message{};
-    message.response_type = XCB_CLIENT_MESSAGE;
-    message.format = 32;
-    message.window = server_.root();
-    message.type = server_.atom("MANAGER");
-    message.data.data32[0] = XCB_CURRENT_TIME;
-    message.data.data32[1] = selection_;
-    message.data.data32[2] = window_;
-    xcb_send_event(server_.get(), false, server_.root(), XCB_EVENT_MASK_STRUCTURE_NOTIFY,
-        reinterpret_cast<const char*>(&message));
 }
 
 } // namespace brindlex

@@ -44,13 +44,11 @@ private:
     void process();
     void take(xcb_window_t icon);
     void requestAlpha();
-    void announce();
 
     const Options options_;
     /// Its own, whose events nobody else takes.
     XConnection server_;
     xcb_window_t window_;
-    xcb_atom_t selection_;
     std::vector<xcb_window_t> icons_;
     int requests_ = 0;
 };

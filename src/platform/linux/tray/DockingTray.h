@@ -2,7 +2,7 @@
 
 #include "foundation/Subscription.h"
 #include "platform/linux/tray/DockedIcon.h"
-#include "platform/linux/x11/X11Connection.h"
+#include "platform/linux/x11/X11ManagerSelection.h"
 
 #include <memory>
 #include <string>
@@ -23,7 +23,6 @@ public:
 
     /// Handlers are called from the loop.
     DockingTray(X11Connection& connection, const std::string& title, Handlers handlers);
-    ~DockingTray();
     DockingTray(const DockingTray&) = delete;
     DockingTray& operator=(const DockingTray&) = delete;
 
@@ -32,19 +31,16 @@ public:
 
 private:
     void receive(const xcb_generic_event_t& event);
-    bool isAnnouncement(const xcb_generic_event_t& event) const;
-    void findTray();
-    xcb_window_t followedOwner();
-    void dock(xcb_window_t tray);
+    void moveTo(xcb_window_t tray);
     void leave();
 
     X11Connection& connection_;
     std::string title_;
     const Handlers handlers_;
-    const xcb_atom_t selection_;
-    const xcb_atom_t manager_;
-    xcb_window_t tray_ = XCB_WINDOW_NONE;
     std::unique_ptr<DockedIcon> icon_;
+    /// Where the icon was given to.
+    xcb_window_t iconsTray_ = XCB_WINDOW_NONE;
+    X11ManagerSelection tray_;
     Subscription events_;
 };
 
