@@ -41,7 +41,9 @@ LinuxPlatform::LinuxPlatform(
           programIdentity::bundleIdentifier, {program_.name, runningProgramFile()})),
       relaunching_(runningProgramFile(), startupIdentifierForNow),
       network_(session.mainThread, runningProgramFile().replace_filename("brindlex-fetch")),
-      appearance_(session.bus.connection()), abilities_(choose(offer.hasX11, clock, container))
+      appearance_(
+          x11().display, session.bus.connection(), session.userFolders.configHome(), offer.desktop),
+      abilities_(choose(offer.hasX11, clock, container))
 {
 }
 

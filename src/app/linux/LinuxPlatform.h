@@ -8,7 +8,7 @@
 #include "foundation/Subscription.h"
 #include "platform/Platform.h"
 #include "platform/linux/accessibility/AccessibilitySwitch.h"
-#include "platform/linux/appearance/PortalAppearance.h"
+#include "platform/linux/appearance/LinuxAppearance.h"
 #include "platform/linux/applications/DesktopApplicationBundles.h"
 #include "platform/linux/applications/DesktopEntries.h"
 #include "platform/linux/applications/QtIconRendering.h"
@@ -78,10 +78,10 @@ private:
     XdgLoginItem loginItem_;
     PosixProgramRelaunching relaunching_;
     FetcherHttpReading network_;
-    PortalAppearance appearance_;
 
     /// Made for the first provider that needs it.
     std::shared_ptr<X11Session> x11_;
+    LinuxAppearance appearance_;
     std::shared_ptr<QtProgramWindows> programWindows_;
     ProviderChoice providers_;
     Platform abilities_;

@@ -1,5 +1,6 @@
 #include "app/linux/ProgramScreens.h"
 
+#include "app/linux/DesktopLook.h"
 #include "applications/views/ApplicationChooser.h"
 #include "inputmethod/views/InputMethodSettingsScreen.h"
 #include "logviewer/views/LogWindow.h"
@@ -38,14 +39,6 @@ void revealFile(const std::filesystem::path& file)
     QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file.parent_path())));
 }
 
-Theme::Look lookFor(const DesktopAppearance& appearance)
-{
-    const auto accent
-        = appearance.accent ? std::optional(Colour::fromHex(*appearance.accent)) : std::nullopt;
-    return {themeTokens(appearance.isDark ? Brightness::dark : Brightness::light, accent),
-        appearance.reducesMotion};
-}
-
 } // namespace
 
 ProgramScreens::Models::Models(Platform& platform, SharedInstances& shared)
@@ -64,7 +57,13 @@ ProgramScreens::ProgramScreens(LinuxPlatform& linuxPlatform, SharedInstances& sh
       recency_(platform_.applications)
 {
     appearance_ = linuxPlatform.appearance().subscribe(
-        [this](const DesktopAppearance& appearance) { theme_.setLook(lookFor(appearance)); });
+        [this, usual = QApplication::font()](const DesktopAppearance& appearance) {
+            // To an equal font every window would be laid out anew.
+            const auto font = fontFor(appearance, usual);
+            if (font != QApplication::font())
+                QApplication::setFont(font);
+            theme_.setLook(lookFor(appearance));
+        });
     scenes_.push_back(
         linuxPlatform.addWindowScene(windowScene::main, [this] { return makeMainWindow(); }));
     scenes_.push_back(

@@ -6,11 +6,12 @@ namespace brindlex {
 
 SessionOffer SessionOffer::fromEnvironment(const Environment& environment)
 {
-    const auto isSet = [&](const char* name) {
-        const auto* value = environment(name);
-        return value && !std::string_view(value).empty();
+    const auto value = [&](const char* name) {
+        const auto* const found = environment(name);
+        return std::string_view(found ? found : "");
     };
-    return {.hasX11 = isSet("DISPLAY")};
+    return {.hasX11 = !value("DISPLAY").empty(),
+        .desktop = desktopFamily(value("XDG_CURRENT_DESKTOP"))};
 }
 
 } // namespace brindlex

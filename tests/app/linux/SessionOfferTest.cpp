@@ -25,5 +25,17 @@ TEST(SessionOffer, hasNoX11WithoutAName)
     EXPECT_FALSE(offerWithDisplay("").hasX11);
 }
 
+TEST(SessionOffer, namesTheDesktop)
+{
+    const auto desktopNamed = [](const char* names) {
+        return SessionOffer::fromEnvironment([names](std::string_view name) {
+            return name == "XDG_CURRENT_DESKTOP" ? names : nullptr;
+        }).desktop;
+    };
+    EXPECT_EQ(desktopNamed("KDE"), DesktopFamily::kde);
+    EXPECT_EQ(desktopNamed("ubuntu:GNOME"), DesktopFamily::gnome);
+    EXPECT_EQ(desktopNamed(nullptr), DesktopFamily::other);
+}
+
 } // namespace
 } // namespace brindlex

@@ -1,5 +1,7 @@
 #include "platform/linux/appearance/PortalAppearance.h"
 
+#include "platform/linux/appearance/FontDescription.h"
+
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
@@ -22,6 +24,27 @@ QString gnomeSpace() { return QStringLiteral("org.gnome.desktop.interface"); }
 
 /// Of `color-scheme`, by the portal's documentation.
 constexpr uint prefersDark = 1;
+constexpr uint prefersLight = 2;
+
+/// Of `text-scaling-factor`, by GNOME's schema.
+constexpr double leastTextScale = 0.5;
+constexpr double mostTextScale = 3;
+
+std::optional<bool> darknessOf(const QVariant& value)
+{
+    const auto scheme = value.toUInt();
+    if (scheme != prefersDark && scheme != prefersLight)
+        return {};
+    return scheme == prefersDark;
+}
+
+std::optional<double> textScaleOf(const QVariant& value)
+{
+    const auto scale = value.toDouble();
+    if (!(scale > 0))
+        return {};
+    return std::clamp(scale, leastTextScale, mostTextScale);
+}
 
 /// Three parts from 0 to 1 as a number; nothing for any other colour, which stands for none.
 std::optional<std::uint32_t> colourOf(const QVariant& value)
@@ -86,11 +109,15 @@ void PortalAppearance::note(const QString& space, const QString& key, const QVar
 {
     auto appearance = current_.value();
     if (space == appearanceSpace() && key == QStringLiteral("color-scheme"))
-        appearance.isDark = value.toUInt() == prefersDark;
+        appearance.isDark = darknessOf(value);
     else if (space == appearanceSpace() && key == QStringLiteral("accent-color"))
         appearance.accent = colourOf(value);
     else if (space == gnomeSpace() && key == QStringLiteral("enable-animations"))
-        appearance.reducesMotion = !value.toBool();
+        appearance.reducesMotion = value.toBool() ? std::nullopt : std::optional(true);
+    else if (space == gnomeSpace() && key == QStringLiteral("font-name"))
+        appearance.font = pangoFont(value.toString().toStdString());
+    else if (space == gnomeSpace() && key == QStringLiteral("text-scaling-factor"))
+        appearance.textScale = textScaleOf(value);
     if (appearance != current_.value())
         current_.set(appearance);
 }

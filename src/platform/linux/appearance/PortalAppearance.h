@@ -1,38 +1,28 @@
 #pragma once
 
 #include "foundation/Observable.h"
+#include "platform/linux/appearance/DesktopAppearance.h"
 #include "platform/linux/system/DBusSignal.h"
 
 #include <QDBusConnection>
 #include <QDBusServiceWatcher>
 #include <QObject>
 
-#include <cstdint>
 #include <memory>
-#include <optional>
 
 namespace brindlex {
 
-/// How the user wants programs to look.
-struct DesktopAppearance {
-    bool isDark = false;
-    /// The accent colour in sRGB, 0x2a66dd; nothing where the desktop has none.
-    std::optional<std::uint32_t> accent{};
-    /// Whether nothing is to move by itself.
-    bool reducesMotion = false;
-
-    bool operator==(const DesktopAppearance&) const = default;
-};
-
-/// The appearance of the desktop as its settings portal reports it
-/// (`org.freedesktop.portal.Settings`), followed while it changes, also when the portal starts
-/// late. Without a portal it is light. Nothing is started by asking, and nothing waits for the
-/// reply. Main thread only.
+/// What the desktop's settings portal (`org.freedesktop.portal.Settings`) says of the appearance,
+/// followed while it changes, also when the portal starts late. Nothing is started by asking, and
+/// nothing waits for the reply.
+///
+/// Values that stand for no preference say nothing, and so do animations that are enabled, which is
+/// what portals report of desktops that they know nothing of. Main thread only.
 class PortalAppearance : public QObject {
 public:
     explicit PortalAppearance(QDBusConnection bus);
 
-    const Observable<DesktopAppearance>& current() const { return current_; }
+    const Observable<StatedAppearance>& current() const { return current_; }
 
 private:
     void ask();
@@ -41,7 +31,7 @@ private:
     QDBusConnection bus_;
     QDBusServiceWatcher starts_;
     std::unique_ptr<DBusSignal> changes_;
-    Observable<DesktopAppearance> current_{DesktopAppearance{}};
+    Observable<StatedAppearance> current_{StatedAppearance{}};
 };
 
 } // namespace brindlex
