@@ -1,11 +1,15 @@
 #include "app/linux/DesktopLook.h"
 
 #include "platform/linux/appearance/FontDescription.h"
+#include "ui/controls/TextSize.h"
 
 #include <algorithm>
 
 namespace brindlex {
 namespace {
+
+/// What a window may take of the screen, with its frame.
+constexpr double roomForWindow = 0.9;
 
 /// GTK's name for what fontconfig and Qt call otherwise.
 QString familyOf(const DesktopFont& font)
@@ -36,6 +40,11 @@ QFont fontFor(const DesktopAppearance& appearance, const QFont& usual)
         font.setPointSizeF(
             std::clamp(points * appearance.textScale, leastFontPoints, mostFontPoints));
     return font;
+}
+
+QSize openingSize(const QSize& designed, const QSize& screen)
+{
+    return grownWithText(designed).boundedTo(screen * roomForWindow).expandedTo(designed);
 }
 
 } // namespace brindlex

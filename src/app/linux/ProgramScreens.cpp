@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QScreen>
 #include <QUrl>
 
 #include <utility>
@@ -37,6 +38,13 @@ const std::vector<AboutLibrary> libraries{
 void revealFile(const std::filesystem::path& file)
 {
     QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file.parent_path())));
+}
+
+/// In the size in which it opens.
+std::unique_ptr<QWidget> sized(std::unique_ptr<QWidget> window, const WindowScene& scene)
+{
+    window->resize(openingSize({scene.width, scene.height}, window->screen()->availableSize()));
+    return window;
 }
 
 } // namespace
@@ -104,18 +112,20 @@ QIcon ProgramScreens::pictureOf(const std::filesystem::path& bundle)
 
 std::unique_ptr<QWidget> ProgramScreens::makeMainWindow()
 {
-    return std::make_unique<MainWindow>(context(), platform_.defaults,
-        MainWindow::Screens{
-            {MainWindowTab::general, [this] { return makeGeneral(); }},
-            {MainWindowTab::keyboard, [this] { return makeKeyboard(); }},
-            {MainWindowTab::mouse, [this] { return makeMouse(); }},
-            {MainWindowTab::about, [this] { return makeAbout(); }},
-        });
+    return sized(std::make_unique<MainWindow>(context(), platform_.defaults,
+                     MainWindow::Screens{
+                         {MainWindowTab::general, [this] { return makeGeneral(); }},
+                         {MainWindowTab::keyboard, [this] { return makeKeyboard(); }},
+                         {MainWindowTab::mouse, [this] { return makeMouse(); }},
+                         {MainWindowTab::about, [this] { return makeAbout(); }},
+                     }),
+        windowScene::main);
 }
 
 std::unique_ptr<QWidget> ProgramScreens::makeLogWindow()
 {
-    return std::make_unique<LogWindow>(context(), platform_.mainThread, revealFile);
+    return sized(std::make_unique<LogWindow>(context(), platform_.mainThread, revealFile),
+        windowScene::logs);
 }
 
 std::unique_ptr<QWidget> ProgramScreens::makePermissionGuide()

@@ -3,6 +3,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/EmptyState.h"
 #include "ui/controls/TableCells.h"
+#include "ui/controls/TextSize.h"
 
 #include <QAbstractListModel>
 #include <QHBoxLayout>
@@ -91,7 +92,7 @@ ApplicationChooser::ApplicationChooser(const ViewContext& context,
     setAttribute(Qt::WA_DeleteOnClose);
     setWindowTitle(context.text<"chooser.title">());
     setMinimumSize(leastSize);
-    resize(openingSize);
+    resize(grownWithText(openingSize));
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);

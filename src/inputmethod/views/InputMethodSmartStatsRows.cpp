@@ -3,7 +3,9 @@
 #include "inputmethod/views/WhyWords.h"
 #include "ui/controls/Buttons.h"
 #include "ui/controls/TableCells.h"
+#include "ui/controls/TextSize.h"
 
+#include <QApplication>
 #include <QHeaderView>
 #include <QMenu>
 #include <QShortcut>
@@ -68,14 +70,10 @@ void InputMethodSmartStatsRows::makeTable()
     table_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table_->verticalHeader()->hide();
-    table_->verticalHeader()->setDefaultSectionSize(rowHeight);
     auto* const head = table_->horizontalHeader();
-    head->setFont(scaledFont(table_->font(), textScale::second));
-    head->setFixedHeight(headHeight);
     head->setHighlightSections(false);
     head->setSectionResizeMode(SmartStatsModel::app, QHeaderView::Stretch);
-    for (const auto& [column, width] : columnWidths)
-        table_->setColumnWidth(column, width);
+    followTextSize(*table_, [this] { sizeTable(); });
     table_->setSortingEnabled(true);
     head->setSortIndicator(-1, Qt::AscendingOrder);
     head->setSortIndicatorClearable(true);
@@ -109,10 +107,23 @@ void InputMethodSmartStatsRows::makeActions()
     card_.add(static_cast<QWidget*>(actions_));
 }
 
+/// For the words of the moment.
+void InputMethodSmartStatsRows::sizeTable()
+{
+    auto* const head = table_->horizontalHeader();
+    head->setFont(scaledFont(QApplication::font(), textScale::second));
+    head->setFixedHeight(grownWithText(headHeight));
+    table_->verticalHeader()->setDefaultSectionSize(grownWithText(rowHeight));
+    for (const auto& [column, width] : columnWidths)
+        table_->setColumnWidth(column, grownWithText(width));
+    fit();
+}
+
 /// The page scrolls, not the table.
 void InputMethodSmartStatsRows::fit()
 {
-    table_->setFixedHeight(headHeight + rowHeight * model_->rowCount() + belowTable);
+    table_->setFixedHeight(
+        grownWithText(headHeight) + grownWithText(rowHeight) * model_->rowCount() + belowTable);
 }
 
 void InputMethodSmartStatsRows::noteSelection()

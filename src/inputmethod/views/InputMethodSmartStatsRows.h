@@ -26,6 +26,7 @@ private:
     void makeTable();
     void makeActions();
     void makeShortcut(const QKeySequence& keys, void (InputMethodSmartStatsRows::*action)());
+    void sizeTable();
     void fit();
     void noteSelection();
     /// Null where no application is selected.

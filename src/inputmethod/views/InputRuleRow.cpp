@@ -1,6 +1,7 @@
 #include "inputmethod/views/InputRuleRow.h"
 
 #include "inputmethod/views/InputSourceOptions.h"
+#include "ui/controls/TextSize.h"
 
 namespace brindlex {
 namespace {
@@ -17,7 +18,7 @@ InputRuleRow::InputRuleRow(const ViewContext& context, const InputMethodSettings
           name + QStringLiteral(": ") + context.text<"inputMethod.smart.header.inputSource">(),
           actions.choose))
 {
-    chooser_->setFixedWidth(chooserWidth);
+    followTextSize(*chooser_, [this] { chooser_->setFixedWidth(grownWithText(chooserWidth)); });
     Row::picture(picture, pictureSize)
         .words(name)
         .end(chooser_)

@@ -2,8 +2,10 @@
 
 #include "ui/controls/Buttons.h"
 #include "ui/controls/TableCells.h"
+#include "ui/controls/TextSize.h"
 #include "ui/controls/WindowKeys.h"
 
+#include <QApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLocale>
@@ -138,19 +140,10 @@ void LogWindow::makeTable()
     table_->setWordWrap(false);
     table_->verticalHeader()->hide();
     table_->verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
-    table_->verticalHeader()->setDefaultSectionSize(rowHeight);
     auto* const head = table_->horizontalHeader();
-    head->setFont(scaledFont(table_->font(), textScale::second));
-    head->setFixedHeight(headHeight);
     head->setHighlightSections(false);
     head->setSectionResizeMode(LogTableModel::message, QHeaderView::Stretch);
-    const QFontMetrics fixed(fixedWidthFont(table_->font()));
-    table_->setColumnWidth(
-        LogTableModel::time, fixed.horizontalAdvance(QStringLiteral("00:00:00.000")) + 28);
-    table_->setColumnWidth(
-        LogTableModel::level, fixed.horizontalAdvance(QStringLiteral("NOTICE")) + 18);
-    table_->setColumnWidth(LogTableModel::category,
-        table_->fontMetrics().horizontalAdvance(QStringLiteral("input-method")) + 18);
+    followTextSize(*table_, [this] { sizeTable(); });
     connect(table_->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
         [this](const QModelIndex& current) { selectRow(current); });
     // Who scrolls up wants to stay there.
@@ -159,6 +152,23 @@ void LogWindow::makeTable()
         if (bar->sliderPosition() < bar->value())
             follow_->setChecked(false);
     });
+}
+
+/// For the words of the moment.
+void LogWindow::sizeTable()
+{
+    const auto font = QApplication::font();
+    const QFontMetrics fixed(fixedWidthFont(font));
+    auto* const head = table_->horizontalHeader();
+    head->setFont(scaledFont(font, textScale::second));
+    head->setFixedHeight(grownWithText(headHeight));
+    table_->verticalHeader()->setDefaultSectionSize(grownWithText(rowHeight));
+    table_->setColumnWidth(
+        LogTableModel::time, fixed.horizontalAdvance(QStringLiteral("00:00:00.000")) + 28);
+    table_->setColumnWidth(
+        LogTableModel::level, fixed.horizontalAdvance(QStringLiteral("NOTICE")) + 18);
+    table_->setColumnWidth(LogTableModel::category,
+        QFontMetrics(font).horizontalAdvance(QStringLiteral("input-method")) + 18);
 }
 
 QWidget* LogWindow::makeFoot()

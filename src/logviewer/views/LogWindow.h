@@ -34,6 +34,7 @@ private:
     QWidget* makeBar();
     QWidget* makeSubsystems();
     void makeTable();
+    void sizeTable();
     QWidget* makeFoot();
     QWidget* makeEmpty();
 

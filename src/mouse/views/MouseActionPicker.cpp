@@ -2,6 +2,7 @@
 
 #include "mouse/MouseActionTag.h"
 #include "ui/controls/ChooserValues.h"
+#include "ui/controls/TextSize.h"
 
 #include <QHBoxLayout>
 
@@ -48,10 +49,10 @@ MouseActionPicker::MouseActionPicker(const ViewContext& context, const KeyRecord
           [this](const HotkeyCombo& combo) { changed_(withKeystroke(action_, combo)); }))
 {
     actions_->setMinimumWidth(leastChooser);
-    actions_->setMaximumWidth(mostChooser);
+    followTextSize(*actions_, [this] { actions_->setMaximumWidth(grownWithText(mostChooser)); });
     auto* const place = new QWidget;
     place->setMinimumWidth(leastKeys);
-    place->setMaximumWidth(mostKeys);
+    followTextSize(*place, [place] { place->setMaximumWidth(grownWithText(mostKeys)); });
     auto* const right = new QHBoxLayout(place);
     right->setContentsMargins({});
     right->addStretch();

@@ -2,6 +2,7 @@
 
 #include "ui/controls/ChooserValues.h"
 #include "ui/controls/GlyphLabel.h"
+#include "ui/controls/TextSize.h"
 
 #include <QHBoxLayout>
 
@@ -91,7 +92,7 @@ MouseBindingRow<Binding>::MouseBindingRow(const ViewContext& context, const KeyR
     layout->setContentsMargins({});
     layout->setSpacing(gap);
     button_->setMinimumWidth(leastButton);
-    button_->setMaximumWidth(mostButton);
+    followTextSize(*button_, [this] { button_->setMaximumWidth(grownWithText(mostButton)); });
     layout->addWidget(button_, mostButton);
     if constexpr (isGesture) {
         direction_ = new Chooser(context.theme, context.text<"mouse.direction.picker">(),
@@ -101,7 +102,8 @@ MouseBindingRow<Binding>::MouseBindingRow(const ViewContext& context, const KeyR
                 });
             });
         direction_->setMinimumWidth(leastDirection);
-        direction_->setMaximumWidth(mostDirection);
+        followTextSize(
+            *direction_, [this] { direction_->setMaximumWidth(grownWithText(mostDirection)); });
         layout->addWidget(direction_, mostDirection);
     }
     layout->addWidget(

@@ -156,7 +156,7 @@ void PermissionGuideScreen::addLine(Card& card, GuidedPermission permission)
         .words(face.title)
         .end(line.status)
         .end(line.button)
-        .setMinimumHeight(rowHeight);
+        .setLeastHeight(rowHeight);
     lines_.push_back(line);
 }
 

@@ -1,6 +1,7 @@
 #include "ui/controls/Chooser.h"
 
 #include "ui/controls/Glyph.h"
+#include "ui/controls/TextSize.h"
 
 #include <QIconEngine>
 #include <QListView>
@@ -18,8 +19,9 @@
 namespace brindlex {
 namespace {
 
-constexpr QSize badgeSize{24, 16};
-constexpr int badgePixels = 10;
+constexpr QSize usualBadge{24, 16};
+/// Of the letters, as a part of the badge.
+constexpr double badgeLetters = 0.625;
 constexpr int chevronSize = 12;
 constexpr int chevronRoom = 20;
 constexpr int badgeGap = 4;
@@ -40,7 +42,7 @@ public:
         painter->save();
         painter->setRenderHint(QPainter::Antialiasing);
         auto font = painter->font();
-        font.setPixelSize(badgePixels);
+        font.setPixelSize(qRound(rect.height() * badgeLetters));
         font.setWeight(QFont::DemiBold);
         painter->setFont(font);
         painter->setPen(theme_.colour(&ThemeTokens::subdued));
@@ -79,7 +81,7 @@ Chooser::Chooser(const Theme& theme, const QString& name,
     // On Linux the name of such a control is what is chosen.
     setAccessibleDescription(name);
     setFocusPolicy(Qt::StrongFocus);
-    setIconSize(badgeSize);
+    followTextSize(*this, [this] { setIconSize(grownWithText(usualBadge)); });
     // One that adjusts to its contents by itself breaks out of its layout.
     setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     // The list as a list, not as a menu over the control.
@@ -108,7 +110,7 @@ QSize Chooser::sizeHint() const
 {
     int widest = 0;
     for (const auto& option : options_) {
-        const int badge = option.badge.isEmpty() ? 0 : badgeSize.width() + badgeGap;
+        const int badge = option.badge.isEmpty() ? 0 : iconSize().width() + badgeGap;
         widest = std::max(widest, fontMetrics().horizontalAdvance(option.text) + badge);
     }
     return {widest + aroundText, QComboBox::sizeHint().height()};
@@ -130,7 +132,7 @@ void Chooser::paintEvent(QPaintEvent*)
     initStyleOption(&option);
     const auto room
         = style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this);
-    const int badge = option.currentIcon.isNull() ? 0 : badgeSize.width() + badgeGap;
+    const int badge = option.currentIcon.isNull() ? 0 : iconSize().width() + badgeGap;
     option.currentText
         = fontMetrics().elidedText(option.currentText, Qt::ElideRight, room.width() - badge);
     painter.drawComplexControl(QStyle::CC_ComboBox, option);

@@ -3,6 +3,7 @@
 #include "ui/controls/Buttons.h"
 #include "ui/controls/GlyphLabel.h"
 #include "ui/controls/TextLabel.h"
+#include "ui/controls/TextSize.h"
 
 #include <QVBoxLayout>
 
@@ -29,8 +30,10 @@ EmptyState::EmptyState(const Theme& theme, Glyph glyph, const QString& sentence,
         Qt::AlignHCenter);
     auto* const words = new TextLabel(theme, TextRole::second, sentence);
     words->setAlignment(Qt::AlignCenter);
-    words->setFixedWidth(sentenceWidth);
-    words->setMinimumHeight(words->heightForWidth(sentenceWidth));
+    followTextSize(*words, [words] {
+        words->setFixedWidth(grownWithText(sentenceWidth));
+        words->setMinimumHeight(words->heightForWidth(words->maximumWidth()));
+    });
     layout->addWidget(words, 0, Qt::AlignHCenter);
     if (!action.isEmpty())
         layout->addWidget(

@@ -1,7 +1,9 @@
 #include "ui/controls/KeyCapsField.h"
 
 #include "ui/controls/Glyph.h"
+#include "ui/controls/TextSize.h"
 
+#include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -15,7 +17,6 @@ namespace {
 constexpr int leastWidth = 122;
 constexpr int mostWidth = 160;
 constexpr int fieldHeight = 28;
-constexpr int capHeight = 20;
 constexpr int leastCap = 20;
 constexpr int capPadding = 10;
 constexpr int capGap = 3;
@@ -30,7 +31,10 @@ KeyCapsField::KeyCapsField(const Theme& theme, const QString& name, Words words,
     : QAbstractButton(parent), theme_(theme), name_(name), words_(std::move(words))
 {
     setFocusPolicy(Qt::StrongFocus);
-    setFont(scaledFont(font(), textScale::second));
+    followTextSize(*this, [this] {
+        setFont(scaledFont(QApplication::font(), textScale::second));
+        setFixedSize(sizeHint());
+    });
     show({}, false);
 }
 
@@ -50,7 +54,7 @@ QSize KeyCapsField::sizeHint() const
 {
     const int needed = std::max(capsWidth(),
         fontMetrics().horizontalAdvance(isRecording_ ? words_.pressKey : words_.record) + inset);
-    return {std::clamp(needed + inset + crossRoom, leastWidth, mostWidth),
+    return {std::clamp(needed + inset + crossRoom, leastWidth, grownWithText(mostWidth)),
         std::max(fieldHeight, fontMetrics().height() + 8)};
 }
 
@@ -116,6 +120,7 @@ int KeyCapsField::capWidth(const QString& cap) const
 
 void KeyCapsField::paintCaps(QPainter& painter) const
 {
+    const int capHeight = std::max(leastCap, fontMetrics().height());
     int left = inset;
     for (const auto& cap : caps_) {
         const QRect place(left, (height() - capHeight) / 2, capWidth(cap), capHeight);

@@ -1,6 +1,7 @@
 #include "ui/controls/Page.h"
 
 #include "ui/controls/TextLabel.h"
+#include "ui/controls/TextSize.h"
 #include "ui/controls/UndoBar.h"
 
 #include <QApplication>
@@ -51,7 +52,7 @@ Page::Page(const ViewContext& context, QWidget* parent)
     setFocusPolicy(Qt::NoFocus);
     layout_->setContentsMargins({});
     layout_->setSpacing(0);
-    column_->setMaximumWidth(columnWidth);
+    followTextSize(*column_, [this] { column_->setMaximumWidth(grownWithText(columnWidth)); });
     ground_->setObjectName("page");
     auto* const centred = new QHBoxLayout(ground_);
     centred->setContentsMargins(sideMargin, endMargin, sideMargin, endMargin);

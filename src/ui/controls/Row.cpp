@@ -2,6 +2,7 @@
 
 #include "ui/controls/Buttons.h"
 #include "ui/controls/GlyphLabel.h"
+#include "ui/controls/TextSize.h"
 #include "ui/controls/ToggleSwitch.h"
 
 #include <QApplication>
@@ -41,7 +42,8 @@ Row::Row(const Theme& theme, QWidget* parent)
 {
     layout_->setContentsMargins(margin, 4, margin, 4);
     layout_->setSpacing(gap);
-    setMinimumHeight(oneLine);
+    followTextSize(*this, [this] { setMinimumHeight(grownWithText(leastHeight_)); });
+    setLeastHeight(oneLine);
     connect(qApp, &QApplication::focusChanged, this,
         [this](const QWidget*, const QWidget* focused) { noteFocus(focused); });
 }
@@ -52,7 +54,7 @@ Row& Row::picture(const QIcon& icon, int size)
     layout_->addWidget(label);
     layout_->addSpacing(wordsGap - gap);
     if (size >= largePicture)
-        setMinimumHeight(twoLines);
+        setLeastHeight(twoLines);
     return *this;
 }
 
@@ -85,6 +87,13 @@ Row& Row::removable(const QString& name, std::function<void()> remove)
         theme_, Glyph::cross, name, [this] { remove_(); }, &ThemeTokens::edge);
     layout_->addWidget(cross_);
     setRight(*layout_, crossMargin);
+    return *this;
+}
+
+Row& Row::setLeastHeight(int height)
+{
+    leastHeight_ = height;
+    setMinimumHeight(grownWithText(height));
     return *this;
 }
 
@@ -157,7 +166,7 @@ void Row::show(TextLabel& label, QWidget& line, const QString& words)
     label.setText(words);
     line.setVisible(!words.isEmpty());
     if (!words.isEmpty())
-        setMinimumHeight(std::max(minimumHeight(), twoLines));
+        setLeastHeight(std::max(leastHeight_, twoLines));
 }
 
 void Row::noteFocus(const QWidget* focused)

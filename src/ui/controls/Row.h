@@ -32,6 +32,9 @@ public:
     /// The cross at its very end, and Delete; its name says what goes.
     Row& removable(const QString& name, std::function<void()> remove);
 
+    /// In logical pixels, with words of the usual size; larger ones make it higher.
+    Row& setLeastHeight(int height);
+
     void setTitle(const QString& title);
     /// Other words under the name, or none.
     void setSecond(const QString& words);
@@ -65,6 +68,7 @@ private:
     TextLabel* warning_ = nullptr;
     QToolButton* cross_ = nullptr;
     std::function<void()> remove_;
+    int leastHeight_ = 0;
     bool isHovered_ = false;
     bool hasFocusWithin_ = false;
 };

@@ -1,5 +1,7 @@
 #include "ui/controls/StepSlider.h"
 
+#include "ui/controls/TextSize.h"
+
 #include <QHBoxLayout>
 #include <QSignalBlocker>
 #include <QWheelEvent>
@@ -37,10 +39,12 @@ StepSlider::StepSlider(const Theme& theme, const QString& name, Steps steps,
     slider_->setAccessibleName(name);
     slider_->setRange(steps.least, steps.most);
     value_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    int widest = valueWidth;
-    for (int step = steps.least; step <= steps.most; ++step)
-        widest = std::max(widest, value_->fontMetrics().horizontalAdvance(steps.text(step)));
-    value_->setFixedWidth(widest);
+    followTextSize(*value_, [value = value_, steps] {
+        int widest = valueWidth;
+        for (int step = steps.least; step <= steps.most; ++step)
+            widest = std::max(widest, value->fontMetrics().horizontalAdvance(steps.text(step)));
+        value->setFixedWidth(widest);
+    });
     auto* const layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(gap);

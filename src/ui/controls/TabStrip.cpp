@@ -1,5 +1,7 @@
 #include "ui/controls/TabStrip.h"
 
+#include "ui/controls/TextSize.h"
+
 #include <QApplication>
 #include <QEvent>
 #include <QPainter>
@@ -30,6 +32,7 @@ TabStrip::TabStrip(const Theme& theme, QWidget* parent) : QTabBar(parent), theme
     setFocusPolicy(Qt::TabFocus);
     setAttribute(Qt::WA_Hover);
     setMouseTracking(true);
+    followTextSize(*this, [this] { setFont(scaledFont(QApplication::font(), textScale::second)); });
 }
 
 void TabStrip::addTab(Glyph glyph, const QString& text)
@@ -46,7 +49,13 @@ QSize TabStrip::sizeHint() const
     return {width, tabSizeHint(0).height()};
 }
 
-QSize TabStrip::minimumSizeHint() const { return sizeHint(); }
+QSize TabStrip::minimumSizeHint() const
+{
+    int width = 0;
+    for (int index = 0; index < count(); ++index)
+        width += minimumTabSizeHint(index).width();
+    return {width, sizeHint().height()};
+}
 
 /// With the width of the word when its tab is selected, so that the tabs stay where they are.
 QSize TabStrip::tabSizeHint(int index) const
@@ -57,6 +66,12 @@ QSize TabStrip::tabSizeHint(int index) const
         std::max(stripHeight - 1, stripHeight - tabHeight + glyphSize + metrics.height() + 12)};
 }
 
+QSize TabStrip::minimumTabSizeHint(int index) const
+{
+    const auto usual = tabSizeHint(index);
+    return index == currentIndex() ? usual : QSize(glyphSize + 2 * padding + gap, usual.height());
+}
+
 void TabStrip::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
@@ -65,11 +80,11 @@ void TabStrip::paintEvent(QPaintEvent*)
         paintTab(painter, index);
 }
 
-void TabStrip::changeEvent(QEvent* event)
+void TabStrip::resizeEvent(QResizeEvent* event)
 {
-    if (event->type() == QEvent::ApplicationFontChange)
-        updateGeometry();
-    QTabBar::changeEvent(event);
+    QTabBar::resizeEvent(event);
+    for (int index = 0; index < count(); ++index)
+        setTabToolTip(index, hasRoomForWords() ? QString() : tabText(index));
 }
 
 void TabStrip::wheelEvent(QWheelEvent* event) { event->ignore(); }
@@ -113,11 +128,14 @@ void TabStrip::paintTab(QPainter& painter, int index)
     }
     const auto ink = theme_.colour(isSelected ? &ThemeTokens::accentText : &ThemeTokens::subdued);
     const QFont font = fontOf(isSelected);
-    const int words = QFontMetrics(font).height();
-    const int between = 3;
+    const bool hasWord = isSelected || hasRoomForWords();
+    const int words = hasWord ? QFontMetrics(font).height() : 0;
+    const int between = hasWord ? 3 : 0;
     const double top = ground.center().y() - (glyphSize + between + words) / 2.0;
     painter.drawPixmap(QPointF(ground.center().x() - glyphSize / 2.0, top).toPoint(),
         glyphPixmap(glyphs_[static_cast<std::size_t>(index)], ink, glyphSize, devicePixelRatioF()));
+    if (!hasWord)
+        return;
     painter.setFont(font);
     painter.setPen(ink);
     painter.drawText(QRectF(ground.left(), top + glyphSize + between, ground.width(), words),

@@ -7,7 +7,9 @@
 
 namespace brindlex {
 
-/// The tabs at the top of a window: a glyph over a word each, in the middle. The theme outlives it.
+/// The tabs at the top of a window: a glyph over a word each, in the middle. Where there is no room
+/// for all words, the selected tab has its word alone, and the others have theirs in a tool tip.
+/// The theme outlives it.
 class TabStrip : public QTabBar {
 public:
     explicit TabStrip(const Theme& theme, QWidget* parent = nullptr);
@@ -19,14 +21,16 @@ public:
 
 protected:
     QSize tabSizeHint(int index) const override;
+    QSize minimumTabSizeHint(int index) const override;
     void paintEvent(QPaintEvent* event) override;
-    void changeEvent(QEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
     void focusInEvent(QFocusEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QFont fontOf(bool isSelected) const;
+    bool hasRoomForWords() const { return width() >= sizeHint().width(); }
     void paintTab(QPainter& painter, int index);
 
     const Theme& theme_;

@@ -1,5 +1,7 @@
 #include "ui/controls/TableCells.h"
 
+#include "ui/controls/TextSize.h"
+
 #include <QApplication>
 #include <QIcon>
 #include <QKeyEvent>
@@ -42,7 +44,8 @@ TableCells::TableCells(const Theme& theme, int rowHeight, QObject* parent)
 QSize TableCells::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
     const auto hint = QStyledItemDelegate::sizeHint(option, index);
-    return rowHeight_ > 0 ? QSize(hint.width(), std::max(rowHeight_, hint.height())) : hint;
+    return rowHeight_ > 0 ? QSize(hint.width(), std::max(grownWithText(rowHeight_), hint.height()))
+                          : hint;
 }
 
 void TableCells::paint(

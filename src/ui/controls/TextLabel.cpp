@@ -1,7 +1,8 @@
 #include "ui/controls/TextLabel.h"
 
+#include "ui/controls/TextSize.h"
+
 #include <QApplication>
-#include <QEvent>
 
 #include <utility>
 
@@ -54,6 +55,7 @@ TextLabel::TextLabel(const Theme& theme, TextRole role, const QString& text, QWi
     setTextFormat(Qt::PlainText);
     setRole(role);
     setText(text);
+    followTextSize(*this, [this] { applyFont(); });
 }
 
 void TextLabel::setRole(TextRole role)
@@ -62,13 +64,6 @@ void TextLabel::setRole(TextRole role)
     setWordWrap(wraps(role));
     applyFont();
     update();
-}
-
-void TextLabel::changeEvent(QEvent* event)
-{
-    if (event->type() == QEvent::ApplicationFontChange)
-        applyFont();
-    QLabel::changeEvent(event);
 }
 
 void TextLabel::paintEvent(QPaintEvent* event)

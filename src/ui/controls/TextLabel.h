@@ -30,7 +30,6 @@ public:
     void setRole(TextRole role);
 
 protected:
-    void changeEvent(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

@@ -2,6 +2,8 @@
 
 #include "ui/controls/StyleSheet.h"
 
+#include <QApplication>
+#include <QEvent>
 #include <QFontDatabase>
 #include <QPalette>
 #include <QWidget>
@@ -24,6 +26,32 @@ QPalette paletteOf(const Theme& theme)
     return palette;
 }
 
+/// Hands the font of the program on to all that is in a window when it changes, which a window with
+/// a style sheet does not do by itself.
+class FontHandOn : public QObject {
+public:
+    FontHandOn(const Theme& theme, QWidget& window) : QObject(&window), theme_(theme)
+    {
+        window.installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        if (event->type() != QEvent::ApplicationFontChange)
+            return false;
+        auto& window = static_cast<QWidget&>(*watched);
+        window.setStyleSheet({});
+        window.setFont(QApplication::font());
+        for (auto* const widget : window.findChildren<QWidget*>())
+            QCoreApplication::sendEvent(widget, event);
+        window.setStyleSheet(styleSheet(theme_));
+        return false;
+    }
+
+private:
+    const Theme& theme_;
+};
+
 } // namespace
 
 QColor Theme::colour(Token token) const
@@ -38,6 +66,7 @@ void Theme::dress(QWidget& window) const
         window.setPalette(paletteOf(*this));
         window.setStyleSheet(styleSheet(*this));
     };
+    new FontHandOn(*this, window);
     const auto changes = std::make_shared<Subscription>(look_.subscribe(apply));
     QObject::connect(&window, &QObject::destroyed, &window, [changes] { changes->reset(); });
 }

@@ -46,8 +46,8 @@ public:
     bool reducesMotion() const { return look_.value().reducesMotion; }
     QColor colour(Token token) const;
 
-    /// Dresses the window and all that is in it, now and whenever the look changes; until the end
-    /// of the window.
+    /// Dresses the window and all that is in it, now and whenever the look or the font of the
+    /// program changes; until the end of the window.
     void dress(QWidget& window) const;
 
     void setLook(const Look& look) { look_.set(look); }

@@ -1,5 +1,6 @@
 #include "app/linux/DesktopLook.h"
 
+#include <QApplication>
 #include <gtest/gtest.h>
 
 namespace brindlex {
@@ -35,6 +36,19 @@ TEST(fontFor, isNoLargerOrSmallerThanWindowsAreMadeFor)
 {
     EXPECT_EQ(fontFor({.font = {"A", 32}, .textScale = 3}, usualFont()).pointSizeF(), 32);
     EXPECT_EQ(fontFor({.font = {"A", 6}, .textScale = 0.5}, usualFont()).pointSizeF(), 6);
+}
+
+TEST(openingSize, growsWithTheWordsAsFarAsTheScreenGoes)
+{
+    constexpr QSize screen(2000, 1000);
+    const auto usual = QApplication::font();
+    QApplication::setFont(QFont(usual.family(), 20));
+    EXPECT_EQ(openingSize({600, 400}, screen), QSize(1200, 800));
+    EXPECT_EQ(openingSize({950, 500}, screen), QSize(1800, 900));
+    EXPECT_EQ(openingSize({600, 400}, QSize(640, 480)), QSize(600, 432));
+    QApplication::setFont(QFont(usual.family(), 9));
+    EXPECT_EQ(openingSize({600, 400}, screen), QSize(600, 400));
+    QApplication::setFont(usual);
 }
 
 } // namespace

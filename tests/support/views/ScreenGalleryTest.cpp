@@ -1,8 +1,12 @@
 #include "support/views/ScreenGallery.h"
 
 #include "support/views/AccessibleTree.h"
+#include "support/views/ScopedFont.h"
 #include "support/views/TextFit.h"
+#include "ui/controls/TextLabel.h"
+#include "ui/controls/TextSize.h"
 
+#include <QComboBox>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
@@ -60,6 +64,47 @@ TEST(ScreenGallery, hasRoomForLongerWords)
         ScreenGallery gallery(stretchedCatalogue());
         const auto window = gallery.show(name);
         EXPECT_EQ(textFaults(*window), std::vector<std::string>{}) << name;
+    }
+}
+
+TEST(ScreenGallery, hasRoomForWordsOfDoubleSize)
+{
+    const ScopedFont large(2);
+    for (const auto& language : {"en", "de", "zh-Hans"})
+        for (const auto& name : ScreenGallery::names()) {
+            ScreenGallery gallery{StringCatalogue(language)};
+            const auto window = gallery.show(name);
+            // Its bar has many words in one line; the others do with the room for usual words.
+            if (name == "logs")
+                window->resize(grownWithText(window->size()));
+            QApplication::processEvents();
+            EXPECT_EQ(textFaults(*window), std::vector<std::string>{}) << name << " " << language;
+        }
+}
+
+/// How large the words of a window are, in their order.
+std::vector<double> wordSizes(const QWidget& window)
+{
+    std::vector<double> sizes;
+    for (const auto* const widget : window.findChildren<QWidget*>())
+        if (dynamic_cast<const TextLabel*>(widget) || dynamic_cast<const QComboBox*>(widget))
+            sizes.push_back(widget->font().pointSizeF());
+    return sizes;
+}
+
+TEST(ScreenGallery, followsTheFontOfTheDesktop)
+{
+    for (const auto& name : ScreenGallery::names()) {
+        ScreenGallery gallery(StringCatalogue("en"));
+        const auto open = gallery.show(name);
+        const ScopedFont large(2);
+        QApplication::processEvents();
+        if (name == "logs")
+            open->resize(grownWithText(open->size()));
+        QApplication::processEvents();
+        EXPECT_EQ(textFaults(*open), std::vector<std::string>{}) << name;
+        ScreenGallery later(StringCatalogue("en"));
+        EXPECT_EQ(wordSizes(*open), wordSizes(*later.show(name))) << name;
     }
 }
 

@@ -24,5 +24,25 @@ TEST(TabStrip, keepsItsTabsInPlaceWhicheverIsSelected)
     EXPECT_GE(tabs.height(), 71);
 }
 
+TEST(TabStrip, keepsTheWordOfTheSelectedTabWhereThereIsNoRoomForAll)
+{
+    const Theme theme;
+    TabStrip tabs(theme);
+    for (const auto* name : {"A tab with a long name", "Another with a long name", "About"})
+        tabs.addTab(Glyph::general, name);
+    tabs.resize(tabs.sizeHint());
+    tabs.show();
+    const int selectedWidth = tabs.tabRect(1).width();
+    EXPECT_EQ(tabs.tabToolTip(0), "");
+
+    tabs.setCurrentIndex(1);
+    tabs.resize(tabs.minimumSizeHint());
+
+    EXPECT_EQ(tabs.tabRect(1).width(), selectedWidth);
+    EXPECT_LT(tabs.tabRect(0).width(), selectedWidth / 2);
+    EXPECT_LE(tabs.tabRect(2).right(), tabs.width());
+    EXPECT_EQ(tabs.tabToolTip(0), "A tab with a long name");
+}
+
 } // namespace
 } // namespace brindlex

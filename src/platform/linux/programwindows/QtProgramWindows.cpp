@@ -25,7 +25,8 @@ public:
         : owner_(owner), scene_(scene.id), number_(number), widget_(scene.make())
     {
         widget_->setWindowRole(QString::fromStdString(scene.identifier));
-        widget_->resize(scene.size);
+        if (!widget_->testAttribute(Qt::WA_Resized))
+            widget_->resize(scene.size);
         widget_->installEventFilter(this);
     }
     ~OpenWindow() override { widget_->removeEventFilter(this); }

@@ -25,7 +25,7 @@ public:
         std::string id{};
         /// The name under which the desktop knows the window (`WM_WINDOW_ROLE`).
         std::string identifier{};
-        /// In which it opens.
+        /// In which it opens, unless `make` gives it one.
         QSize size{};
         /// Makes the window, with its title, and does not show it.
         std::function<std::unique_ptr<QWidget>()> make{};
