@@ -10,6 +10,7 @@
 #include "catalogue/texts/GeneralTexts.h"
 #include "catalogue/texts/GuideTexts.h"
 #include "catalogue/texts/InputMethodTexts.h"
+#include "catalogue/texts/KeysTexts.h"
 #include "catalogue/texts/LogTableTexts.h"
 #include "catalogue/texts/LogsTexts.h"
 #include "catalogue/texts/MenubarTexts.h"
@@ -43,7 +44,7 @@ consteval auto joinedRows(const std::array<CatalogueRow, sizes>&... groups)
 inline constexpr auto catalogueTable = joinedRows(tabTexts, clipboardTexts, generalTexts,
     menubarTexts, ocrTexts, sharedTexts, finderTexts, inputMethodTexts, mouseTexts, aboutTexts,
     logsTexts, permissionsTexts, placeholderTexts, controlsTexts, chooserTexts, whyTexts,
-    updatesTexts, guideTexts, logTableTexts, aboutDetailTexts);
+    updatesTexts, guideTexts, logTableTexts, aboutDetailTexts, keysTexts);
 
 /// Where the key stands in the table; its size for a key that does not.
 constexpr std::size_t catalogueIndex(std::string_view key)

@@ -15,7 +15,7 @@ std::vector<std::string> keyCaps(const HotkeyCombo& combo, const KeyNaming& nami
     addIfHeld(ModifierSet::option, naming.modifiers.option);
     addIfHeld(ModifierSet::shift, naming.modifiers.shift);
     addIfHeld(ModifierSet::command, naming.modifiers.command);
-    caps.push_back(keyName(combo.keyCode, naming.characters));
+    caps.push_back(keyName(combo.keyCode, naming.characters, naming.words));
     return caps;
 }
 

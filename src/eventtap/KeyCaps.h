@@ -22,6 +22,7 @@ struct ModifierNames {
 struct KeyNaming {
     ModifierNames modifiers{};
     KeyCharacters characters{};
+    KeyWords words{};
 };
 
 /// The names of the keys to be held and pressed, one for each: control, option, shift, command,

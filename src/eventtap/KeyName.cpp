@@ -35,16 +35,27 @@ constexpr std::array<std::pair<std::int64_t, std::string_view>, 21> namedKeys{{
     {126, "Up"},
 }};
 
+std::string wordFor(std::string_view name, const KeyWords& words)
+{
+    const auto found = words.names.find(name);
+    return found == words.names.end() ? std::string(name) : found->second;
+}
+
+std::string wordForNumber(std::int64_t keyCode, const KeyWords& words)
+{
+    return words.ofNumber ? words.ofNumber(keyCode) : "Key " + std::to_string(keyCode);
+}
+
 } // namespace
 
-std::string keyName(std::int64_t keyCode, const KeyCharacters& characters)
+std::string keyName(std::int64_t keyCode, const KeyCharacters& characters, const KeyWords& words)
 {
     const auto named = std::find_if(
         namedKeys.begin(), namedKeys.end(), [&](const auto& row) { return row.first == keyCode; });
     if (named != namedKeys.end())
-        return std::string(named->second);
+        return wordFor(named->second, words);
     const auto written = uppercased(characters(keyCode));
-    return written.empty() ? "Key " + std::to_string(keyCode) : written;
+    return written.empty() ? wordForNumber(keyCode, words) : written;
 }
 
 std::string comboText(const HotkeyCombo& combo, const KeyCharacters& characters)

@@ -5,8 +5,8 @@
 namespace brindlex {
 namespace {
 
-const KeyNaming pcKeys{{"Ctrl", "Alt", "Shift", "Super"},
-    [](std::int64_t keyCode) { return keyCode == 0 ? std::string("a") : std::string(); }};
+const KeyNaming pcKeys{.modifiers = {"Ctrl", "Alt", "Shift", "Super"},
+    .characters = [](std::int64_t keyCode) { return std::string(keyCode == 0 ? "a" : ""); }};
 
 using Caps = std::vector<std::string>;
 
@@ -17,6 +17,15 @@ TEST(KeyCaps, nameTheModifiersInOneOrderBeforeTheKey)
 
     EXPECT_EQ(keyCaps({0, all}, pcKeys), (Caps{"Ctrl", "Alt", "Shift", "Super", "A"}));
     EXPECT_EQ(keyCaps({123, ModifierSet::option}, pcKeys), (Caps{"Alt", "Left"}));
+}
+
+TEST(KeyCaps, areInTheWordsOfAReader)
+{
+    auto german = pcKeys;
+    german.modifiers.control = "Strg";
+    german.words.names = {{"Left", "Links"}};
+
+    EXPECT_EQ(keyCaps({123, ModifierSet::control}, german), (Caps{"Strg", "Links"}));
 }
 
 TEST(KeyCaps, areOneForAKeyAlone) { EXPECT_EQ(keyCaps({96, {}}, pcKeys), (Caps{"F5"})); }

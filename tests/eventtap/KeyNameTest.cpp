@@ -36,6 +36,18 @@ TEST(KeyName, isTheNumberOfAKeyThatWritesNothing)
     EXPECT_EQ(keyName(-1, written), "Key -1");
 }
 
+TEST(KeyName, isInTheWordsOfAReader)
+{
+    const KeyWords words{{{"Left", "Links"}},
+        [](std::int64_t keyCode) { return "Taste " + std::to_string(keyCode); }};
+
+    EXPECT_EQ(keyName(123, written, words), "Links");
+    EXPECT_EQ(keyName(124, written, words), "Right");
+    EXPECT_EQ(keyName(96, written, words), "F5");
+    EXPECT_EQ(keyName(12, written, words), "É");
+    EXPECT_EQ(keyName(200, written, words), "Taste 200");
+}
+
 TEST(KeyName, standsBehindTheModifiers)
 {
     EXPECT_EQ(comboText({0, {}}, written), "A");

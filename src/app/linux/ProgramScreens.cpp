@@ -3,6 +3,7 @@
 #include "app/linux/DesktopLook.h"
 #include "applications/views/ApplicationChooser.h"
 #include "inputmethod/views/InputMethodSettingsScreen.h"
+#include "eventtap/views/KeysOfReader.h"
 #include "logviewer/views/LogWindow.h"
 #include "mouse/views/MouseSettingsScreen.h"
 #include "shell/views/AboutScreen.h"
@@ -19,10 +20,6 @@
 
 namespace brindlex {
 namespace {
-
-/// As they stand on the keys of a PC.
-const ModifierNames modifierNames{
-    .control = "Ctrl", .option = "Alt", .shift = "Shift", .command = "Super"};
 
 const std::vector<AboutLibrary> libraries{
     {"Qt", "LGPL-3.0"},
@@ -83,7 +80,7 @@ ProgramScreens::ProgramScreens(LinuxPlatform& linuxPlatform, SharedInstances& sh
 KeyRecording ProgramScreens::keyRecording()
 {
     return {shared_.globalEventTap(), platform_.activation,
-        {modifierNames, linuxPlatform_.keyCharacters()}};
+        keysOfReader(context(), linuxPlatform_.keyCharacters())};
 }
 
 void ProgramScreens::present(const WindowScene& scene)

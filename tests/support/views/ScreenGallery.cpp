@@ -1,6 +1,7 @@
 #include "support/views/ScreenGallery.h"
 
 #include "applications/views/ApplicationChooser.h"
+#include "eventtap/views/KeysOfReader.h"
 #include "inputmethod/views/InputMethodSettingsScreen.h"
 #include "logviewer/views/LogWindow.h"
 #include "mouse/views/MouseSettingsScreen.h"
@@ -50,7 +51,7 @@ std::unique_ptr<QWidget> ScreenGallery::show(const std::string& name)
 KeyRecording ScreenGallery::recording()
 {
     return {tap, computer.activation,
-        {{"Ctrl", "Alt", "Shift", "Super"}, [](std::int64_t) { return std::string("t"); }}};
+        keysOfReader(context(), [](std::int64_t) { return std::string("t"); })};
 }
 
 void ScreenGallery::fill()
