@@ -16,6 +16,7 @@
 #include "platform/linux/panels/X11ApplicationOpening.h"
 #include "platform/linux/programwindows/X11ActivationPolicy.h"
 #include "platform/linux/system/DBusSessionLock.h"
+#include "platform/linux/tray/ProgramIcon.h"
 #include "platform/linux/tray/TrayStatusItem.h"
 #include "platform/linux/windows/RandRDisplayLink.h"
 #include "platform/linux/windows/X11DisplayScale.h"
@@ -23,6 +24,8 @@
 #include "platform/linux/windows/X11StartupIdentifier.h"
 #include "platform/linux/windows/X11WindowList.h"
 #include "platform/posix/PosixLanguages.h"
+
+#include <QGuiApplication>
 
 #include <cstdlib>
 #include <memory>
@@ -112,6 +115,17 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
     };
 }
 
+namespace {
+
+/// Windows have the program's icon from the first one on; without a window nobody needs it.
+void giveWindowsTheirIcon()
+{
+    if (QGuiApplication::windowIcon().isNull())
+        QGuiApplication::setWindowIcon(programIcon());
+}
+
+} // namespace
+
 Subscription LinuxPlatform::addWindowScene(
     const WindowScene& scene, std::function<std::unique_ptr<QWidget>()> make)
 {
@@ -119,7 +133,11 @@ Subscription LinuxPlatform::addWindowScene(
         .id = std::string(scene.id),
         .identifier = windowIdentifier(scene.id),
         .size = {scene.width, scene.height},
-        .make = std::move(make),
+        .make =
+            [make = std::move(make)] {
+                giveWindowsTheirIcon();
+                return make();
+            },
     });
 }
 

@@ -1,6 +1,7 @@
 #include "app/linux/ProgramScreens.h"
 
 #include "app/linux/DesktopLook.h"
+#include "app/linux/ProgramLinks.h"
 #include "applications/views/ApplicationChooser.h"
 #include "inputmethod/views/InputMethodSettingsScreen.h"
 #include "eventtap/views/KeysOfReader.h"
@@ -29,12 +30,19 @@ const std::vector<AboutLibrary> libraries{
     {"libxcb, libX11", "X11"},
     {"libxkbcommon", "MIT"},
     {"systemd", "LGPL-2.1"},
+    {"xcb-util-renderutil", "X11"},
 };
 
 /// In its folder, by the file manager.
 void revealFile(const std::filesystem::path& file)
 {
     QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file.parent_path())));
+}
+
+/// In the browser, or whatever the desktop opens such an address with.
+void openAddress(const std::string& address)
+{
+    QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
 }
 
 /// In the size in which it opens.
@@ -151,11 +159,8 @@ QWidget* ProgramScreens::makeMouse()
 
 QWidget* ProgramScreens::makeAbout()
 {
-    return new AboutScreen(context(), {platform_.program, {}, libraries},
-        {[](const std::string& address) {
-             QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
-         },
-            [this] { present(windowScene::logs); }});
+    return new AboutScreen(context(), {platform_.program, programLinks(), libraries},
+        {openAddress, [this] { present(windowScene::logs); }});
 }
 
 } // namespace brindlex

@@ -10,7 +10,7 @@
 namespace {
 
 /// What panels are made for, and twice the usual ones.
-constexpr std::array sizes{16, 22, 24, 32, 44, 48, 64};
+constexpr std::array sizes{16, 22, 24, 32, 44, 48, 64, 128};
 
 QImage drawing(const QString& file, int size)
 {

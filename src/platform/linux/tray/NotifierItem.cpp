@@ -5,6 +5,9 @@
 namespace brindlex {
 namespace {
 
+/// Larger ones are for windows.
+constexpr int largestOfPanels = 64;
+
 /// Where hosts look for an item of which they know the bus name alone.
 QString notifierPath() { return QStringLiteral("/StatusNotifierItem"); }
 
@@ -34,7 +37,8 @@ NotifierPictures NotifierItem::pictures() const
 {
     NotifierPictures pictures;
     for (const auto& picture : iconPictures())
-        pictures.push_back(notifierPicture(picture));
+        if (picture.size <= largestOfPanels)
+            pictures.push_back(notifierPicture(picture));
     return pictures;
 }
 

@@ -25,13 +25,13 @@ double contrast(QColor one, QColor other)
     return (high + 0.05) / (low + 0.05);
 }
 
-TEST(TrayPicture, isDrawnInTheSizesOfPanels)
+TEST(TrayPicture, isDrawnInTheSizesOfPanelsAndWindows)
 {
     std::vector<int> sizes;
     for (const auto& picture : iconPictures())
         sizes.push_back(picture.size);
 
-    EXPECT_EQ(sizes, (std::vector{16, 22, 24, 32, 44, 48, 64}));
+    EXPECT_EQ(sizes, (std::vector{16, 22, 24, 32, 44, 48, 64, 128}));
 }
 
 TEST(TrayPicture, hasTheSizeThatIsWanted)
