@@ -40,6 +40,8 @@ bool isAddressCharacter(char character)
         || (character >= 'A' && character <= 'Z') || marks.find(character) != marks.npos;
 }
 
+} // namespace
+
 bool isSecureAddress(const std::string& address)
 {
     constexpr std::string_view scheme = "https://";
@@ -51,8 +53,6 @@ bool isSecureAddress(const std::string& address)
     // A name before "@" is there to be taken for the host.
     return !host.empty() && host.find('@') == host.npos;
 }
-
-} // namespace
 
 Result<UpdateFeed, JsonProblem> decodeUpdateFeed(std::string_view text)
 {

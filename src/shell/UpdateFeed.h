@@ -33,8 +33,12 @@ struct UpdateFeed {
     }
 };
 
+/// Whether it is an address of HTTPS that names no user and has no characters but those of
+/// addresses, 2048 of them at the most.
+bool isSecureAddress(const std::string& address);
+
 /// Reads the text of a feed. A problem is a text of any other form, a day that no calendar has, and
-/// an address that is not of HTTPS, names a user or has characters that no address has.
+/// an address that is not secure.
 Result<UpdateFeed, JsonProblem> decodeUpdateFeed(std::string_view text);
 
 /// The text that `decodeUpdateFeed` reads.

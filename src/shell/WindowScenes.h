@@ -21,12 +21,14 @@ namespace windowScene {
 inline constexpr WindowScene main{"main", 650, 540};
 inline constexpr WindowScene logs{"logs", 820, 520};
 inline constexpr WindowScene permissions{"permissions", 760, 560};
+/// With what is new; without it the window is as high as its words need.
+inline constexpr WindowScene update{"update", 480, 420};
 
 } // namespace windowScene
 
 /// All of them, in their order.
 inline constexpr std::array windowScenes{
-    windowScene::main, windowScene::logs, windowScene::permissions};
+    windowScene::main, windowScene::logs, windowScene::permissions, windowScene::update};
 
 /// The name under which the desktop knows the window of a scene. The auxiliary windows, all but the
 /// main one, share a prefix.

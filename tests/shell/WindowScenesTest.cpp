@@ -5,11 +5,11 @@
 namespace brindlex {
 namespace {
 
-TEST(WindowScenes, areThreeInTheirOrderAndSizes)
+TEST(WindowScenes, areInTheirOrderAndSizes)
 {
     EXPECT_EQ(windowScenes,
         (std::array{WindowScene{"main", 650, 540}, WindowScene{"logs", 820, 520},
-            WindowScene{"permissions", 760, 560}}));
+            WindowScene{"permissions", 760, 560}, WindowScene{"update", 480, 420}}));
 }
 
 TEST(WindowScenes, nameTheirWindows)

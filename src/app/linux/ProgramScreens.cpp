@@ -3,8 +3,8 @@
 #include "app/linux/DesktopLook.h"
 #include "app/linux/ProgramLinks.h"
 #include "applications/views/ApplicationChooser.h"
-#include "inputmethod/views/InputMethodSettingsScreen.h"
 #include "eventtap/views/KeysOfReader.h"
+#include "inputmethod/views/InputMethodSettingsScreen.h"
 #include "logviewer/views/LogWindow.h"
 #include "mouse/views/MouseSettingsScreen.h"
 #include "shell/views/AboutScreen.h"
@@ -83,7 +83,14 @@ ProgramScreens::ProgramScreens(LinuxPlatform& linuxPlatform, SharedInstances& sh
         linuxPlatform.addWindowScene(windowScene::logs, [this] { return makeLogWindow(); }));
     scenes_.push_back(linuxPlatform.addWindowScene(
         windowScene::permissions, [this] { return makePermissionGuide(); }));
+    scenes_.push_back(
+        linuxPlatform.addWindowScene(windowScene::update, [this] { return makeUpdateDialog(); }));
+    shared.softwareUpdateManager().onResult = [this](const UpdateCheckResult::Any& result) {
+        showUpdate(updateMessage(result, platform_.program, shared_.strings()));
+    };
 }
+
+ProgramScreens::~ProgramScreens() { shared_.softwareUpdateManager().onResult = nullptr; }
 
 KeyRecording ProgramScreens::keyRecording()
 {
@@ -94,6 +101,15 @@ KeyRecording ProgramScreens::keyRecording()
 void ProgramScreens::present(const WindowScene& scene)
 {
     shared_.windows().auxiliaryWindows().present(std::string(scene.id));
+}
+
+/// The message takes the place of one that is still there.
+void ProgramScreens::showUpdate(const UpdateMessage& message)
+{
+    update_ = message;
+    if (updateDialog_)
+        updateDialog_->setMessage(message);
+    present(windowScene::update);
 }
 
 void ProgramScreens::chooseApplication(std::function<void(const std::filesystem::path&)> chosen)
@@ -135,7 +151,15 @@ std::unique_ptr<QWidget> ProgramScreens::makeLogWindow()
 
 std::unique_ptr<QWidget> ProgramScreens::makePermissionGuide()
 {
-    return std::make_unique<PermissionGuideScreen>(context(), models().permissions);
+    return sized(std::make_unique<PermissionGuideScreen>(context(), models().permissions),
+        windowScene::permissions);
+}
+
+std::unique_ptr<QWidget> ProgramScreens::makeUpdateDialog()
+{
+    auto dialog = std::make_unique<UpdateDialog>(context(), update_, openAddress);
+    updateDialog_ = dialog.get();
+    return dialog;
 }
 
 QWidget* ProgramScreens::makeGeneral()

@@ -11,7 +11,10 @@
 #include "mouse/MouseSettings.h"
 #include "shell/GeneralSettings.h"
 #include "shell/PermissionGuide.h"
+#include "shell/views/UpdateDialog.h"
 #include "ui/controls/ViewContext.h"
+
+#include <QPointer>
 
 #include <vector>
 
@@ -25,6 +28,9 @@ namespace brindlex {
 class ProgramScreens {
 public:
     ProgramScreens(LinuxPlatform& linuxPlatform, SharedInstances& shared);
+    ~ProgramScreens();
+    ProgramScreens(const ProgramScreens&) = delete;
+    ProgramScreens& operator=(const ProgramScreens&) = delete;
 
 private:
     /// What the screens are views of.
@@ -43,12 +49,14 @@ private:
     Models& models() { return models_.get(platform_, shared_); }
     KeyRecording keyRecording();
     void present(const WindowScene& scene);
+    void showUpdate(const UpdateMessage& message);
     void chooseApplication(std::function<void(const std::filesystem::path&)> chosen);
     QIcon pictureOf(const std::filesystem::path& bundle);
 
     std::unique_ptr<QWidget> makeMainWindow();
     std::unique_ptr<QWidget> makeLogWindow();
     std::unique_ptr<QWidget> makePermissionGuide();
+    std::unique_ptr<QWidget> makeUpdateDialog();
     QWidget* makeGeneral();
     QWidget* makeKeyboard();
     QWidget* makeMouse();
@@ -61,6 +69,8 @@ private:
     Subscription appearance_;
     ApplicationRecency recency_;
     MadeOnFirstUse<Models> models_;
+    UpdateMessage update_;
+    QPointer<UpdateDialog> updateDialog_;
     std::vector<Subscription> scenes_;
 };
 

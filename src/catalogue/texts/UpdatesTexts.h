@@ -9,9 +9,11 @@ namespace brindlex {
 /// The answer to a check for updates.
 inline constexpr auto updatesTexts = std::to_array<CatalogueRow>({
     {"updates.checking", "Checking for updates…"},
+    {"updates.close", "Close"},
     {"updates.current", "Brindlex is up to date"},
     {"updates.currentDetailFormat", "Version %@ is the newest one."},
     {"updates.failed", "Could not check for updates"},
+    {"updates.installedDetailFormat", "You have version %@."},
     {"updates.newerDetailFormat", "You have version %@. The new one is from %@."},
     {"updates.newerFormat", "Version %@ is available"},
     {"updates.notes", "What is new"},

@@ -24,6 +24,12 @@ QLineEdit {
 }
 QLineEdit:focus { border: 2px solid @accentText@; padding: 0 6px; }
 
+QPlainTextEdit {
+    background: @card@; border: 1px solid @line@; border-radius: 8px; padding: 5px 5px 5px 9px;
+    color: @text@; selection-background-color: @accent@; selection-color: white;
+}
+QPlainTextEdit:focus { border: 2px solid @accentText@; padding: 4px 4px 4px 8px; }
+
 QComboBox, QPushButton {
     background: @soft@; border: 2px solid transparent; border-radius: 6px; color: @text@;
     min-height: 24px;

@@ -11,6 +11,7 @@
 #include "shell/views/GeneralScreen.h"
 #include "shell/views/MainWindow.h"
 #include "shell/views/PermissionGuideScreen.h"
+#include "shell/views/UpdateDialog.h"
 
 #include <QApplication>
 
@@ -37,7 +38,8 @@ ScreenGallery::ScreenGallery(StringCatalogue catalogue, Brightness brightness)
 std::vector<std::string> ScreenGallery::names()
 {
     return {"general", "keyboard", "keyboard-empty", "mouse", "mouse-empty", "dictation", "about",
-        "logs", "chooser", "permissions", "permissions-missing"};
+        "logs", "chooser", "permissions", "permissions-missing", "update", "update-current",
+        "update-failed"};
 }
 
 std::unique_ptr<QWidget> ScreenGallery::show(const std::string& name)
@@ -83,8 +85,25 @@ void ScreenGallery::noteOverriddenSwitch(const std::string& bundleID)
     reasons.noteEvent(SwitchEvent::InputSourceChanged{}, state, now);
 }
 
+UpdateMessage ScreenGallery::updateMessageOf(const std::string& name) const
+{
+    const ProgramBundle program{.name = "Brindlex", .shortVersion = "1.1.0"};
+    const UpdateFeed feed{
+        {1, 2, 0, {}, ""}, "2026-11-22", "Faster switching.\nMore browsers.", "https://a.example"};
+    if (name == "update-current")
+        return updateMessage(UpdateCheckResult::Current{}, program, strings);
+    if (name == "update-failed")
+        return updateMessage(UpdateCheckResult::Failed{UpdateCheckResult::Reason::unreachable,
+                                 "SSL peer certificate or SSH remote key was not OK"},
+            program, strings);
+    return updateMessage(UpdateCheckResult::Newer{feed}, program, strings);
+}
+
 std::unique_ptr<QWidget> ScreenGallery::make(const std::string& name)
 {
+    if (name.starts_with("update"))
+        return std::make_unique<UpdateDialog>(
+            context(), updateMessageOf(name), [](const std::string&) {});
     if (name == "logs") {
         auto window = std::make_unique<LogWindow>(
             context(), computer.mainThread, [](const std::filesystem::path&) {});

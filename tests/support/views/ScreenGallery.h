@@ -9,6 +9,7 @@
 #include "platform/simulated/SimulatedComputer.h"
 #include "shell/GeneralSettings.h"
 #include "shell/PermissionGuide.h"
+#include "shell/UpdateMessage.h"
 #include "support/basics/RecordedLog.h"
 #include "support/basics/TemporaryFolder.h"
 #include "ui/controls/ViewContext.h"
@@ -60,6 +61,7 @@ public:
 private:
     void fill();
     void noteOverriddenSwitch(const std::string& bundleID);
+    UpdateMessage updateMessageOf(const std::string& name) const;
     std::unique_ptr<QWidget> make(const std::string& name);
 };
 
