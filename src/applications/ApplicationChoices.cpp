@@ -2,6 +2,7 @@
 
 #include "applications/FoldedText.h"
 #include "foundation/Text.h"
+#include "platform/ApplicationIdentifiers.h"
 
 #include <algorithm>
 #include <iterator>
@@ -40,6 +41,16 @@ std::vector<ApplicationChoice> applicationChoices(
     for (auto& [rank, choice] : ranked)
         choices.push_back(std::move(choice));
     return choices;
+}
+
+std::optional<std::filesystem::path> pathToChoose(const RunningApplication& application)
+{
+    if (application.bundlePath)
+        return application.bundlePath;
+    const auto& identifier = application.bundleIdentifier;
+    if (identifier && isMadeOfWindow(*identifier))
+        return *identifier;
+    return {};
 }
 
 std::vector<ApplicationChoice> matchingChoices(

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "platform/ApplicationBundles.h"
+#include "platform/RunningApplications.h"
 
 #include <filesystem>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
@@ -32,6 +34,10 @@ struct ApplicationUse {
 /// the last one first, then the running ones and then all others by name.
 std::vector<ApplicationChoice> applicationChoices(
     const std::vector<InstalledApplication>& installed, const ApplicationUse& use);
+
+/// The path by which an application is chosen that runs: of its bundle, else the identifier that is
+/// made of its windows; nothing for one that rules would not know again.
+std::optional<std::filesystem::path> pathToChoose(const RunningApplication& application);
 
 /// Those whose name has each word of the query, without regard to case and accents, in their order.
 std::vector<ApplicationChoice> matchingChoices(

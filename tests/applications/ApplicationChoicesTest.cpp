@@ -52,5 +52,20 @@ TEST(ApplicationChoices, matchByWordsWithoutCaseAndAccents)
     EXPECT_EQ(namesOf(matchingChoices(choices, "nothing")), Names{});
 }
 
+TEST(ApplicationChoices, haveAPathForWhatRulesKnowAgain)
+{
+    const auto pathOf = [](const std::optional<std::string>& identifier,
+                            const std::optional<std::filesystem::path>& bundle) {
+        return pathToChoose({.bundleIdentifier = identifier, .bundlePath = bundle});
+    };
+    using Path = std::optional<std::filesystem::path>;
+
+    EXPECT_EQ(pathOf("org.mail", "/apps/mail"), Path("/apps/mail"));
+    EXPECT_EQ(pathOf("wmclass:Strange", {}), Path("wmclass:Strange"));
+    EXPECT_EQ(pathOf("exe:strange", {}), Path("exe:strange"));
+    EXPECT_EQ(pathOf("unnamed:1:2", {}), Path());
+    EXPECT_EQ(pathOf({}, {}), Path());
+}
+
 } // namespace
 } // namespace brindlex

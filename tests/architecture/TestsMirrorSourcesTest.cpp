@@ -15,7 +15,8 @@ namespace {
 const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheirOwn{
     {"the contract tests of its ability",
         {"CurlFetch", "DesktopApplicationBundles", "FetchMain", "Fcitx5InputSources",
-            "IBusInputSources", "PosixClock", "QtProgramActivation", "XkbInputSources"}},
+            "IBusInputSources", "PosixClock", "QtProgramActivation", "X11WindowPick",
+            "X11WindowPicking", "XkbInputSources"}},
     {"the desktop tests, with the whole program",
         {"LinuxEntry", "LinuxPlatform", "LinuxSession", "ProgramScreens", "main"}},
     {"the tests of what hangs, with the watchdog as a process",

@@ -102,5 +102,15 @@ TYPED_TEST(ApplicationBundlesContract, listsWhatIsInstalledNow)
     EXPECT_TRUE(this->installation.bundles().installed().empty());
 }
 
+TEST(DesktopApplicationBundles, haveWhatHasNoEntryByWhatItsWindowsSay)
+{
+    DesktopInstallation installation;
+
+    EXPECT_EQ(installation.bundles().bundle("wmclass:Strange"),
+        (ApplicationBundle{.identifier = "wmclass:Strange", .name = "Strange"}));
+    EXPECT_EQ(installation.bundles().bundle("exe:strange:2"),
+        (ApplicationBundle{.identifier = "exe:strange:2", .name = "strange:2"}));
+}
+
 } // namespace
 } // namespace brindlex

@@ -5,6 +5,7 @@
 #include "app/linux/SessionOffer.h"
 #include "app/linux/X11Session.h"
 #include "eventtap/KeyName.h"
+#include "foundation/MadeOnFirstUse.h"
 #include "foundation/Subscription.h"
 #include "platform/Platform.h"
 #include "platform/linux/accessibility/AccessibilitySwitch.h"
@@ -15,6 +16,7 @@
 #include "platform/linux/applications/XdgLoginItem.h"
 #include "platform/linux/network/FetcherHttpReading.h"
 #include "platform/linux/panels/QtProgramActivation.h"
+#include "platform/linux/panels/X11WindowPicking.h"
 #include "platform/linux/programwindows/QtProgramWindows.h"
 #include "platform/linux/system/PosixProcessLaunching.h"
 #include "platform/linux/system/PosixProgramRelaunching.h"
@@ -45,6 +47,9 @@ public:
 
     /// What keys write, by their virtual key codes.
     KeyCharacters keyCharacters();
+
+    /// Lets the user point at a window.
+    WindowPicking& windowPicking() { return windowPicking_.get(x11().applications); }
 
     /// How the user wants windows to look.
     const Observable<DesktopAppearance>& appearance() const { return appearance_.current(); }
@@ -83,6 +88,7 @@ private:
     std::shared_ptr<X11Session> x11_;
     LinuxAppearance appearance_;
     std::shared_ptr<QtProgramWindows> programWindows_;
+    MadeOnFirstUse<X11WindowPicking> windowPicking_;
     ProviderChoice providers_;
     Platform abilities_;
 };

@@ -117,8 +117,17 @@ void ProgramScreens::chooseApplication(std::function<void(const std::filesystem:
     auto* const chooser = new ApplicationChooser(
         context(), applicationChoices(platform_.bundles.installed(), recency_.use()),
         [this](const std::filesystem::path& bundle) { return pictureOf(bundle); },
-        std::move(chosen), QApplication::activeWindow());
+        [this](auto picked) { return pickWindow(std::move(picked)); }, std::move(chosen),
+        QApplication::activeWindow());
     chooser->open();
+}
+
+Subscription ProgramScreens::pickWindow(
+    std::function<void(const std::optional<std::filesystem::path>&)> picked)
+{
+    return linuxPlatform_.windowPicking().pick([picked = std::move(picked)](const auto& found) {
+        picked(found ? pathToChoose(*found) : std::nullopt);
+    });
 }
 
 QIcon ProgramScreens::pictureOf(const std::filesystem::path& bundle)

@@ -51,6 +51,8 @@ private:
     void present(const WindowScene& scene);
     void showUpdate(const UpdateMessage& message);
     void chooseApplication(std::function<void(const std::filesystem::path&)> chosen);
+    Subscription pickWindow(
+        std::function<void(const std::optional<std::filesystem::path>&)> picked);
     QIcon pictureOf(const std::filesystem::path& bundle);
 
     std::unique_ptr<QWidget> makeMainWindow();

@@ -81,9 +81,10 @@ private:
 };
 
 ApplicationChooser::ApplicationChooser(const ViewContext& context,
-    std::vector<ApplicationChoice> choices, Pictures pictures,
+    std::vector<ApplicationChoice> choices, Pictures pictures, Picking pick,
     std::function<void(const std::filesystem::path& bundle)> chosen, QWidget* parent)
-    : QDialog(parent), context_(context), choices_(std::move(choices)), chosen_(std::move(chosen)),
+    : QDialog(parent), context_(context), choices_(std::move(choices)), pick_(std::move(pick)),
+      chosen_(std::move(chosen)),
       search_(new SearchField(context.theme, context.text<"chooser.search">())),
       list_(new QListView), model_(new Model(context, std::move(pictures), this)),
       middle_(new QStackedWidget)
@@ -155,6 +156,12 @@ QWidget* ApplicationChooser::makeFoot()
     auto* const layout = new QHBoxLayout(foot);
     layout->setContentsMargins(margin, 0, margin, 0);
     layout->setSpacing(gap);
+    auto* const pick = makeButton(
+        context_.theme, ButtonRole::plain, context_.text<"chooser.pickWindow">(),
+        [this] { pickWindow(); }, Glyph::target);
+    pick->setToolTip(context_.text<"chooser.pickWindow.help">());
+    pick->setAccessibleDescription(pick->toolTip());
+    layout->addWidget(pick);
     layout->addStretch();
     layout->addWidget(makeButton(
         context_.theme, ButtonRole::plain, context_.text<"shared.cancel">(), [this] { reject(); }));
@@ -182,6 +189,22 @@ void ApplicationChooser::choose()
     const auto path = model_->at(current.row()).path;
     accept();
     chosen_(path);
+}
+
+void ApplicationChooser::pickWindow()
+{
+    hide();
+    picking_ = pick_([this](const auto& bundle) { notePicked(bundle); });
+}
+
+void ApplicationChooser::notePicked(const std::optional<std::filesystem::path>& bundle)
+{
+    picking_.reset();
+    if (!bundle)
+        return open();
+    // It is hidden, and so would not notice that it is closed.
+    deleteLater();
+    chosen_(*bundle);
 }
 
 } // namespace brindlex

@@ -59,6 +59,8 @@ const char* shapesOf(Glyph glyph)
         return "<path d='M20 12a8 8 0 1 1-2.5-5.8M20 3v5h-5'/>";
     case Glyph::search:
         return "<circle cx='11' cy='11' r='6'/><path d='m20 20-4.5-4.5'/>";
+    case Glyph::target:
+        return "<circle cx='12' cy='12' r='6'/><path d='M12 2v6M12 16v6M2 12h6M16 12h6'/>";
     case Glyph::trash:
         return "<path d='M5 7h14M9 7V4h6v3M7 7l1 13h8l1-13'/>";
     case Glyph::warning:

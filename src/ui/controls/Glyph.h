@@ -28,6 +28,7 @@ enum class Glyph {
     person,
     reload,
     search,
+    target,
     trash,
     warning,
 };

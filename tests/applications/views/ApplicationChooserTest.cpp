@@ -6,7 +6,10 @@
 #include <QKeyEvent>
 #include <QListView>
 #include <QPointer>
+#include <QPushButton>
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 namespace brindlex {
 namespace {
@@ -23,6 +26,10 @@ protected:
                 ++pictures;
                 return QIcon();
             },
+            [this](auto picked) {
+                pick = std::move(picked);
+                return Subscription([this] { ++endedPicks; });
+            },
             [this](const std::filesystem::path& bundle) { chosen.push_back(bundle); }, nullptr);
         chooser->open();
         QApplication::processEvents();
@@ -33,9 +40,19 @@ protected:
         QApplication::sendEvent(chooser->findChild<SearchField*>(), &event);
     }
 
+    QPushButton& button(const QString& name) const
+    {
+        for (auto* const each : chooser->findChildren<QPushButton*>())
+            if (each->accessibleName() == name)
+                return *each;
+        throw std::runtime_error("no such button");
+    }
+
     ScreenGallery gallery{StringCatalogue("en")};
     std::vector<std::filesystem::path> chosen;
     int pictures = 0;
+    std::function<void(const std::optional<std::filesystem::path>&)> pick;
+    int endedPicks = 0;
     QPointer<ApplicationChooser> chooser;
 };
 
@@ -59,6 +76,44 @@ TEST_F(ApplicationChooserTest, choosesNothingByEscape)
     EXPECT_TRUE(chosen.empty());
     QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(chooser.isNull());
+}
+
+TEST_F(ApplicationChooserTest, isOutOfTheWayWhileAWindowIsPicked)
+{
+    open({{"a", "Editor", "/a", false}});
+
+    button("Pick a Window").click();
+    EXPECT_FALSE(chooser->isVisible());
+    ASSERT_TRUE(pick);
+    pick("wmclass:Strange");
+
+    EXPECT_EQ(chosen, (std::vector<std::filesystem::path>{"wmclass:Strange"}));
+    EXPECT_EQ(endedPicks, 1);
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(chooser.isNull());
+}
+
+TEST_F(ApplicationChooserTest, comesBackWhenNoWindowIsPicked)
+{
+    open({{"a", "Editor", "/a", false}});
+    button("Pick a Window").click();
+
+    pick(std::nullopt);
+
+    EXPECT_TRUE(chooser->isVisible());
+    EXPECT_TRUE(chosen.empty());
+    press(Qt::Key_Return);
+    EXPECT_EQ(chosen, (std::vector<std::filesystem::path>{"/a"}));
+}
+
+TEST_F(ApplicationChooserTest, endsThePickWithItself)
+{
+    open({{"a", "Editor", "/a", false}});
+    button("Pick a Window").click();
+
+    delete chooser;
+
+    EXPECT_EQ(endedPicks, 1);
 }
 
 TEST_F(ApplicationChooserTest, drawsOnlyThePicturesThatCanBeSeenOfManyApplications)

@@ -126,7 +126,8 @@ std::unique_ptr<QWidget> ScreenGallery::make(const std::string& name)
             {{"org.example.Editor", "Editor", "/apps/editor", true},
                 {"org.example.Mail", "Mail", "/apps/mail", false}},
             [](const std::filesystem::path&) { return QIcon(); },
-            [](const std::filesystem::path&) {}, nullptr));
+            [](const auto&) { return Subscription(); }, [](const std::filesystem::path&) {},
+            nullptr));
     if (name == "keyboard") {
         inputMethod.addAppRule("/apps/editor");
         const auto id = inputMethod.addAppRule("/apps/mail");

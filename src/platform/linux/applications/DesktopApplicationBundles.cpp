@@ -1,6 +1,7 @@
 #include "platform/linux/applications/DesktopApplicationBundles.h"
 
 #include "foundation/Text.h"
+#include "platform/ApplicationIdentifiers.h"
 #include "platform/linux/applications/ApplicationIdentity.h"
 #include "platform/linux/applications/DesktopIcons.h"
 
@@ -12,6 +13,9 @@ DesktopApplicationBundles::DesktopApplicationBundles(DesktopEntries& entries)
 std::optional<ApplicationBundle> DesktopApplicationBundles::bundle(
     const std::filesystem::path& path) const
 {
+    if (isMadeOfWindow(path.native()))
+        return ApplicationBundle{
+            .identifier = path.native(), .name = path.native().substr(path.native().find(':') + 1)};
     if (!path.native().ends_with(".desktop"))
         return {};
     const auto entry = entries_.read(path);

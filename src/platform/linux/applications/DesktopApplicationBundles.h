@@ -6,7 +6,7 @@
 namespace brindlex {
 
 /// The applications that are installed, as their desktop entries say: a bundle's path is that of
-/// the entry.
+/// the entry. One that has none stands for itself, by the identifier that is made of its windows.
 class DesktopApplicationBundles final : public ApplicationBundles {
 public:
     explicit DesktopApplicationBundles(DesktopEntries& entries);

@@ -1,6 +1,6 @@
 #include "platform/linux/windows/X11WindowAtPoint.h"
 
-#include "platform/linux/windows/X11WindowReading.h"
+#include "platform/linux/windows/X11WindowKind.h"
 
 #include <algorithm>
 #include <cmath>
@@ -67,6 +67,23 @@ std::optional<X11WindowAtPoint> windowAt(X11Connection& connection, Point point)
         return X11WindowAtPoint{descriptions[index]->processIdentifier, *contents};
     }
     return {};
+}
+
+std::optional<X11WindowDescription> workWindowAt(X11Connection& connection, Point point)
+{
+    if (!connection.isAlive())
+        return {};
+    const auto windows = windowsAt(connection, point);
+    const auto managed = managedWindows(connection);
+    const auto found
+        = std::find_first_of(windows.begin(), windows.end(), managed.begin(), managed.end());
+    if (found == windows.end())
+        return {};
+    const X11WindowKinds kinds([&](std::string_view name) { return connection.atom(name); });
+    const auto kind = X11WindowKindRequest(connection, *found).kind(kinds);
+    if (kind.isDesktop || kind.isFurniture)
+        return {};
+    return describe(connection, {*found}).front();
 }
 
 } // namespace brindlex

@@ -10,6 +10,7 @@
 
 #include <limits>
 #include <memory>
+#include <unistd.h>
 
 namespace brindlex {
 namespace {
@@ -112,6 +113,29 @@ TEST_F(X11WindowAtPointTest, isNoneBesideTheScreen)
     for (const auto point : {Point{-1, -1}, Point{1280, 800}, Point{100'000, 50}, Point{far, far},
              Point{-far, -far}, Point{-65'536 + 100, 50}})
         EXPECT_EQ(windowAt(connection, point), Found()) << point.x;
+}
+
+TEST_F(X11WindowAtPointTest, isOneToWorkInWhateverItSaysOfItself)
+{
+    const auto window = open({100, 100, 200, 100}, {});
+    const auto found = workWindowAt(connection, middleOf(*window));
+
+    ASSERT_TRUE(found);
+    EXPECT_EQ(found->processIdentifier, ::getpid());
+    EXPECT_EQ(workWindowAt(connection, {900, 700}), std::nullopt);
+}
+
+TEST_F(X11WindowAtPointTest, isNoneToWorkInOnTheDesktopAndOnPanels)
+{
+    for (const auto* type : {"_NET_WM_WINDOW_TYPE_DESKTOP", "_NET_WM_WINDOW_TYPE_DOCK"}) {
+        const auto window = open({100, 100, 200, 100}, 41);
+        const auto atom = server.atom(type);
+        xcb_change_property(server.get(), XCB_PROP_MODE_REPLACE, window->window(),
+            server.atom("_NET_WM_WINDOW_TYPE"), XCB_ATOM_ATOM, 32, 1, &atom);
+        server.sync();
+
+        EXPECT_EQ(workWindowAt(connection, middleOf(*window)), std::nullopt) << type;
+    }
 }
 
 TEST_F(X11WindowAtPointTest, isNoneOnceTheServerHasGone)
