@@ -34,6 +34,15 @@ std::string entryValue(const Installation& installation, const std::string& key)
     return {};
 }
 
+/// Waits for the window of the program, which is in front of all others.
+bool hasWindowInFront()
+{
+    const XConnection server;
+    const DesktopWindows windows(server);
+    return eventually(
+        [&] { return windows.active() && windows.classOf(windows.active()) == "Brindlex"; });
+}
+
 std::vector<std::filesystem::path> filesOfChildren(pid_t process)
 {
     std::vector<std::filesystem::path> files;
@@ -85,6 +94,22 @@ TEST(InstalledProgram, isStartedByItsEntry)
 
     EXPECT_TRUE(running.launches()) << running.report();
     EXPECT_EQ(fileOf(running.process()), installation.programFolder() / "brindlex");
+    EXPECT_TRUE(hasWindowInFront()) << running.report();
+}
+
+TEST(InstalledProgram, isShownByItsEntryWhenTheDesktopHasStartedIt)
+{
+    VirtualDesktop desktop;
+    const auto installation = installFor(desktop);
+    desktop.setVariable("PATH", (installation.prefix() / "bin").string());
+    const RunningProgram running(desktop, {"--started-at-login"}, installation.program());
+    ASSERT_TRUE(running.launches()) << running.report();
+
+    const RunningProgram clicked(desktop, {}, entryValue(installation, "Exec"));
+
+    EXPECT_TRUE(hasWindowInFront()) << running.report();
+    EXPECT_EQ(clicked.child().waitForEnd(std::chrono::seconds(10)), (ProcessEnd{0, {}}));
+    EXPECT_TRUE(running.child().isRunning());
 }
 
 TEST(InstalledProgram, isStartedByTheBusUnderItsName)
@@ -106,6 +131,7 @@ TEST(InstalledProgram, isStartedByTheBusUnderItsName)
         const auto messages = ProgramFiles(desktop).logMessages();
         return std::ranges::count(messages, "Brindlex launched") == 1;
     }));
+    EXPECT_TRUE(hasWindowInFront()) << desktop.output();
 }
 
 TEST(InstalledProgram, doesNotStartAtLoginByItself)
