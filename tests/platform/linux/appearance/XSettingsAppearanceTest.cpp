@@ -8,7 +8,6 @@
 
 #include <gtest/gtest.h>
 
-#include <csignal>
 #include <optional>
 
 namespace brindlex {
@@ -80,11 +79,15 @@ TEST_F(XSettingsAppearanceTest, outlivesWhatIsNoSettings)
 TEST_F(XSettingsAppearanceTest, followsARealManager)
 {
     const auto configuration = desktop.home() / "settings";
-    write(configuration, "Net/ThemeName \"Arc-Dark\"\nGtk/FontName \"Noto Sans Bold 12\"\n");
-    const ChildProcess daemon({.command = {"xsettingsd", "--config", configuration.string()}});
-    EXPECT_TRUE(becomes({.isDark = true, .font = DesktopFont{"Noto Sans", 12, 700}}));
+    const ChildProcess::Start daemon{.command = {"xsettingsd", "--config", configuration.string()}};
+    {
+        write(configuration, "Net/ThemeName \"Arc-Dark\"\nGtk/FontName \"Noto Sans Bold 12\"\n");
+        const ChildProcess first(daemon);
+        EXPECT_TRUE(becomes({.isDark = true, .font = DesktopFont{"Noto Sans", 12, 700}}));
+    }
+    EXPECT_TRUE(becomes({}));
     write(configuration, "Net/ThemeName \"Arc\"\nGtk/EnableAnimations 0\nXft/DPI 98304\n");
-    daemon.signal(SIGHUP);
+    const ChildProcess second(daemon);
     EXPECT_TRUE(becomes({.isDark = false, .reducesMotion = true, .textScale = 1}));
 }
 
