@@ -15,7 +15,7 @@ constexpr std::int64_t keyF5 = 96;
 
 bool storesKey(const ProgramFiles& files, std::int64_t keyCode)
 {
-    const auto stored = "\"keyCode\":" + std::to_string(keyCode) + ",";
+    const auto stored = "\"keyCode\":" + std::to_string(keyCode);
     return files.readRecord("mouseConfig").dump().find(stored) != std::string::npos;
 }
 
@@ -39,11 +39,14 @@ TEST(KeyRecording, takesAKeyInFrontAndLeavesThoseOfOthersAlone)
 
     EventLogWindow other("Other", {0, 0, 300, 200});
     ASSERT_TRUE(desk.windows.activate(other.id()));
+    // The program has noticed.
+    desk.settle();
     desk.keyboard.stroke(keycode::a);
     EXPECT_TRUE(desk.receives(other, {"key 38 down", "key 38 up"})) << desk.program->report();
     EXPECT_TRUE(storesKey(desk.files, keyF5));
 
     ASSERT_TRUE(desk.windows.activate(settings));
+    desk.settle();
     desk.keyboard.stroke(keycode::t);
     EXPECT_TRUE(eventually([&] { return storesKey(desk.files, keyT); })) << desk.program->report();
     EXPECT_TRUE(controls.find("push button", "Custom Shortcut: T")) << controls.report();

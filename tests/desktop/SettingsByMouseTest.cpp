@@ -45,6 +45,19 @@ protected:
             desk.input.click(area->centreX(), area->centreY());
         return area.has_value();
     }
+    /// Turns the wheel until the control is to be seen, and clicks it.
+    bool scrollAndClick(const std::string& role, const std::string& name) const
+    {
+        constexpr int wheelDown = 5;
+        constexpr int intoTheMargin = 10;
+        const auto window = desk.windows.areaOf(desk.windows.active());
+        return eventually([&] {
+            if (controls->findNow(role, name))
+                return true;
+            desk.input.click(window.x + intoTheMargin, window.centreY(), wheelDown);
+            return false;
+        }) && click(role, name);
+    }
     json list(const std::string& key) const
     {
         const auto record = desk.files.readRecord("inputMethodConfig");
@@ -81,13 +94,13 @@ TEST_F(SettingsByMouse, addARuleForAnApplicationThatActsAtOnce)
 TEST_F(SettingsByMouse, addARuleForAWebsiteThatActsAtOnce)
 {
     open("Keyboard");
-    ASSERT_TRUE(click("check box", "Enable website switching")) << controls->report();
-    ASSERT_TRUE(click("text", "Domain or URL")) << controls->report();
+    ASSERT_TRUE(scrollAndClick("check box", "Enable website switching")) << controls->report();
+    ASSERT_TRUE(scrollAndClick("text", "Domain or URL")) << controls->report();
     desk.input.type("www.example.org/page");
-    ASSERT_TRUE(click(button, "Add Website")) << controls->report();
+    ASSERT_TRUE(scrollAndClick(button, "Add Website")) << controls->report();
     ASSERT_TRUE(eventually([&] { return list("domainRules").size() == 1; })) << program->report();
     EXPECT_EQ(list("domainRules")[0]["domainSuffix"], "example.org");
-    ASSERT_TRUE(click(combo, "English (US)")) << controls->report();
+    ASSERT_TRUE(scrollAndClick(combo, "English (US)")) << controls->report();
     ASSERT_TRUE(click(listItem, "German")) << controls->report();
     ASSERT_TRUE(eventually([&] { return list("domainRules")[0]["inputSourceID"] == german; }))
         << program->report();

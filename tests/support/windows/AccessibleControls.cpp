@@ -30,11 +30,19 @@ std::optional<ScreenArea> AccessibleControls::find(
 {
     std::optional<ScreenArea> area;
     eventually([&] {
-        visitAll([&](const Object& object) {
-            if (roleOf(object) == role && nameOf(object).starts_with(name))
-                area = areaOf(object);
-            return area.has_value();
-        });
+        area = findNow(role, name);
+        return area.has_value();
+    });
+    return area;
+}
+
+std::optional<ScreenArea> AccessibleControls::findNow(
+    const std::string& role, const std::string& name) const
+{
+    std::optional<ScreenArea> area;
+    visitAll([&](const Object& object) {
+        if (roleOf(object) == role && nameOf(object).starts_with(name))
+            area = areaOf(object);
         return area.has_value();
     });
     return area;

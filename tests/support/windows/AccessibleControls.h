@@ -21,6 +21,8 @@ public:
     /// Waits until there is a control of the role, such as "push button", whose name begins so, on
     /// the screen; where it is.
     std::optional<ScreenArea> find(const std::string& role, const std::string& name) const;
+    /// The same without waiting.
+    std::optional<ScreenArea> findNow(const std::string& role, const std::string& name) const;
 
     /// Waits until anything in the windows has a name that begins so.
     bool says(const std::string& beginning) const;
