@@ -16,4 +16,7 @@ struct Distribution {
 
 Distribution distributionOf(std::vector<double> values);
 
+/// Prints it in a line, behind what was measured.
+void printDistribution(const char* what, std::vector<double> values, const char* unit);
+
 } // namespace brindlex

@@ -8,6 +8,7 @@
 
 #include "Distribution.h"
 #include "GroupWitness.h"
+#include "ProcessStatus.h"
 #include "support/basics/Eventually.h"
 #include "support/hardware/KeyboardGroup.h"
 #include "support/processes/ProgramFiles.h"
@@ -22,7 +23,6 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <fstream>
 #include <memory>
 #include <string>
 #include <thread>
@@ -38,34 +38,6 @@ double millisecondsSince(Clock::time_point start)
     return std::chrono::duration<double, std::milli>(Clock::now() - start).count();
 }
 
-void report(const char* what, std::vector<double> values, const char* unit)
-{
-    const auto all = distributionOf(std::move(values));
-    std::printf("%-44s median %8.3f  p99 %8.3f  min %8.3f  max %8.3f  %s, n %zu\n", what,
-        all.median, all.worstOfHundred, all.least, all.most, unit, all.count);
-}
-
-/// The number behind a key in one of the process's files under /proc.
-long processValue(int process, const std::string& file, const std::string& key)
-{
-    std::ifstream stream("/proc/" + std::to_string(process) + "/" + file);
-    for (std::string line; std::getline(stream, line);)
-        if (line.starts_with(key))
-            return std::strtol(line.c_str() + key.size(), nullptr, 10);
-    return 0;
-}
-
-/// Wake-ups of all threads of the process.
-long voluntarySwitches(int process)
-{
-    long sum = 0;
-    const auto threads = "/proc/" + std::to_string(process) + "/task";
-    for (const auto& thread : std::filesystem::directory_iterator(threads))
-        sum += processValue(process, "task/" + thread.path().filename().string() + "/status",
-            "voluntary_ctxt_switches:");
-    return sum;
-}
-
 void measureStart()
 {
     VirtualDesktop desktop;
@@ -79,7 +51,7 @@ void measureStart()
             milliseconds.push_back(millisecondsSince(start));
         program.quit();
     }
-    report("start to ready, warm", milliseconds, "ms");
+    printDistribution("start to ready, warm", milliseconds, "ms");
 }
 
 void measureIdle()
@@ -90,14 +62,12 @@ void measureIdle()
     program.launches();
     // It looks once, five seconds after its launch, whether a tray has taken its icon.
     std::this_thread::sleep_for(std::chrono::seconds(6));
-    const auto before = voluntarySwitches(program.process());
+    const auto before = sleepsOf(program.process());
     std::this_thread::sleep_for(std::chrono::seconds(seconds));
-    const auto wakes = voluntarySwitches(program.process()) - before;
-    const auto memory = [&](const char* key) {
-        return static_cast<double>(processValue(program.process(), "smaps_rollup", key)) / 1024;
-    };
-    std::printf("%-44s RSS %.1f MB  PSS %.1f MB  USS %.1f MB\n", "idle memory", memory("Rss:"),
-        memory("Pss:"), memory("Private_Clean:") + memory("Private_Dirty:"));
+    const auto wakes = sleepsOf(program.process()) - before;
+    const auto memory = memoryOf(program.process());
+    std::printf("%-44s RSS %.1f MB  PSS %.1f MB  USS %.1f MB\n", "idle memory", memory.resident,
+        memory.proportional, memory.unique);
     std::printf("%-44s %ld in %d s\n", "idle wake-ups of all threads", wakes, seconds);
 }
 
@@ -138,7 +108,7 @@ void measureActivation(int rounds)
             milliseconds.push_back(latency);
         std::this_thread::sleep_for(std::chrono::milliseconds(20));
     }
-    report("activation to source selected, XKB", milliseconds, "ms");
+    printDistribution("activation to source selected, XKB", milliseconds, "ms");
     std::printf("%-44s %d\n", "activations that were not followed", missed);
 }
 
