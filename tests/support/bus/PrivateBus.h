@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/basics/TemporaryFolder.h"
 #include "support/processes/ChildProcess.h"
 
 #include <optional>
@@ -21,6 +22,7 @@ public:
     void freeze();
 
 private:
+    TemporaryFolder folder_;
     std::optional<ChildProcess> daemon_;
     std::string address_;
 };

@@ -5,7 +5,6 @@
 #include "support/bus/BusConnection.h"
 #include "support/bus/PrivateBus.h"
 #include "support/loops/LoopUntil.h"
-#include "support/processes/CommandOutput.h"
 #include "support/screen/VirtualDesktop.h"
 
 #include <QDBusVariant>
@@ -61,10 +60,10 @@ TEST(AccessibilitySwitch, staysOnInTheSettingsOfTheDesktop)
     accessibility.request();
 
     EXPECT_TRUE(becomes(accessibility, State::on));
-    EXPECT_TRUE(eventually([] {
-        return outputOf({"dconf", "read", "/org/gnome/desktop/interface/toolkit-accessibility"})
-                   .text
-            == "true\n";
+    // Where the settings of the desktops of tests are kept.
+    const auto settings = desktop.configFolder() / "glib-2.0/settings/keyfile";
+    EXPECT_TRUE(eventually([&] {
+        return contentOf(settings).find("toolkit-accessibility=true") != std::string::npos;
     }));
 }
 
