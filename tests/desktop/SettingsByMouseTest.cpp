@@ -1,5 +1,4 @@
 #include "desktop/ProgramDesk.h"
-#include "support/browsers/WebBrowser.h"
 #include "support/tray/TrayHost.h"
 #include "support/windows/AccessibleControls.h"
 
@@ -16,14 +15,13 @@ constexpr auto listItem = "list item";
 constexpr auto tab = "page tab";
 
 /// The settings of the program as the user opens them from the tray, and then works with the mouse
-/// alone, except for words.
+/// alone.
 class SettingsByMouse : public testing::Test {
 protected:
-    void open(const std::string& selectedTab, json preferences = json::object())
+    void open()
     {
-        preferences["selectedMainWindowTab"] = selectedTab;
-        preferences["AppleLanguages"] = json::array({"en"});
-        desk.files.writePreferences(preferences);
+        desk.files.writePreferences(
+            {{"selectedMainWindowTab", "General"}, {"AppleLanguages", json::array({"en"})}});
         program.emplace(desk.desktop);
         ASSERT_TRUE(program->launches()) << program->report();
         controls.emplace(program->process());
@@ -45,23 +43,11 @@ protected:
             desk.input.click(area->centreX(), area->centreY());
         return area.has_value();
     }
-    /// Turns the wheel until the control is to be seen, and clicks it.
-    bool scrollAndClick(const std::string& role, const std::string& name) const
-    {
-        constexpr int wheelDown = 5;
-        constexpr int intoTheMargin = 10;
-        const auto window = desk.windows.areaOf(desk.windows.active());
-        return eventually([&] {
-            if (controls->findNow(role, name))
-                return true;
-            desk.input.click(window.x + intoTheMargin, window.centreY(), wheelDown);
-            return false;
-        }) && click(role, name);
-    }
-    json list(const std::string& key) const
+    /// The rules for applications as they are stored.
+    json rules() const
     {
         const auto record = desk.files.readRecord("inputMethodConfig");
-        return record.is_object() ? record.value(key, json::array()) : json::array();
+        return record.is_object() ? record.value("rules", json::array()) : json::array();
     }
 
     ProgramDesk desk{{.keyboardLayouts = "us,de,ru", .accessibility = true}};
@@ -72,47 +58,28 @@ protected:
 
 TEST_F(SettingsByMouse, addARuleForAnApplicationThatActsAtOnce)
 {
-    open("General");
+    open();
     ASSERT_TRUE(click(tab, "Keyboard"));
     ASSERT_TRUE(click(button, "Add App"));
     ASSERT_TRUE(isInFront("Choose an Application")) << program->report();
     ASSERT_TRUE(click(listItem, "Beta"));
     ASSERT_TRUE(click(button, "Choose"));
-    ASSERT_TRUE(eventually([&] { return list("rules").size() == 1; })) << program->report();
-    EXPECT_EQ(list("rules")[0]["app"]["bundleID"], identifierOf("Beta"));
+    ASSERT_TRUE(eventually([&] { return rules().size() == 1; })) << program->report();
+    EXPECT_EQ(rules()[0]["app"]["bundleID"], identifierOf("Beta"));
 
     ASSERT_TRUE(isInFront("Brindlex"));
     ASSERT_TRUE(click(combo, "English (US)")) << controls->report();
     ASSERT_TRUE(click(listItem, "German")) << controls->report();
-    ASSERT_TRUE(eventually([&] { return list("rules")[0]["inputSourceID"] == german; }))
+    ASSERT_TRUE(eventually([&] { return rules()[0]["inputSourceID"] == german; }))
         << program->report();
 
     const TypingWindow beta(desk.windows, "Beta");
     EXPECT_TRUE(desk.usesGroup(germanGroup)) << program->report();
 }
 
-TEST_F(SettingsByMouse, addARuleForAWebsiteThatActsAtOnce)
-{
-    open("Keyboard");
-    ASSERT_TRUE(scrollAndClick("check box", "Enable website switching")) << controls->report();
-    ASSERT_TRUE(scrollAndClick("text", "Domain or URL")) << controls->report();
-    desk.input.type("www.example.org/page");
-    ASSERT_TRUE(scrollAndClick(button, "Add Website")) << controls->report();
-    ASSERT_TRUE(eventually([&] { return list("domainRules").size() == 1; })) << program->report();
-    EXPECT_EQ(list("domainRules")[0]["domainSuffix"], "example.org");
-    ASSERT_TRUE(scrollAndClick(combo, "English (US)")) << controls->report();
-    ASSERT_TRUE(click(listItem, "German")) << controls->report();
-    ASSERT_TRUE(eventually([&] { return list("domainRules")[0]["inputSourceID"] == german; }))
-        << program->report();
-
-    const LocalWebServer web;
-    const WebBrowser browser(desk.desktop, desk.windows, web, "chromium", "www.example.org");
-    EXPECT_TRUE(desk.usesGroup(germanGroup)) << program->report();
-}
-
 TEST_F(SettingsByMouse, changeTheLanguageInWhichTheProgramComesBack)
 {
-    open("General");
+    open();
     ASSERT_TRUE(click(combo, "System Default")) << controls->report();
     ASSERT_TRUE(click(listItem, "Deutsch")) << controls->report();
 

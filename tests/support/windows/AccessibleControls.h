@@ -21,8 +21,6 @@ public:
     /// Waits until there is a control of the role, such as "push button", whose name begins so, on
     /// the screen; where it is.
     std::optional<ScreenArea> find(const std::string& role, const std::string& name) const;
-    /// The same without waiting.
-    std::optional<ScreenArea> findNow(const std::string& role, const std::string& name) const;
 
     /// Waits until anything in the windows has a name that begins so.
     bool says(const std::string& beginning) const;
@@ -38,6 +36,7 @@ private:
     /// Sees an object; whether the search ends with it.
     using Visitor = std::function<bool(const Object&)>;
 
+    std::optional<ScreenArea> findNow(const std::string& role, const std::string& name) const;
     bool visitAll(const Visitor& visit) const;
     bool visit(const Object& object, const Visitor& visit) const;
     std::vector<Object> childrenOf(const Object& object) const;
