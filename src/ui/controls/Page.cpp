@@ -72,6 +72,9 @@ Page::Page(const ViewContext& context, QWidget* parent)
         [this](const QWidget*, const QWidget* focused) { follow(focused); });
 }
 
+/// The focus leaves a window while it is destroyed, when this is a page no more.
+Page::~Page() { disconnect(qApp, nullptr, this, nullptr); }
+
 Card& Page::section(const QString& heading, const QString& second)
 {
     if (layout_->count() > 0)

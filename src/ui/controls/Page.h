@@ -19,6 +19,7 @@ class UndoBar;
 class Page : public QScrollArea {
 public:
     explicit Page(const ViewContext& context, QWidget* parent = nullptr);
+    ~Page() override;
 
     /// A card under a heading, with a line under that if there is one; without a heading it goes on
     /// with the card before it.
