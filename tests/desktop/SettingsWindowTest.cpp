@@ -117,27 +117,6 @@ TEST_F(SettingsWindow, addsARuleByTheKeyboardAloneThatActsAtOnce)
     EXPECT_TRUE(desk.usesGroup(germanGroup)) << program.report();
 }
 
-TEST_F(SettingsWindow, opensTheGuideInWhichAPermissionIsGivenBack)
-{
-    desk.files.writePreferences({{"selectedMainWindowTab", "General"},
-        {"AppleLanguages", json::array({"en"})}, {"allowsInputMonitoring", false}});
-    const RunningProgram program(desk.desktop, byHand);
-    ASSERT_TRUE(windowInFront("Brindlex")) << program.report();
-
-    // Past two switches and a chooser to the button; the guide opens at what is to be mended.
-    press({keycode::tab, keycode::tab, keycode::tab, keycode::tab, keycode::space});
-    ASSERT_TRUE(windowInFront("Brindlex Permissions")) << program.report();
-    press({keycode::space});
-
-    EXPECT_TRUE(eventually([&] {
-        const auto preferences = desk.files.readPreferences();
-        return preferences.is_object() && !preferences.contains("allowsInputMonitoring");
-    })) << program.report();
-    press({keycode::escape});
-    EXPECT_TRUE(eventually([&] { return !hasWindow("Brindlex Permissions"); }));
-    EXPECT_TRUE(windowInFront("Brindlex"));
-}
-
 TEST_F(SettingsWindow, followsWhatAnotherProcessWritesWhileItIsOpen)
 {
     desk.files.writePreferences(
