@@ -163,13 +163,13 @@ void InputMethodSettings::setDisabled(const std::string& bundleID, bool isDisabl
     changeSmart([&](SmartInputMethodConfig& config) { config.setDisabled(bundleID, isDisabled); });
 }
 
-void InputMethodSettings::clearStats(const Uuid& id)
+void InputMethodSettings::clearStats(Uuid id)
 {
     for (const auto& step : brindlex::clearStats(smartConfig(), id))
         changeSmart(step);
 }
 
-std::function<void()> InputMethodSettings::deleteStats(const Uuid& id)
+std::function<void()> InputMethodSettings::deleteStats(Uuid id)
 {
     const auto before = smartConfig();
     for (const auto& step : brindlex::deleteStats(before, id))

@@ -68,10 +68,11 @@ public:
     /// The statistics that are shown: those of the applications within the limit, in list order.
     std::vector<SmartInputMethodAppStats> displayedStats() const;
     void setDisabled(const std::string& bundleID, bool isDisabled);
-    void clearStats(const Uuid& id);
+    /// Takes the identifier by value, as does deleteStats: it may be read from what is replaced.
+    void clearStats(Uuid id);
     /// Returns what brings them back to their place, with the switches that they were made from;
     /// nothing comes back of an application of which something was learned since.
-    std::function<void()> deleteStats(const Uuid& id);
+    std::function<void()> deleteStats(Uuid id);
 
 private:
     std::optional<std::string> sourceOfNewRule() const;
