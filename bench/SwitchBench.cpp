@@ -70,6 +70,7 @@ SwitchEnvironment environment(const std::string& frontmost)
         .systemTime = [] { return now; },
         .whyUndone = [] { return std::string(); },
         .noteSwitch = [](const InputMethodSwitchDecision&) {},
+        .noteAgreement = [](const InputMethodSwitchDecision&) {},
     };
 }
 

@@ -192,6 +192,9 @@ SwitchEnvironment InputMethodSwitchCoordinator::environment()
     environment.whyUndone = [this] { return abilities_.inputSources.whyUndone(); };
     environment.noteSwitch
         = [this](const InputMethodSwitchDecision& decision) { noteSwitch(decision); };
+    environment.noteAgreement = [this](const InputMethodSwitchDecision& decision) {
+        reasons_.noteAgreement(decision, smartStore_.config().value(), abilities_.clock.now());
+    };
     return environment;
 }
 

@@ -47,10 +47,14 @@ std::optional<SwitchEffect::Any> attemptSwitch(const SwitchPlace& place, SwitchS
     const SwitchEnvironment& environment)
 {
     const auto current = environment.currentInputSourceID();
-    const auto decision = resolveSwitchDecision(place.bundleID, place.host, current, config,
+    const auto decision = resolveSwitchDecision(place.bundleID, place.host, std::nullopt, config,
         &smartConfig, place.allowsAppRules, environment.systemTime());
     if (!decision)
         return {};
+    if (current && isSameSource(decision->inputSourceID, *current)) {
+        environment.noteAgreement(*decision);
+        return {};
+    }
     const auto context = autoSwitchContext(*decision);
     noteVisit(state.override, context);
     if (isOverridden(state.override, context, *decision, current))

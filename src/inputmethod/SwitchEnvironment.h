@@ -33,6 +33,8 @@ struct SwitchEnvironment {
     std::function<std::string()> whyUndone{};
     /// Takes note of a switch that was made.
     std::function<void(const InputMethodSwitchDecision& decision)> noteSwitch{};
+    /// Takes note of a decision for the source that is selected already.
+    std::function<void(const InputMethodSwitchDecision& decision)> noteAgreement{};
 };
 
 } // namespace brindlex

@@ -50,6 +50,16 @@ void SwitchReasons::noteSwitch(
     noted_ = {decision, now, changesBehind(decision, smartConfig, now), {}};
 }
 
+void SwitchReasons::noteAgreement(
+    const InputMethodSwitchDecision& decision, const SmartInputMethodConfig& smartConfig, Date now)
+{
+    if (!decision.bundleID)
+        return;
+    auto reasons = byApplication_.value();
+    reasons[*decision.bundleID] = {decision, now, changesBehind(decision, smartConfig, now), {}};
+    keep(std::move(reasons));
+}
+
 void SwitchReasons::noteEvent(const SwitchEvent::Any& event, const SwitchState& state, Date now)
 {
     if (std::holds_alternative<SwitchEvent::InputSourceChanged>(event))
@@ -69,6 +79,11 @@ void SwitchReasons::noteEvent(const SwitchEvent::Any& event, const SwitchState& 
         reasons[lastApplication_] = *noted;
     }
     reasons[lastApplication_].overriddenAt = overriddenAt;
+    keep(std::move(reasons));
+}
+
+void SwitchReasons::keep(ByApplication reasons)
+{
     if (reasons.size() > mostApplications)
         dropOldest(reasons);
     byApplication_.set(std::move(reasons));

@@ -14,7 +14,7 @@
 
 namespace brindlex {
 
-/// Why an application has its input source: the last switch that was made for it.
+/// Why an application has its input source: what was decided for it last.
 struct SwitchReason {
     InputMethodSwitchDecision decision{};
     Date usedAt{};
@@ -27,7 +27,7 @@ struct SwitchReason {
 };
 
 /// Remembers why each application has its input source, until the end of the process and for the
-/// 200 applications that were switched for last. Main thread only.
+/// 200 applications that a rule decided for last. Main thread only.
 class SwitchReasons {
 public:
     static constexpr std::size_t mostApplications = 200;
@@ -37,7 +37,7 @@ public:
     /// Changes only where it says something else.
     const Observable<ByApplication>& byApplication() const { return byApplication_; }
 
-    /// Nothing where no switch was made for the application.
+    /// Nothing where no rule has decided for the application.
     std::optional<SwitchReason> reason(const std::string& bundleID) const;
 
     /// Takes note of a switch that was made, with what was learned until then. It shows with the
@@ -45,10 +45,16 @@ public:
     void noteSwitch(const InputMethodSwitchDecision& decision,
         const SmartInputMethodConfig& smartConfig, Date now);
 
+    /// Takes note of a decision for the source that is selected already.
+    void noteAgreement(const InputMethodSwitchDecision& decision,
+        const SmartInputMethodConfig& smartConfig, Date now);
+
     /// Takes note of what an event has made of the state.
     void noteEvent(const SwitchEvent::Any& event, const SwitchState& state, Date now);
 
 private:
+    void keep(ByApplication reasons);
+
     Observable<ByApplication> byApplication_{ByApplication()};
     /// The application of the last switch, which alone can be overridden.
     std::string lastApplication_;

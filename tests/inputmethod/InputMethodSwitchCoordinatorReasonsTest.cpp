@@ -26,13 +26,24 @@ protected:
     Date now() { return computer.clock.now(); }
 };
 
-TEST_F(InputMethodSwitchCoordinatorReasonsTest, saysThatARuleHasNotBeenUsedWhereNothingWasSwitched)
+TEST_F(InputMethodSwitchCoordinatorReasonsTest, saysWhichRuleHasNotBeenUsed)
 {
-    change([](auto& config) { config.rules = {rule("editor", us), rule("mail", german)}; });
+    change([](auto& config) { config.rules = {rule("mail", german)}; });
     start();
 
-    EXPECT_EQ(why("editor"), Explanation::Any(Explanation::NotUsedYet{}));
     EXPECT_EQ(why("mail"), Explanation::Any(Explanation::NotUsedYet{}));
+}
+
+TEST_F(InputMethodSwitchCoordinatorReasonsTest, namesTheRuleThatAskedForWhatWasSelectedAlready)
+{
+    change([](auto& config) { config.rules = {rule("mail", us)}; });
+    start();
+    computer.clock.advance(60);
+
+    bringToFront(2, "mail");
+
+    ASSERT_EQ(selected(), us);
+    EXPECT_EQ(why("mail"), Explanation::Any(Explanation::ManualRule{now()}));
 }
 
 TEST_F(InputMethodSwitchCoordinatorReasonsTest, namesTheRuleOfTheApplication)

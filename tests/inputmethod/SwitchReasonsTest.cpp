@@ -61,6 +61,19 @@ TEST_F(SwitchReasonsTest, keepsTheLastDecisionForEachApplication)
             {"mail", {decisionFor("mail", Source::manualAppRule), Date{2}, 0, {}}}}));
 }
 
+TEST_F(SwitchReasonsTest, keepsADecisionForWhatIsSelectedAlreadyBesideAnOverride)
+{
+    switchFor("editor", Date{1});
+    userSelects(us, Date{2});
+
+    reasons.noteAgreement({"mail", {}, us, Source::manualAppRule}, smartConfig, Date{3});
+    reasons.noteEvent(SwitchEvent::AppActivated{"mail"}, state, Date{3});
+
+    EXPECT_EQ(reasons.reason("mail"),
+        (SwitchReason{{"mail", {}, us, Source::manualAppRule}, Date{3}, 0, {}}));
+    EXPECT_EQ(overriddenAt("editor"), Date{2});
+}
+
 TEST_F(SwitchReasonsTest, saysHowManyChangesALearnedRuleWasMadeFrom)
 {
     smartConfig.enabled = true;

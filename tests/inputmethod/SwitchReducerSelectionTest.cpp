@@ -59,6 +59,7 @@ TEST_F(SwitchReducer, notesEachSwitchThatWasMade)
     EXPECT_EQ(computer.switches, std::vector{switched});
     activate(editor);
     EXPECT_EQ(computer.switches, std::vector{switched}) << "It is selected already.";
+    EXPECT_EQ(computer.agreements, std::vector{switched});
 }
 
 TEST_F(SwitchReducer, showsNothingWithoutTheOverlay)

@@ -65,6 +65,8 @@ SwitchEnvironment SwitchComputer::environment()
             },
         .noteSwitch
         = [this](const InputMethodSwitchDecision& decision) { switches.push_back(decision); },
+        .noteAgreement
+        = [this](const InputMethodSwitchDecision& decision) { agreements.push_back(decision); },
     };
 }
 

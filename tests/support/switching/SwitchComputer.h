@@ -31,6 +31,8 @@ struct SwitchComputer {
     std::vector<std::string> selections{};
     /// Every switch noted, oldest first.
     std::vector<InputMethodSwitchDecision> switches{};
+    /// Every decision for the source that was selected already, oldest first.
+    std::vector<InputMethodSwitchDecision> agreements{};
     /// The names of the functions called, oldest first.
     std::vector<std::string> calls{};
 
