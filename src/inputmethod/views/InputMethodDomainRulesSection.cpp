@@ -2,11 +2,6 @@
 
 #include "inputmethod/DomainRecommendation.h"
 #include "ui/controls/Buttons.h"
-#include "ui/controls/TableCells.h"
-
-#include <QAbstractItemView>
-#include <QCompleter>
-#include <QStandardItemModel>
 
 #include <algorithm>
 
@@ -14,7 +9,11 @@ namespace brindlex {
 namespace {
 
 constexpr int glyphSize = 20;
-constexpr int suggestionHeight = 36;
+
+QString asQString(std::string_view text)
+{
+    return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
 
 } // namespace
 
@@ -30,7 +29,8 @@ InputMethodDomainRulesSection::InputMethodDomainRulesSection(
           context.theme, Glyph::globe, context.text<"inputMethod.domainRules.empty.message">())),
       field_(new SearchField(
           context.theme, context.text<"inputMethod.domainRules.searchPlaceholder">())),
-      completer_(new QCompleter(new QStandardItemModel(field_), field_)),
+      suggestions_(new SuggestionList(
+          context.theme, *field_, page, [this](const QString& domain) { add(domain); })),
       card_(page.section(context.text<"inputMethod.domainRules.title">())), rows_(card_, 1)
 {
     card_.setting(context.text<"inputMethod.domainRules.enabled">(),
@@ -52,17 +52,8 @@ void InputMethodDomainRulesSection::show()
     empty_->setVisible(ids.empty());
 }
 
-/// The suggestions are those of the program; the completer only shows them.
 void InputMethodDomainRulesSection::makeField(Card& card)
 {
-    completer_->setCompletionMode(QCompleter::UnfilteredPopupCompletion);
-    completer_->setCompletionRole(Qt::EditRole);
-    field_->setCompleter(completer_);
-    // A window of its own, which has nothing of the one that it belongs to.
-    completer_->popup()->setObjectName("suggestions");
-    context_.theme.dress(*completer_->popup());
-    completer_->popup()->setItemDelegate(
-        new TableCells(context_.theme, suggestionHeight, completer_));
     QObject::connect(
         field_, &QLineEdit::textEdited, field_, [this](const QString& typed) { suggest(typed); });
     QObject::connect(field_, &QLineEdit::returnPressed, field_, [this] { add(field_->text()); });
@@ -86,25 +77,13 @@ InputRuleRow* InputMethodDomainRulesSection::makeRow(const Uuid& id)
 
 void InputMethodDomainRulesSection::suggest(const QString& typed)
 {
-    auto* const model = static_cast<QStandardItemModel*>(completer_->model());
-    model->clear();
+    const auto icon = glyphIcon(context_.theme, Glyph::globe, &ThemeTokens::subdued);
+    std::vector<Suggestion> suggestions;
     for (const auto& website :
-        suggestedDomains(typed.toStdString(), settings_.config().domainRules)) {
-        const auto domain = QString::fromUtf8(
-            website.domainSuffix.data(), static_cast<qsizetype>(website.domainSuffix.size()));
-        const auto name = QString::fromUtf8(
-            website.displayName.data(), static_cast<qsizetype>(website.displayName.size()));
-        auto* const item = new QStandardItem(
-            glyphIcon(context_.theme, Glyph::globe, &ThemeTokens::subdued), QString());
-        item->setData(domain, Qt::EditRole);
-        item->setData(name, trailingTextRole);
-        item->setData(name, Qt::AccessibleDescriptionRole);
-        model->appendRow(item);
-    }
-    if (model->rowCount() > 0)
-        completer_->complete();
-    else
-        completer_->popup()->hide();
+        suggestedDomains(typed.toStdString(), settings_.config().domainRules))
+        suggestions.push_back(
+            {asQString(website.domainSuffix), asQString(website.displayName), icon});
+    suggestions_->suggest(suggestions);
 }
 
 void InputMethodDomainRulesSection::add(const QString& text)

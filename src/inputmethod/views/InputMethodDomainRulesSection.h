@@ -5,10 +5,8 @@
 #include "ui/controls/KeyedRows.h"
 #include "ui/controls/Page.h"
 #include "ui/controls/SearchField.h"
+#include "ui/controls/SuggestionList.h"
 #include "ui/controls/ToggleSwitch.h"
-
-class QCompleter;
-class QPushButton;
 
 namespace brindlex {
 
@@ -33,7 +31,7 @@ private:
     ToggleSwitch* const enabled_;
     EmptyState* const empty_;
     SearchField* const field_;
-    QCompleter* const completer_;
+    SuggestionList* const suggestions_;
     Card& card_;
     /// Behind the switch.
     KeyedRows<Uuid, InputRuleRow> rows_;

@@ -90,7 +90,7 @@ QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 
 QTableView, QListView { background: transparent; border: none; gridline-color: transparent; }
 QTableView#ground, QListView#ground { background: @card@; }
-QListView#suggestions { background: @card@; border: 1px solid @line@; }
+QListView#suggestions { background: @card@; border: 1px solid @edge@; border-radius: 8px; }
 QHeaderView { background: transparent; }
 QHeaderView::section {
     background: transparent; border: none; border-bottom: 1px solid @line@; color: @subdued@;

@@ -2,8 +2,6 @@
 
 #include "ui/controls/TableCells.h"
 
-#include <QAbstractItemView>
-#include <QCompleter>
 #include <QPushButton>
 #include <QToolButton>
 
@@ -93,27 +91,40 @@ TEST_F(InputMethodSettingsScreenTest, takesAMegabyteInTheFieldOfWebsites)
 
 TEST_F(InputMethodSettingsScreenTest, suggestsWebsitesWithTheirNames)
 {
-    auto* const field = control<QLineEdit>("Domain or URL");
-    type(field, "git");
+    type(control<QLineEdit>("Domain or URL"), "git");
 
-    const auto& suggestions = *field->completer()->completionModel();
-    ASSERT_EQ(suggestions.rowCount(), 1);
-    const auto suggestion = suggestions.index(0, 0);
+    const auto* const suggestions = control<SuggestionList>("Domain or URL");
+    ASSERT_TRUE(suggestions);
+    ASSERT_EQ(suggestions->model()->rowCount(), 1);
+    const auto suggestion = suggestions->model()->index(0, 0);
     EXPECT_EQ(suggestion.data(), "github.com");
     EXPECT_EQ(suggestion.data(trailingTextRole), "GitHub");
     EXPECT_EQ(suggestion.data(Qt::AccessibleDescriptionRole), "GitHub");
+}
+
+TEST_F(InputMethodSettingsScreenTest, addsTheWebsiteThatIsTakenFromTheSuggestions)
+{
+    auto* const field = control<QLineEdit>("Domain or URL");
+    type(field, "git");
+    press(field, Qt::Key_Down);
+    press(field, Qt::Key_Return);
+
+    ASSERT_EQ(config().domainRules.size(), 1U);
+    EXPECT_EQ(config().domainRules.front().domainSuffix, "github.com");
+    EXPECT_EQ(field->text(), "");
 }
 
 TEST_F(InputMethodSettingsScreenTest, suggestsNothingForASingleLetter)
 {
     auto* const field = control<QLineEdit>("Domain or URL");
     type(field, "git");
-    ASSERT_TRUE(field->completer()->popup()->isVisible());
+    const auto* const suggestions = control<SuggestionList>("Domain or URL");
+    ASSERT_TRUE(suggestions);
 
     type(field, "g");
 
-    EXPECT_EQ(field->completer()->completionModel()->rowCount(), 0);
-    EXPECT_FALSE(field->completer()->popup()->isVisible());
+    EXPECT_EQ(suggestions->model()->rowCount(), 0);
+    EXPECT_TRUE(suggestions->isHidden());
 }
 
 TEST_F(InputMethodSettingsScreenTest, followsWhatAnotherProcessWrites)
