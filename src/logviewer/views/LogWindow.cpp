@@ -20,7 +20,7 @@
 namespace brindlex {
 namespace {
 
-constexpr QSize leastSize{560, 360};
+constexpr QSize leastTable{560, 288};
 constexpr int rowHeight = 26;
 constexpr int headHeight = 28;
 constexpr int barHeight = 48;
@@ -52,7 +52,6 @@ LogWindow::LogWindow(const ViewContext& context, MainThread& mainThread,
 {
     setObjectName("window");
     setWindowTitle(context.text<"logs.windowTitle">());
-    setMinimumSize(leastSize);
     auto* const layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
     layout->setSpacing(0);
@@ -60,6 +59,8 @@ LogWindow::LogWindow(const ViewContext& context, MainThread& mainThread,
     makeTable();
     middle_->addWidget(table_);
     middle_->addWidget(makeEmpty());
+    // The strips above and below need what their words need.
+    middle_->setMinimumSize(leastTable);
     layout->addWidget(middle_, 1);
     layout->addWidget(detail_);
     layout->addWidget(makeFoot());

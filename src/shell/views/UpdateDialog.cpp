@@ -1,6 +1,7 @@
 #include "shell/views/UpdateDialog.h"
 
 #include "ui/controls/GlyphLabel.h"
+#include "ui/controls/TextSize.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -54,7 +55,7 @@ void UpdateDialog::setMessage(const UpdateMessage& message)
     first->setFocus();
     fit();
     if (!message.notes.empty())
-        resize(openingWidth, openingHeight);
+        resize(grownWithText(QSize(openingWidth, openingHeight)));
 }
 
 /// Words change their size with the desktop's font.
@@ -132,10 +133,11 @@ void UpdateDialog::visitPage()
 void UpdateDialog::fit()
 {
     if (message_.notes.empty()) {
-        setFixedSize(openingWidth, layout()->totalHeightForWidth(openingWidth));
+        const int width = grownWithText(openingWidth);
+        setFixedSize(width, layout()->totalHeightForWidth(width));
         return;
     }
-    setMinimumSize(leastSizeWithNotes);
+    setMinimumSize(grownWithText(leastSizeWithNotes));
     setMaximumSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX);
 }
 

@@ -1,12 +1,14 @@
 #include "ui/controls/Buttons.h"
 
+#include "ui/controls/TextSize.h"
+
 #include <utility>
 
 namespace brindlex {
 namespace {
 
-constexpr int glyphSize = 16;
-constexpr int slotSize = 28;
+constexpr QSize glyphSize{16, 16};
+constexpr QSize slotSize{28, 28};
 
 /// As the style sheet knows them.
 const char* nameOf(ButtonRole role)
@@ -45,7 +47,7 @@ QPushButton* makeButton(const Theme& theme, ButtonRole role, const QString& text
     if (glyph != Glyph::none) {
         const auto ink = role == ButtonRole::add ? &ThemeTokens::accentText : &ThemeTokens::subdued;
         button->setIcon(glyphIcon(theme, glyph, ink, &ThemeTokens::accentText));
-        button->setIconSize({glyphSize, glyphSize});
+        followTextSize(*button, [button] { button->setIconSize(grownWithText(glyphSize)); });
     }
     if (pressed)
         QObject::connect(button, &QPushButton::clicked, button, [pressed] { pressed(); });
@@ -57,8 +59,10 @@ QToolButton* makeGlyphButton(
 {
     auto* const button = new QToolButton;
     button->setIcon(glyphIcon(theme, glyph, ink, &ThemeTokens::accentText));
-    button->setIconSize({glyphSize, glyphSize});
-    button->setFixedSize(slotSize, slotSize);
+    followTextSize(*button, [button] {
+        button->setIconSize(grownWithText(glyphSize));
+        button->setFixedSize(grownWithText(slotSize));
+    });
     button->setFocusPolicy(Qt::StrongFocus);
     button->setToolTip(name);
     button->setAccessibleName(name);

@@ -1,5 +1,7 @@
 #include "ui/controls/ToggleSwitch.h"
 
+#include "ui/controls/TextSize.h"
+
 #include <QPainter>
 #include <QSignalBlocker>
 
@@ -11,6 +13,7 @@ namespace {
 /// The switch, and the room around it for the ring of the focus.
 constexpr QSize shape{38, 22};
 constexpr int ringRoom = 4;
+constexpr QSize whole{shape.width() + 2 * ringRoom, shape.height() + 2 * ringRoom};
 constexpr double knobRadius = 8.5;
 constexpr int milliseconds = 120;
 
@@ -30,7 +33,7 @@ ToggleSwitch::ToggleSwitch(const Theme& theme, const QString& name,
     setCheckable(true);
     setAccessibleName(name);
     setFocusPolicy(Qt::StrongFocus);
-    setFixedSize(sizeHint());
+    followTextSize(*this, [this] { setFixedSize(sizeHint()); });
     connect(this, &QAbstractButton::clicked, this,
         [switched = std::move(switched)](bool isOn) { switched(isOn); });
     motion_.setDuration(milliseconds);
@@ -51,15 +54,13 @@ void ToggleSwitch::show(bool isOn)
     update();
 }
 
-QSize ToggleSwitch::sizeHint() const
-{
-    return shape.grownBy({ringRoom, ringRoom, ringRoom, ringRoom});
-}
+QSize ToggleSwitch::sizeHint() const { return grownWithText(whole); }
 
 void ToggleSwitch::paintEvent(QPaintEvent*)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(1.0 * width() / whole.width(), 1.0 * height() / whole.height());
     const QRectF track(QPointF(ringRoom, ringRoom), shape);
     const double radius = track.height() / 2;
     painter.setPen(Qt::NoPen);
@@ -74,7 +75,8 @@ void ToggleSwitch::paintEvent(QPaintEvent*)
         return;
     painter.setPen(QPen(theme_.colour(&ThemeTokens::accentText), 2));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), radius + 3, radius + 3);
+    painter.drawRoundedRect(
+        QRectF(QPointF(), whole).adjusted(1, 1, -1, -1), radius + 3, radius + 3);
 }
 
 void ToggleSwitch::nextCheckState()
