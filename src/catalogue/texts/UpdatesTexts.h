@@ -8,7 +8,6 @@ namespace brindlex {
 
 /// The answer to a check for updates.
 inline constexpr auto updatesTexts = std::to_array<CatalogueRow>({
-    {"updates.checking", "Checking for updates…"},
     {"updates.close", "Close"},
     {"updates.current", "Brindlex is up to date"},
     {"updates.currentDetailFormat", "Version %@ is the newest one."},
