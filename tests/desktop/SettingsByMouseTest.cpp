@@ -18,10 +18,10 @@ constexpr auto tab = "page tab";
 /// alone.
 class SettingsByMouse : public testing::Test {
 protected:
-    void open()
+    void open(const std::string& selectedTab)
     {
         desk.files.writePreferences(
-            {{"selectedMainWindowTab", "General"}, {"AppleLanguages", json::array({"en"})}});
+            {{"selectedMainWindowTab", selectedTab}, {"AppleLanguages", json::array({"en"})}});
         program.emplace(desk.desktop);
         ASSERT_TRUE(program->launches()) << program->report();
         controls.emplace(program->process());
@@ -43,6 +43,25 @@ protected:
             desk.input.click(area->centreX(), area->centreY());
         return area.has_value();
     }
+    void pickAWindow()
+    {
+        open("Keyboard");
+        ASSERT_TRUE(click(button, "Add App"));
+        ASSERT_TRUE(isInFront("Choose an Application")) << program->report();
+        ASSERT_TRUE(click(button, "Pick a Window")) << controls->report();
+        ASSERT_TRUE(eventually([&] { return areKeysTaken(); })) << program->report();
+    }
+    bool areKeysTaken() const
+    {
+        auto* const server = desk.server.get();
+        const auto request = xcb_grab_keyboard(server, 0, desk.server.root(), XCB_CURRENT_TIME,
+            XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+        const XReply<xcb_grab_keyboard_reply_t> reply(
+            xcb_grab_keyboard_reply(server, request, nullptr));
+        xcb_ungrab_keyboard(server, XCB_CURRENT_TIME);
+        xcb_flush(server);
+        return !reply || reply->status != XCB_GRAB_STATUS_SUCCESS;
+    }
     /// The rules for applications as they are stored.
     json rules() const
     {
@@ -58,7 +77,7 @@ protected:
 
 TEST_F(SettingsByMouse, addARuleForAnApplicationThatActsAtOnce)
 {
-    open();
+    open("General");
     ASSERT_TRUE(click(tab, "Keyboard"));
     ASSERT_TRUE(click(button, "Add App"));
     ASSERT_TRUE(isInFront("Choose an Application")) << program->report();
@@ -79,7 +98,7 @@ TEST_F(SettingsByMouse, addARuleForAnApplicationThatActsAtOnce)
 
 TEST_F(SettingsByMouse, changeTheLanguageInWhichTheProgramComesBack)
 {
-    open();
+    open("General");
     ASSERT_TRUE(click(combo, "System Default")) << controls->report();
     ASSERT_TRUE(click(listItem, "Deutsch")) << controls->report();
 
@@ -89,6 +108,33 @@ TEST_F(SettingsByMouse, changeTheLanguageInWhichTheProgramComesBack)
     ASSERT_TRUE(process);
     EXPECT_NE(*process, program->process());
     EXPECT_TRUE(AccessibleControls(*process).find(tab, "Tastatur"));
+}
+
+TEST_F(SettingsByMouse, leaveTheKeysToTheUserWhenTheProgramIsKilledWhileAWindowIsPicked)
+{
+    ASSERT_NO_FATAL_FAILURE(pickAWindow());
+
+    program->child().signal(SIGKILL);
+
+    EXPECT_TRUE(eventually([&] { return !areKeysTaken(); }));
+}
+
+using SettingsByMouseInTime = SettingsByMouse;
+
+TEST_F(SettingsByMouseInTime, leaveTheKeysToTheUserWhenTheProgramHangsWhileAWindowIsPicked)
+{
+    ASSERT_NO_FATAL_FAILURE(pickAWindow());
+
+    program->child().signal(SIGSTOP);
+    const auto areLeftToTheUser = [&] {
+        desk.input.type("a");
+        return !areKeysTaken();
+    };
+    EXPECT_TRUE(eventually(areLeftToTheUser, std::chrono::seconds(1)));
+
+    program->child().signal(SIGCONT);
+    EXPECT_TRUE(isInFront("Choose an Application")) << program->report();
+    EXPECT_TRUE(throughout(std::chrono::milliseconds(300), [&] { return !areKeysTaken(); }));
 }
 
 } // namespace

@@ -225,9 +225,10 @@ private:
 
     void showOnceHeld()
     {
+        // Before anything is taken: the program may hang at any moment.
+        owner_.watchdog_.watchOpen(hold_->window());
         if (!hold_->take())
             return;
-        owner_.watchdog_.watchOpen(hold_->window());
         QRasterWindow::show();
         raise();
     }

@@ -55,6 +55,8 @@ void X11WindowPick::start()
         return finish({});
     hold_.emplace(connection_.get());
     connection_.listenTo(hold_->window(), XCB_EVENT_MASK_STRUCTURE_NOTIFY);
+    // Before anything is taken: the program may hang at any moment.
+    watchdog_.watchOpen(hold_->window());
     attempts_.start();
     attempt();
 }
@@ -65,7 +67,6 @@ void X11WindowPick::attempt()
     if (hold_->take()) {
         attempts_.stop();
         showCrosshair();
-        watchdog_.watchOpen(hold_->window());
     } else if (++made_ == mostAttempts) {
         Log::warn("No window can be picked: another program keeps the pointer or the keyboard",
             logCategory::ui);
