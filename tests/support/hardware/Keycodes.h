@@ -13,6 +13,7 @@ inline constexpr std::uint8_t escape = KEY_ESC + 8;
 inline constexpr std::uint8_t one = KEY_1 + 8;
 inline constexpr std::uint8_t tab = KEY_TAB + 8;
 inline constexpr std::uint8_t q = KEY_Q + 8;
+inline constexpr std::uint8_t t = KEY_T + 8;
 inline constexpr std::uint8_t y = KEY_Y + 8;
 inline constexpr std::uint8_t enter = KEY_ENTER + 8;
 inline constexpr std::uint8_t control = KEY_LEFTCTRL + 8;
