@@ -27,12 +27,10 @@ MainWindowPresenter::MainWindowPresenter(
       })),
       windowClosing_(windows.observeWillClose(
           [this](const std::string&, ProgramWindow window) { noteClosing(window); })),
-      appDeactivationObserver_(activation.observeDidResignActive([this] {
-          mainThread_.post([this, alive = lifetime_.watch()] {
-              if (!alive.expired())
-                  reconsider();
-          });
-      }))
+      appActivationObserver_(
+          observe(&ProgramActivation::observeDidBecomeActive, &MainWindowPresenter::confirm)),
+      appDeactivationObserver_(
+          observe(&ProgramActivation::observeDidResignActive, &MainWindowPresenter::reconsider))
 {
 }
 
@@ -148,6 +146,25 @@ bool MainWindowPresenter::bringForward()
 {
     const auto window = mainWindow();
     return window && windows_.bringForward(*window);
+}
+
+/// Follows a change once whoever made it has done with it.
+Subscription MainWindowPresenter::observe(
+    Subscription (ProgramActivation::*change)(std::function<void()>),
+    void (MainWindowPresenter::*follow)())
+{
+    return (activation_.*change)([this, follow] {
+        mainThread_.post([this, follow, alive = lifetime_.watch()] {
+            if (!alive.expired())
+                (this->*follow)();
+        });
+    });
+}
+
+void MainWindowPresenter::confirm()
+{
+    if (isPresentationPending() && !outlivesDeactivation_ && bringForward())
+        pendingPresentationTask_.cancel();
 }
 
 void MainWindowPresenter::reconsider()

@@ -15,6 +15,8 @@ namespace brindlex {
 
 /// Brings the main window before the user's eyes, however late it comes and however slow the
 /// desktop is: a try at once, and more after 50, 150, 300, 600 and 1000 ms, until one succeeds.
+/// What makes the program active is seen at once: a late try would take the keys from the window
+/// that the user has opened since.
 ///
 /// A later request takes the place of an earlier one. The tries end when the window is closed or
 /// replaced, and, unless they follow the dock icon's going, when the user has seen the window and
@@ -60,7 +62,10 @@ private:
     void raiseAgain();
     void tryAgainAfter(std::span<const Seconds> delays);
     bool bringForward();
+    void confirm();
     void reconsider();
+    Subscription observe(Subscription (ProgramActivation::*change)(std::function<void()>),
+        void (MainWindowPresenter::*follow)());
 
     ProgramWindows& windows_;
     ProgramActivation& activation_;
@@ -76,6 +81,7 @@ private:
     Lifetime lifetime_;
     Subscription windowOpening_;
     Subscription windowClosing_;
+    Subscription appActivationObserver_;
     Subscription appDeactivationObserver_;
 };
 

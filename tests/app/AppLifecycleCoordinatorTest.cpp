@@ -32,6 +32,7 @@ const std::vector<std::string> wholeStart{
     "observe com.brindlex.Brindlex.showMainWindow com.brindlex.Brindlex",
     "observe windows that open",
     "observe windows that close",
+    "observe becoming active",
     "observe resigning active",
     "observe windows that close",
     "policy accessory",
@@ -146,6 +147,7 @@ TEST(AppLifecycleCoordinator, stopsWithoutHavingStarted)
             "observe becoming active",
             "observe windows that open",
             "observe windows that close",
+            "observe becoming active",
             "observe resigning active",
             "observe windows that close",
         }));

@@ -70,7 +70,9 @@ TEST_F(SettingsWindow, opensWhenTheUserStartsTheProgram)
 {
     RunningProgram program(desk.desktop, byHand);
 
-    EXPECT_TRUE(windowInFront("Brindlex")) << program.report();
+    const auto window = windowInFront("Brindlex");
+    ASSERT_TRUE(window) << program.report();
+    EXPECT_FALSE(desk.server.values(*window, "_NET_WM_ICON").empty());
     EXPECT_EQ(program.quit(), (ProcessEnd{0, {}})) << program.report();
 }
 
@@ -115,6 +117,53 @@ TEST_F(SettingsWindow, addsARuleByTheKeyboardAloneThatActsAtOnce)
     ASSERT_TRUE(hasRule("Beta", german)) << program.report();
     const TypingWindow beta(desk.windows, "Beta");
     EXPECT_TRUE(desk.usesGroup(germanGroup)) << program.report();
+}
+
+TEST_F(SettingsWindow, addsARuleForAWebsiteByTheKeyboardAlone)
+{
+    desk.files.writePreferences(
+        {{"selectedMainWindowTab", "Keyboard"}, {"AppleLanguages", json::array({"en"})}});
+    const RunningProgram program(desk.desktop, byHand);
+    ASSERT_TRUE(windowInFront("Brindlex")) << program.report();
+    const auto isStored = [&](const std::string& source) {
+        const auto record = desk.files.readRecord("inputMethodConfig");
+        if (!record.is_object() || !record.value("domainRulesEnabled", false))
+            return false;
+        const auto websites = record.value("domainRules", json::array());
+        return websites.size() == 1 && websites[0]["domainSuffix"] == "github.com"
+            && websites[0]["inputSourceID"] == source;
+    };
+
+    // Past two switches and a button to the switch; then the field, in which the first suggestion
+    // is taken, and the chooser of the rule.
+    press({keycode::tab, keycode::tab, keycode::tab, keycode::tab, keycode::space, keycode::tab});
+    desk.input.type("git");
+    press({keycode::down, keycode::enter});
+    ASSERT_TRUE(eventually([&] { return isStored(us); })) << program.report();
+    desk.input.type("g");
+
+    EXPECT_TRUE(eventually([&] { return isStored(german); })) << program.report();
+}
+
+TEST_F(SettingsWindow, opensTheGuideInWhichAPermissionIsGivenBack)
+{
+    desk.files.writePreferences({{"selectedMainWindowTab", "General"},
+        {"AppleLanguages", json::array({"en"})}, {"allowsInputMonitoring", false}});
+    const RunningProgram program(desk.desktop, byHand);
+    ASSERT_TRUE(windowInFront("Brindlex")) << program.report();
+
+    // Past two switches and a chooser to the button; the guide opens at what is to be mended.
+    press({keycode::tab, keycode::tab, keycode::tab, keycode::tab, keycode::space});
+    ASSERT_TRUE(windowInFront("Brindlex Permissions")) << program.report();
+    press({keycode::space});
+
+    EXPECT_TRUE(eventually([&] {
+        const auto preferences = desk.files.readPreferences();
+        return preferences.is_object() && !preferences.contains("allowsInputMonitoring");
+    })) << program.report();
+    press({keycode::escape});
+    EXPECT_TRUE(eventually([&] { return !hasWindow("Brindlex Permissions"); }));
+    EXPECT_TRUE(windowInFront("Brindlex"));
 }
 
 TEST_F(SettingsWindow, followsWhatAnotherProcessWritesWhileItIsOpen)

@@ -187,6 +187,20 @@ TEST_F(MainWindowPresenterTest, leavesTheUserAloneWhoHasSeenTheWindowAndGone)
     EXPECT_EQ(tries(), 0);
 }
 
+TEST_F(MainWindowPresenterTest, triesNoMoreOnceTheWindowHasCome)
+{
+    giveAction();
+    windows.setDelay(0.02);
+    presenter.showMainWindow();
+
+    mainThread.advance(0.03);
+    EXPECT_FALSE(presenter.isPresentationPending());
+    tries();
+    mainThread.advance(60);
+
+    EXPECT_EQ(tries(), 0) << "the user may have opened another window";
+}
+
 TEST_F(MainWindowPresenterTest, goesOnWhereTheUserHasNotSeenTheWindow)
 {
     presenter.showMainWindow();
