@@ -60,19 +60,21 @@ Result<std::string, std::string> clipboardIndexText(const ClipboardItems& items)
 
 Result<ClipboardItems, std::string> clipboardItemsOf(std::string_view text)
 {
-    const auto document = parseSortedJson(text);
-    if (!document)
-        return fail(inWords(document.error()));
-    if (!document->is_array())
-        return fail(std::string("is not a list"));
     ClipboardItems items;
-    items.reserve(document->size());
-    for (const auto& element : *document) {
+    std::optional<JsonProblem> problem;
+    const auto visited = visitJsonList(text, [&](const SortedJson& element) {
+        if (problem)
+            return;
         const auto item = itemOf(element);
-        if (!item)
-            return fail(inWords(within(std::to_string(items.size()), item.error())));
-        items.push_back(*item);
-    }
+        if (item)
+            items.push_back(*item);
+        else
+            problem = within(std::to_string(items.size()), item.error());
+    });
+    if (!visited)
+        return fail(inWords(visited.error()));
+    if (problem)
+        return fail(inWords(*problem));
     return items;
 }
 
