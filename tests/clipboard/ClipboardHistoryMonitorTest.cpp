@@ -97,13 +97,13 @@ TEST_F(ClipboardHistoryMonitorTest, recordsAPictureAndNotItsText)
 
 TEST_F(ClipboardHistoryMonitorTest, looksEveryHalfSecondSinceItsStart)
 {
-    for (const int copies : {1, 2, 3}) {
+    for (const std::size_t copies : {1U, 2U, 3U}) {
         mainThread.advance(0.3);
         pasteboard.copyText(std::to_string(copies));
         mainThread.advance(0.199);
-        EXPECT_EQ(texts().size(), copies - 1U);
+        EXPECT_EQ(texts().size(), copies - 1);
         mainThread.advance(0.001);
-        EXPECT_EQ(texts().size(), static_cast<std::size_t>(copies));
+        EXPECT_EQ(texts().size(), copies);
     }
     mainThread.advance(1000.25);
     pasteboard.copyText("later");
