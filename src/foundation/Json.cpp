@@ -15,6 +15,28 @@ std::string dumped(const Json& document, int indentation)
     return document.dump(indentation, ' ', false, nlohmann::json::error_handler_t::replace);
 }
 
+using Event = SortedJson::parse_event_t;
+
+/// The document, of which `keeps` leaves out parts as soon as they have been read.
+template <typename Keeps>
+Result<SortedJson, JsonProblem> parsed(std::string_view text, Keeps keeps)
+{
+    // The library takes this byte for the end of the text and would not look at what follows.
+    if (text.find('\0') != std::string_view::npos)
+        return fail(JsonProblem{"", "is not JSON"});
+    bool isTooDeep = false;
+    const auto watch = [&](int depth, Event event, SortedJson& part) {
+        isTooDeep |= depth > deepestNesting;
+        return !isTooDeep && keeps(depth, event, part);
+    };
+    auto document = SortedJson::parse(text, watch, /*allow_exceptions=*/false);
+    if (isTooDeep)
+        return fail(JsonProblem{"", "is nested too deeply"});
+    if (document.is_discarded())
+        return fail(JsonProblem{"", "is not JSON"});
+    return document;
+}
+
 } // namespace
 
 std::string jsonText(const Json& document) { return dumped(document, -1); }
@@ -33,20 +55,27 @@ Result<Json, JsonProblem> parseJson(std::string_view text)
 
 Result<SortedJson, JsonProblem> parseSortedJson(std::string_view text)
 {
-    // The library takes this byte for the end of the text and would not look at what follows.
-    if (text.find('\0') != std::string_view::npos)
-        return fail(JsonProblem{"", "is not JSON"});
-    bool isTooDeep = false;
-    const auto watchDepth = [&](int depth, SortedJson::parse_event_t, SortedJson&) {
-        isTooDeep |= depth > deepestNesting;
-        return !isTooDeep;
+    return parsed(text, [](int, Event, const SortedJson&) { return true; });
+}
+
+Result<Done, JsonProblem> visitJsonList(
+    std::string_view text, const std::function<void(const SortedJson&)>& visit)
+{
+    bool isList = false;
+    const auto take = [&](int depth, Event event, const SortedJson& part) {
+        isList |= depth == 0 && event == Event::array_start;
+        const bool isElement = isList && depth == 1
+            && (event == Event::value || event == Event::object_end || event == Event::array_end);
+        if (isElement)
+            visit(part);
+        return !isElement;
     };
-    auto document = SortedJson::parse(text, watchDepth, /*allow_exceptions=*/false);
-    if (isTooDeep)
-        return fail(JsonProblem{"", "is nested too deeply"});
-    if (document.is_discarded())
-        return fail(JsonProblem{"", "is not JSON"});
-    return document;
+    const auto document = parsed(text, take);
+    if (!document)
+        return fail(document.error());
+    if (!isList)
+        return fail(JsonProblem{"", "is not a list"});
+    return Done{};
 }
 
 } // namespace brindlex

@@ -5,6 +5,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -26,5 +27,11 @@ Result<Json, JsonProblem> parseJson(std::string_view text);
 
 /// The same as a document that stays sorted whatever is put into it.
 Result<SortedJson, JsonProblem> parseSortedJson(std::string_view text);
+
+/// Calls `visit` with each element of the text, which is a list, in their order. Holds one of them
+/// at a time in memory. A text that turns out not to be JSON is a problem after elements have been
+/// visited.
+Result<Done, JsonProblem> visitJsonList(
+    std::string_view text, const std::function<void(const SortedJson&)>& visit);
 
 } // namespace brindlex

@@ -12,6 +12,9 @@ public:
 
     virtual std::filesystem::path home() const = 0;
 
+    /// Where programs keep what they store for the user; it may not exist yet.
+    virtual std::filesystem::path dataHome() const = 0;
+
     /// Where the user wants downloads to go; nothing when the system has no such folder.
     virtual std::optional<std::filesystem::path> downloads() const = 0;
 };

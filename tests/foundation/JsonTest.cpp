@@ -5,6 +5,8 @@
 #include <cmath>
 #include <limits>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace brindlex {
 namespace {
@@ -100,6 +102,46 @@ TEST(Json, readsWholeNumbersUpTo64Bits)
     EXPECT_EQ(jsonText(*parseJson("18446744073709551615")), "18446744073709551615");
     EXPECT_EQ(jsonText(*parseJson("-9223372036854775808")), "-9223372036854775808");
     EXPECT_TRUE(parseJson("18446744073709551616")->is_number_float());
+}
+
+/// The elements of a list as they are visited, or what is wrong with the text.
+std::vector<std::string> visited(std::string_view text)
+{
+    std::vector<std::string> elements;
+    const auto end = visitJsonList(
+        text, [&](const SortedJson& element) { elements.push_back(element.dump()); });
+    if (!end)
+        elements.push_back(end.error().reason);
+    return elements;
+}
+
+TEST(Json, isVisitedElementByElement)
+{
+    using Elements = std::vector<std::string>;
+    EXPECT_EQ(visited(" [] "), Elements{});
+    EXPECT_EQ(visited(R"([1,null,"a",{},[],{"b":[{"c":[]}],"a":{}},[[1],[]],true])"),
+        (Elements{
+            "1", "null", "\"a\"", "{}", "[]", R"({"a":{},"b":[{"c":[]}]})", "[[1],[]]", "true"}));
+}
+
+TEST(Json, isVisitedInALittleTimePerElement)
+{
+    std::string list = "[";
+    for (int number = 0; number < 100'000; ++number)
+        list += "{},";
+    EXPECT_EQ(visited(list + "{}]").size(), 100'001U);
+}
+
+TEST(Json, isVisitedOnlyAsAList)
+{
+    using Elements = std::vector<std::string>;
+    for (const char* text : {"{}", "1", "null", "\"[]\"", R"({"a":[1]})"})
+        EXPECT_EQ(visited(text), Elements{"is not a list"}) << text;
+    for (const char* text : {"", "[", "]", "[,]", "[}", "\xFF"})
+        EXPECT_EQ(visited(text), Elements{"is not JSON"}) << text;
+    EXPECT_EQ(visited("[1,2"), (Elements{"1", "2", "is not JSON"}));
+    EXPECT_EQ(visited("[1] x"), (Elements{"1", "is not JSON"}));
+    EXPECT_EQ(visited(std::string(1'000'000, '[')), Elements{"is nested too deeply"});
 }
 
 } // namespace

@@ -57,6 +57,11 @@ TYPED_TEST(UserFoldersContract, knowsTheHomeFolder)
     EXPECT_EQ(this->user.folders().home(), this->user.home);
 }
 
+TYPED_TEST(UserFoldersContract, knowsWhereProgramsKeepTheirFiles)
+{
+    EXPECT_EQ(this->user.folders().dataHome(), this->user.home / ".local/share");
+}
+
 TYPED_TEST(UserFoldersContract, knowsWhereDownloadsGoAtTheMomentOfAsking)
 {
     this->user.setDownloads("/data/one");

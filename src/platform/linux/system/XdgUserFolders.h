@@ -24,13 +24,12 @@ public:
     explicit XdgUserFolders(const Environment& environment);
 
     std::filesystem::path home() const override { return home_; }
+    std::filesystem::path dataHome() const override { return dataHome_; }
     /// As `user-dirs.dirs` says at the moment of asking.
     std::optional<std::filesystem::path> downloads() const override;
 
     /// Where programs keep their settings; it may not exist yet.
     const std::filesystem::path& configHome() const { return configHome_; }
-    /// Where programs keep their files; it may not exist yet.
-    const std::filesystem::path& dataHome() const { return dataHome_; }
 
 private:
     std::filesystem::path home_;
