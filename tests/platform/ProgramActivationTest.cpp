@@ -6,6 +6,7 @@
 #include "support/screen/DesktopWindows.h"
 #include "support/windows/PlainWindow.h"
 
+#include <QGuiApplication>
 #include <QWindow>
 #include <gtest/gtest.h>
 
@@ -32,7 +33,7 @@ public:
         window_.show();
         loopUntil([&] { return windows_.managed().size() == 2; });
         loseFocus();
-        loopUntil([&] { return !activation_.isActive(); });
+        loopUntil([] { return QGuiApplication::applicationState() != Qt::ApplicationActive; });
     }
 
     ProgramActivation& activation() { return activation_; }
@@ -76,7 +77,8 @@ TYPED_TEST(ProgramActivationContract, notifiesEachTimeTheProgramBecomesActive)
         EXPECT_TRUE(this->focus.until([&] { return this->notified == time; }));
         EXPECT_TRUE(this->focus.activation().isActive());
         this->focus.loseFocus();
-        EXPECT_TRUE(this->focus.until([&] { return !this->focus.activation().isActive(); }));
+        EXPECT_TRUE(this->focus.until([&] { return this->resigned == time; }));
+        EXPECT_FALSE(this->focus.activation().isActive());
         EXPECT_EQ(this->notified, time);
     }
 }

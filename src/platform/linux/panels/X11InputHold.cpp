@@ -32,8 +32,10 @@ bool X11InputHold::take()
     constexpr auto async = XCB_GRAB_MODE_ASYNC;
     const auto keysRequest
         = xcb_grab_keyboard(server_, false, window_, XCB_CURRENT_TIME, async, async);
+    // From the first moment: a click that comes at once is not lost.
+    constexpr std::uint16_t clicks = XCB_EVENT_MASK_BUTTON_PRESS | XCB_EVENT_MASK_BUTTON_RELEASE;
     const auto pointerRequest = xcb_grab_pointer(
-        server_, false, window_, 0, async, async, XCB_NONE, XCB_NONE, XCB_CURRENT_TIME);
+        server_, false, window_, clicks, async, async, XCB_NONE, XCB_NONE, XCB_CURRENT_TIME);
     const X11Message<xcb_grab_keyboard_reply_t> keys(
         xcb_grab_keyboard_reply(server_, keysRequest, nullptr));
     const X11Message<xcb_grab_pointer_reply_t> pointer(
