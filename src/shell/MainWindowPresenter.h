@@ -15,8 +15,8 @@ namespace brindlex {
 
 /// Brings the main window before the user's eyes, however late it comes and however slow the
 /// desktop is: a try at once, and more after 50, 150, 300, 600 and 1000 ms, until one succeeds.
-/// What makes the program active is seen at once: a late try would take the keys from the window
-/// that the user has opened since.
+/// Besides, there is one when the program has become active, so that no late try takes the keys
+/// from another window that the user has opened since.
 ///
 /// A later request takes the place of an earlier one. The tries end when the window is closed or
 /// replaced, and, unless they follow the dock icon's going, when the user has seen the window and

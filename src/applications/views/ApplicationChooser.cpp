@@ -120,7 +120,7 @@ bool ApplicationChooser::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched != search_ || event->type() != QEvent::KeyPress)
         return QDialog::eventFilter(watched, event);
-    const auto* const key = static_cast<QKeyEvent*>(event);
+    const auto* const key = dynamic_cast<QKeyEvent*>(event);
     const int step = key->key() == Qt::Key_Down ? 1 : key->key() == Qt::Key_Up ? -1 : 0;
     const auto next = model_->index(list_->currentIndex().row() + step);
     if (step == 0)

@@ -66,7 +66,7 @@ bool SuggestionList::eventFilter(QObject* watched, QEvent* event)
     if (watched == &field_ && event->type() == QEvent::FocusOut)
         hide();
     if (watched == &field_ && event->type() == QEvent::KeyPress && isVisible())
-        return handleKey(static_cast<QKeyEvent*>(event)->key());
+        return handleKey(dynamic_cast<QKeyEvent*>(event)->key());
     return QListView::eventFilter(watched, event);
 }
 

@@ -72,9 +72,9 @@ bool TableCells::editorEvent(QEvent* event, QAbstractItemModel* model,
     if (!check.isValid())
         return QStyledItemDelegate::editorEvent(event, model, option, index);
     const bool isClick = event->type() == QEvent::MouseButtonRelease
-        && static_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
+        && dynamic_cast<QMouseEvent*>(event)->button() == Qt::LeftButton;
     const bool isKey = event->type() == QEvent::KeyPress
-        && static_cast<QKeyEvent*>(event)->key() == Qt::Key_Space;
+        && dynamic_cast<QKeyEvent*>(event)->key() == Qt::Key_Space;
     if (!isClick && !isKey)
         return false;
     const auto other = check.toInt() == Qt::Checked ? Qt::Unchecked : Qt::Checked;
