@@ -6,7 +6,7 @@
 
 namespace brindlex {
 
-/// Whether the user works in this program. Main thread only.
+/// Whether the user works in this program; it may know before it notifies. Main thread only.
 class ProgramActivation {
 public:
     virtual ~ProgramActivation() = default;

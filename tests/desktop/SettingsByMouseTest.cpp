@@ -1,4 +1,5 @@
 #include "desktop/ProgramDesk.h"
+#include "support/locks/InputGrab.h"
 #include "support/tray/TrayHost.h"
 #include "support/windows/AccessibleControls.h"
 
@@ -49,18 +50,7 @@ protected:
         ASSERT_TRUE(click(button, "Add App"));
         ASSERT_TRUE(isInFront("Choose an Application")) << program->report();
         ASSERT_TRUE(click(button, "Pick a Window")) << controls->report();
-        ASSERT_TRUE(eventually([&] { return areKeysTaken(); })) << program->report();
-    }
-    bool areKeysTaken() const
-    {
-        auto* const server = desk.server.get();
-        const auto request = xcb_grab_keyboard(server, 0, desk.server.root(), XCB_CURRENT_TIME,
-            XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
-        const XReply<xcb_grab_keyboard_reply_t> reply(
-            xcb_grab_keyboard_reply(server, request, nullptr));
-        xcb_ungrab_keyboard(server, XCB_CURRENT_TIME);
-        xcb_flush(server);
-        return !reply || reply->status != XCB_GRAB_STATUS_SUCCESS;
+        ASSERT_TRUE(eventually([&] { return isAllInputTaken(desk.server); })) << program->report();
     }
     /// The rules for applications as they are stored.
     json rules() const
@@ -116,7 +106,7 @@ TEST_F(SettingsByMouse, leaveTheKeysToTheUserWhenTheProgramIsKilledWhileAWindowI
 
     program->child().signal(SIGKILL);
 
-    EXPECT_TRUE(eventually([&] { return !areKeysTaken(); }));
+    EXPECT_TRUE(eventually([&] { return !isAllInputTaken(desk.server); }));
 }
 
 using SettingsByMouseInTime = SettingsByMouse;
@@ -128,13 +118,14 @@ TEST_F(SettingsByMouseInTime, leaveTheKeysToTheUserWhenTheProgramHangsWhileAWind
     program->child().signal(SIGSTOP);
     const auto areLeftToTheUser = [&] {
         desk.input.type("a");
-        return !areKeysTaken();
+        return !isAllInputTaken(desk.server);
     };
     EXPECT_TRUE(eventually(areLeftToTheUser, std::chrono::seconds(1)));
 
     program->child().signal(SIGCONT);
     EXPECT_TRUE(isInFront("Choose an Application")) << program->report();
-    EXPECT_TRUE(throughout(std::chrono::milliseconds(300), [&] { return !areKeysTaken(); }));
+    EXPECT_TRUE(
+        throughout(std::chrono::milliseconds(300), [&] { return !isAllInputTaken(desk.server); }));
 }
 
 } // namespace

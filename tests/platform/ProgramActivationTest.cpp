@@ -2,6 +2,7 @@
 
 #include "platform/linux/panels/QtProgramActivation.h"
 #include "platform/simulated/SimulatedProgramActivation.h"
+#include "support/basics/Eventually.h"
 #include "support/loops/LoopUntil.h"
 #include "support/screen/DesktopWindows.h"
 #include "support/windows/PlainWindow.h"
@@ -46,6 +47,11 @@ public:
     }
     void loseFocus() { windows_.requestActivation(other_.window()); }
     bool until(const std::function<bool()>& condition) { return loopUntil(condition); }
+    /// Leaves the window library in ignorance of it.
+    bool hasOtherFocus() const
+    {
+        return eventually([&] { return windows_.hasFocus(other_.window()); });
+    }
 
 private:
     XConnection server_;
@@ -106,6 +112,18 @@ TYPED_TEST(ProgramActivationContract, notifiesNobodyWhoHasEndedTheSubscription)
 
     EXPECT_EQ(this->notified, 0);
     EXPECT_EQ(this->resigned, 0);
+}
+
+TEST(QtProgramActivation, isNotActiveAsSoonAsAnotherProgramHasTheKeys)
+{
+    RealFocus focus;
+    focus.takeFocus();
+    ASSERT_TRUE(focus.until([&] { return focus.activation().isActive(); }));
+
+    focus.loseFocus();
+    ASSERT_TRUE(focus.hasOtherFocus());
+
+    EXPECT_FALSE(focus.activation().isActive());
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "ui/controls/ToggleSwitch.h"
 
+#include "support/views/ScopedFont.h"
+
 #include <gtest/gtest.h>
 
 namespace brindlex {
@@ -15,6 +17,19 @@ TEST(ToggleSwitch, notifiesOfWhatTheUserSwitches)
     control.click();
 
     EXPECT_EQ(switched, (std::vector<bool>{true, false}));
+}
+
+TEST(ToggleSwitch, growsWithTheText)
+{
+    const Theme theme;
+    ToggleSwitch control(theme, "Name", [](bool) {});
+    const auto usual = control.size();
+
+    const ScopedFont large(2);
+    QApplication::processEvents();
+
+    EXPECT_GT(control.width(), usual.width());
+    EXPECT_EQ(control.size(), control.sizeHint());
 }
 
 TEST(ToggleSwitch, notifiesOfNothingThatTheProgramShows)
