@@ -1,0 +1,58 @@
+#include "platform/FilePreviewing.h"
+
+#include "platform/simulated/SimulatedFilePreviewing.h"
+
+#include <gtest/gtest.h>
+
+namespace brindlex {
+namespace {
+
+using Files = std::vector<std::filesystem::path>;
+
+class SimulatedPreviewDesk {
+public:
+    FilePreviewing& previewing() { return previewing_; }
+    /// What the user sees; none when there is no preview.
+    Files shown() const { return previewing_.shown; }
+
+private:
+    SimulatedFilePreviewing previewing_;
+};
+
+template <typename Desk>
+class FilePreviewingContract : public testing::Test {
+protected:
+    Desk desk;
+    FilePreviewing& previewing = desk.previewing();
+};
+
+using PreviewDesks = testing::Types<SimulatedPreviewDesk>;
+TYPED_TEST_SUITE(FilePreviewingContract, PreviewDesks);
+
+TYPED_TEST(FilePreviewingContract, showsFilesUntilItIsClosed)
+{
+    EXPECT_EQ(this->desk.shown(), Files{});
+    this->previewing.show({"/a.png", "/b.txt"});
+    EXPECT_EQ(this->desk.shown(), (Files{"/a.png", "/b.txt"}));
+    this->previewing.close();
+    EXPECT_EQ(this->desk.shown(), Files{});
+}
+
+TYPED_TEST(FilePreviewingContract, showsOthersInThePlaceOfThoseThatAreShown)
+{
+    this->previewing.show({"/a.png"});
+    this->previewing.show({"/b.txt"});
+    EXPECT_EQ(this->desk.shown(), Files{"/b.txt"});
+}
+
+TYPED_TEST(FilePreviewingContract, mayBeClosedWhenNothingIsShown)
+{
+    this->previewing.close();
+    this->previewing.show({"/a.png"});
+    this->previewing.close();
+    this->previewing.close();
+    EXPECT_EQ(this->desk.shown(), Files{});
+}
+
+} // namespace
+} // namespace brindlex
