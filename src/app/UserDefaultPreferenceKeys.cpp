@@ -1,10 +1,6 @@
 #include "app/UserDefaultPreferenceKeys.h"
 
-#include "preferences/UserDefaultsStorageBox.h"
-
 namespace brindlex {
-
-template struct PreferenceForm<HotkeyCombo>;
 
 UserDefaultPreferenceKeys UserDefaultPreferenceKeys::forUser(const UserFolders& folders)
 {

@@ -14,8 +14,6 @@
 
 namespace brindlex {
 
-extern template struct PreferenceForm<HotkeyCombo>;
-
 /// All preferences of the program in their order, as the rooms declare them.
 /// A preference is named by its member, `&UserDefaultPreferenceKeys::launchAtLogin`.
 struct UserDefaultPreferenceKeys {

@@ -7,6 +7,8 @@
 
 namespace brindlex {
 
+extern template struct PreferenceForm<HotkeyCombo>;
+
 /// The preferences of the clipboard history.
 struct ClipboardPreferenceKeys {
     PreferenceKey<bool> clipboardHistoryEnabled{true, "clipboardHistoryEnabled"};

@@ -44,7 +44,7 @@ const std::map<std::string, std::vector<std::string>> sourcesWithoutATestOfTheir
     {"SwitchReducerSelectionTest and its neighbours", {"SwitchAttempt"}},
     {"X11ApplicationOpeningTest, with a shell on a real bus", {"DesktopOverview"}},
     {"UserDefaultPreferenceKeysTest and the tests of the stores",
-        {"InputMethodPreferenceKeys", "MousePreferenceKeys"}},
+        {"ClipboardPreferenceKeys", "InputMethodPreferenceKeys", "MousePreferenceKeys"}},
     {"AppLifecycleCoordinatorTest", {"SharedInstances"}},
     {"ScreenGalleryTest, which walks all screens, and the tests of the screens",
         {"AboutScreen", "ApplicationIcon", "Buttons", "Card", "EmptyState", "GeneralScreen",
