@@ -57,16 +57,22 @@ struct PasteboardContent {
 /// All reads are of one state, the one that the change count names: it is in memory, so that no
 /// read waits for another program, and it becomes another one only between two pieces of work of
 /// the main thread. What an application has only just copied is there once it has been fetched.
+///
+/// Contents are fetched for observers only: of what is copied while nobody observes, the change
+/// count tells and nothing can be read. Files come before a picture and a picture before a text: of
+/// a content with several forms the later ones may be missing. While somebody observes, contents
+/// stay when the application that has copied them ends, unless they are marked as a secret.
 class Pasteboard {
 public:
     virtual ~Pasteboard() = default;
 
     /// Another and larger number after each change, whoever made it, also of one that puts there
-    /// what was there before.
+    /// what was there before. Changes that follow one another quickly may be counted together.
     virtual std::int64_t changeCount() const = 0;
 
     /// Notifies the observer after each change, never inside another call; changes that follow one
-    /// another quickly may be notified together. May be ended from inside the handler.
+    /// another quickly may be notified together. May be ended from inside the handler, and outlive
+    /// the pasteboard.
     virtual Subscription observeChanges(std::function<void()> handler) = 0;
 
     /// The types of what is there, as the application offers them; none for an empty pasteboard.

@@ -30,6 +30,7 @@ struct ClipboardReaderTest : ClipboardHistoryStoreTest {
     }
 
     SimulatedPasteboard pasteboard{mainThread};
+    const Subscription observed = pasteboard.observeChanges([] {});
     SimulatedImageConverting images;
 };
 

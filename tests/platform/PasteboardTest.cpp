@@ -1,8 +1,13 @@
 #include "platform/Pasteboard.h"
 
+#include "platform/linux/pasteboard/FileUris.h"
+#include "platform/linux/pasteboard/X11Pasteboard.h"
 #include "platform/simulated/SimulatedClock.h"
 #include "platform/simulated/SimulatedMainThread.h"
 #include "platform/simulated/SimulatedPasteboard.h"
+#include "support/clipboard/SelectionOwner.h"
+#include "support/loops/QtLoop.h"
+#include "support/screen/VirtualDesktop.h"
 
 #include <gtest/gtest.h>
 
@@ -26,15 +31,54 @@ private:
     SimulatedPasteboard pasteboard_{mainThread_};
 };
 
+/// The clipboard of a real X server and an application that owns it.
+class X11Desk {
+public:
+    Pasteboard& pasteboard() { return pasteboard_; }
+    void copyText(const std::string& text) { copy({{"UTF8_STRING", text}}); }
+    void copyFiles(const Texts& paths) { copy({{"text/uri-list", uriListOf(paths)}}); }
+    void copyPng(const std::string& bytes) { copy({{"image/png", bytes}}); }
+    void settle()
+    {
+        EXPECT_TRUE(loop_.runUntil([&] { return pasteboard_.changeCount() > countBeforeCopy_; }));
+        bool isIdle = false;
+        loop_.mainThread().post([&] { isIdle = true; });
+        loop_.runUntil([&] { return isIdle; });
+    }
+
+private:
+    void copy(const std::map<std::string, std::string>& contents)
+    {
+        countBeforeCopy_ = pasteboard_.changeCount();
+        application_ = std::make_unique<SelectionOwner>(SelectionOwner::Offer{contents});
+    }
+
+    VirtualDesktop desktop_{{.windowManager = WindowManager::none, .sessionBus = false}};
+    QtLoop loop_;
+    X11Pasteboard pasteboard_{loop_.mainThread()};
+    std::int64_t countBeforeCopy_ = -1;
+    std::unique_ptr<SelectionOwner> application_;
+};
+
 template <typename Desk>
 class PasteboardContract : public testing::Test {
 protected:
     Desk desk;
     Pasteboard& pasteboard = desk.pasteboard();
+    /// Contents are fetched for observers only.
+    Subscription observed = pasteboard.observeChanges([] {});
 };
 
-using Desks = testing::Types<SimulatedDesk>;
-TYPED_TEST_SUITE(PasteboardContract, Desks);
+using Desks = testing::Types<SimulatedDesk, X11Desk>;
+class DeskNames {
+public:
+    template <typename Desk>
+    static std::string GetName(int)
+    {
+        return std::is_same_v<Desk, X11Desk> ? "X11" : "Simulated";
+    }
+};
+TYPED_TEST_SUITE(PasteboardContract, Desks, DeskNames);
 
 TYPED_TEST(PasteboardContract, isEmptyUntilSomebodyCopies)
 {
@@ -93,6 +137,22 @@ TYPED_TEST(PasteboardContract, countsEachChange)
     }
     this->desk.settle();
     EXPECT_EQ(this->pasteboard.changeCount(), last);
+}
+
+TYPED_TEST(PasteboardContract, countsWhatIsCopiedWhileNobodyObservesAndDoesNotReadIt)
+{
+    this->observed.reset();
+    const auto before = this->pasteboard.changeCount();
+    this->desk.copyText("text");
+    this->desk.settle();
+    EXPECT_GT(this->pasteboard.changeCount(), before);
+    EXPECT_EQ(this->pasteboard.types(), Texts{});
+    EXPECT_EQ(this->pasteboard.text(), std::nullopt);
+
+    this->observed = this->pasteboard.observeChanges([] {});
+    this->desk.copyText("another");
+    this->desk.settle();
+    EXPECT_EQ(this->pasteboard.text(), "another");
 }
 
 TYPED_TEST(PasteboardContract, notifiesOfChangesOnceTheyCanBeRead)

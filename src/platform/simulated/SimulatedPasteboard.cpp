@@ -40,18 +40,19 @@ std::shared_ptr<const std::string> SimulatedPasteboard::data(std::string_view ty
 
 void SimulatedPasteboard::write(PasteboardContent::Any content)
 {
-    match(
-        std::move(content), [this](const PasteboardContent::Nothing&) { copy({}); },
-        [this](const PasteboardContent::Text& text) { copyText(text.text); },
-        [this](const PasteboardContent::Files& files) { copyFiles(files.paths); },
-        [this](const PasteboardContent::Data& data) { copyData(data.type, data.bytes); });
+    put(stateOf(std::move(content)));
 }
 
 void SimulatedPasteboard::copy(Offer offer)
 {
+    if (offer.text)
+        offer.text = wellFormed(*offer.text);
+    put(observers_.isEmpty() ? Offer{} : std::move(offer));
+}
+
+void SimulatedPasteboard::put(Offer offer)
+{
     offer_ = std::move(offer);
-    if (offer_.text)
-        offer_.text = wellFormed(*offer_.text);
     ++changeCount_;
     mainThread_.post([this, alive = lifetime_.watch()] {
         if (!alive.expired())

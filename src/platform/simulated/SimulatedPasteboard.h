@@ -3,9 +3,8 @@
 #include "foundation/Lifetime.h"
 #include "foundation/Subscribers.h"
 #include "platform/MainThread.h"
-#include "platform/Pasteboard.h"
+#include "platform/PasteboardState.h"
 
-#include <map>
 #include <string>
 #include <vector>
 
@@ -15,15 +14,7 @@ namespace brindlex {
 class SimulatedPasteboard final : public Pasteboard {
 public:
     /// What an application offers.
-    struct Offer {
-        std::vector<std::string> types{};
-        std::optional<std::string> text{};
-        std::vector<std::string> filePaths{};
-        /// By type.
-        std::map<std::string, std::string, std::less<>> data{};
-
-        bool operator==(const Offer&) const = default;
-    };
+    using Offer = PasteboardState;
 
     explicit SimulatedPasteboard(MainThread& mainThread) : mainThread_(mainThread) { }
 
@@ -48,6 +39,8 @@ public:
     int reads() const { return reads_; }
 
 private:
+    void put(Offer offer);
+
     MainThread& mainThread_;
     std::int64_t changeCount_ = 0;
     Offer offer_;
