@@ -41,6 +41,13 @@ std::uint8_t followOwnersOf(X11Connection& connection, xcb_window_t window, xcb_
     return extension->first_event;
 }
 
+/// Who copies from the owner's end on stays the owner, also in its very millisecond: a selection is
+/// taken over by whoever says the time of the last change or a later one.
+xcb_timestamp_t momentBeforeEnd(const xcb_xfixes_selection_notify_event_t& end)
+{
+    return end.timestamp == end.selection_timestamp ? end.timestamp : end.timestamp - 1;
+}
+
 xcb_window_t ownerOf(X11Connection& connection, xcb_atom_t selection)
 {
     const X11Message<xcb_get_selection_owner_reply_t> reply(xcb_get_selection_owner_reply(
@@ -129,9 +136,8 @@ void X11ClipboardWorker::followOwner(const xcb_xfixes_selection_notify_event_t& 
     const bool hasEnded = change.subtype != XCB_XFIXES_SELECTION_EVENT_SET_SELECTION_OWNER;
     if (!hasEnded || !isObserved_ || !before || isEmpty(*before))
         return report({});
-    // With the time of the owner's end: who has copied since then stays the owner.
     own_ = before;
-    xcb_set_selection_owner(connection_.get(), window_, clipboard_, change.timestamp);
+    xcb_set_selection_owner(connection_.get(), window_, clipboard_, momentBeforeEnd(change));
     xcb_flush(connection_.get());
 }
 
