@@ -2,6 +2,8 @@
 
 #include "platform/linux/bus/SessionBusAddress.h"
 #include "platform/linux/programwindows/QtProgramWindows.h"
+#include "platform/simulated/SimulatedClock.h"
+#include "platform/simulated/SimulatedMainThread.h"
 #include "platform/simulated/SimulatedProgramWindows.h"
 #include "support/loops/LoopUntil.h"
 #include "support/screen/DesktopWindows.h"

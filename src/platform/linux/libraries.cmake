@@ -8,7 +8,6 @@ pkg_check_modules(XCB_INPUT REQUIRED IMPORTED_TARGET GLOBAL
     x11 xcb xcb-randr xcb-xfixes xcb-xinput xcb-xtest)
 pkg_check_modules(XCB_RENDER REQUIRED IMPORTED_TARGET GLOBAL xcb xcb-render xcb-renderutil)
 pkg_check_modules(XCB_RES REQUIRED IMPORTED_TARGET GLOBAL xcb xcb-res)
-pkg_check_modules(XCB_PRESSES REQUIRED IMPORTED_TARGET GLOBAL xcb xcb-xinput)
 pkg_check_modules(XKB_REGISTRY REQUIRED IMPORTED_TARGET GLOBAL xkbcommon xkbregistry)
 
 # Qt as every room uses it.

@@ -3,6 +3,7 @@
 #include "platform/linux/panels/ActiveScreen.h"
 #include "platform/linux/panels/PillHUDView.h"
 #include "platform/linux/panels/RoundedRegion.h"
+#include "platform/linux/x11/X11Compositor.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -60,7 +61,8 @@ public:
         fade_.stop();
         const auto space = screen->availableGeometry();
         view_.emplace(text, static_cast<int>(space.width() * mostShareForText));
-        fill_ = hasCompositor() ? PillHUDView::Fill::translucent : PillHUDView::Fill::opaque;
+        fill_ = hasCompositor(connection_) ? PillHUDView::Fill::translucent
+                                           : PillHUDView::Fill::opaque;
 
         // Nobody sees the title; it is for programs that ask what a window says.
         setTitle(text);
@@ -113,14 +115,6 @@ private:
             connection_.atom("_GTK_FRAME_EXTENTS"), XCB_ATOM_CARDINAL, 32, noMargins.size(),
             noMargins.data());
         xcb_flush(connection_.get());
-    }
-
-    bool hasCompositor() const
-    {
-        const auto selection = connection_.atom("_NET_WM_CM_S0");
-        const X11Message<xcb_get_selection_owner_reply_t> owner(xcb_get_selection_owner_reply(
-            connection_.get(), xcb_get_selection_owner(connection_.get(), selection), nullptr));
-        return owner && owner->owner != XCB_WINDOW_NONE;
     }
 
     void fadeTo(double target, int milliseconds)

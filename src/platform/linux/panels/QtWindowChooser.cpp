@@ -42,13 +42,6 @@ std::vector<WindowLabel> labelsOf(const std::vector<OpenWindow>& windows)
     return labels;
 }
 
-/// Returns when the X server has what the windows asked for.
-void waitForServer(xcb_connection_t* server)
-{
-    const X11Message<xcb_get_input_focus_reply_t> reply(
-        xcb_get_input_focus_reply(server, xcb_get_input_focus(server), nullptr));
-}
-
 /// Says that the window is a menu, which has the pointer and the keys to itself as no other does.
 void callMenu(X11Connection& connection, xcb_connection_t* server, xcb_window_t window)
 {
@@ -91,7 +84,7 @@ public:
         setKeyboardGrabEnabled(false);
         hold_.reset();
         hide();
-        waitForServer(windowsServer());
+        waitForWindowsServer();
     }
 
 protected:

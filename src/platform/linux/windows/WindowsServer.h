@@ -8,4 +8,7 @@ namespace brindlex {
 /// order with those of the window library; null where the windows are not those of an X server.
 xcb_connection_t* windowsServer();
 
+/// Returns when the X server has what the program's windows have asked for.
+void waitForWindowsServer();
+
 } // namespace brindlex
