@@ -37,6 +37,8 @@ inline constexpr std::uint16_t rightOption = 61;
 inline constexpr std::uint16_t rightControl = 62;
 inline constexpr std::uint16_t function = 63;
 inline constexpr std::uint16_t f11 = 103;
+/// Insert on the keyboard of a PC.
+inline constexpr std::uint16_t help = 114;
 inline constexpr std::uint16_t forwardDelete = 117;
 inline constexpr std::uint16_t leftArrow = 123;
 inline constexpr std::uint16_t rightArrow = 124;

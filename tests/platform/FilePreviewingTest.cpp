@@ -1,8 +1,13 @@
 #include "platform/FilePreviewing.h"
 
+#include "platform/linux/panels/QtFilePreviewing.h"
 #include "platform/simulated/SimulatedFilePreviewing.h"
+#include "support/loops/LoopUntil.h"
+#include "support/screen/DesktopWindows.h"
 
+#include <QLabel>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace brindlex {
 namespace {
@@ -19,6 +24,33 @@ private:
     SimulatedFilePreviewing previewing_;
 };
 
+/// A screen whose previews are seen as windows.
+class RealPreviewDesk {
+public:
+    RealPreviewDesk()
+    {
+        previewing_.setView([this](const Files& files, const QSize&) {
+            files_ = files;
+            auto view = std::make_unique<QLabel>();
+            view->setFixedSize(100, 100);
+            return view;
+        });
+    }
+
+    FilePreviewing& previewing() { return previewing_; }
+    Files shown() const
+    {
+        loopThroughout(std::chrono::milliseconds(50), [] { return true; });
+        return windows_.unmanagedOf(getpid()).size() == 1 ? files_ : Files{};
+    }
+
+private:
+    XConnection server_;
+    DesktopWindows windows_{server_};
+    Files files_;
+    QtFilePreviewing previewing_;
+};
+
 template <typename Desk>
 class FilePreviewingContract : public testing::Test {
 protected:
@@ -26,7 +58,7 @@ protected:
     FilePreviewing& previewing = desk.previewing();
 };
 
-using PreviewDesks = testing::Types<SimulatedPreviewDesk>;
+using PreviewDesks = testing::Types<SimulatedPreviewDesk, RealPreviewDesk>;
 TYPED_TEST_SUITE(FilePreviewingContract, PreviewDesks);
 
 TYPED_TEST(FilePreviewingContract, showsFilesUntilItIsClosed)

@@ -1,10 +1,14 @@
 #include "platform/Pasting.h"
 
 #include "platform/PasteKeystroke.h"
+#include "platform/linux/input/X11Pasting.h"
 #include "platform/simulated/SimulatedInput.h"
 #include "platform/simulated/SimulatedPasting.h"
+#include "support/hardware/TappedDesktop.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
 
 namespace brindlex {
 namespace {
@@ -15,7 +19,7 @@ public:
     Pasting& pasting() { return pasting_; }
     EventTapping& tapping() { return input_; }
     /// How often the application has been told to paste.
-    int timesPasted() const
+    int timesPasted()
     {
         int times = 0;
         for (const auto& event : input_.delivered())
@@ -31,13 +35,31 @@ private:
     SimulatedPasting pasting_{input_};
 };
 
+/// A window on a real server.
+class X11Typing {
+public:
+    Pasting& pasting() { return pasting_; }
+    EventTapping& tapping() { return desktop_.tapping; }
+    int timesPasted()
+    {
+        desktop_.settle();
+        return static_cast<int>(
+            std::ranges::count(desktop_.window.lines(), "key 55 down (control)"));
+    }
+
+private:
+    TappedDesktop desktop_;
+    X11Connection display_;
+    X11Pasting pasting_{display_, desktop_.posting, [](auto isShared) { isShared(); }};
+};
+
 template <typename Session>
 class PastingContract : public testing::Test {
 protected:
     Session session;
 };
 
-using TypingSessions = testing::Types<SimulatedTyping>;
+using TypingSessions = testing::Types<SimulatedTyping, X11Typing>;
 TYPED_TEST_SUITE(PastingContract, TypingSessions);
 
 TYPED_TEST(PastingContract, hasTheApplicationPasteEachTime)

@@ -31,6 +31,14 @@ void X11ClipboardThread::write(std::shared_ptr<const PasteboardState> state)
     post([this, state = std::move(state)] { worker_->write(state); });
 }
 
+void X11ClipboardThread::shareWithMouse(std::function<void()> isShared)
+{
+    post([this, isShared = std::move(isShared)] {
+        worker_->shareWithMouse();
+        isShared();
+    });
+}
+
 void X11ClipboardThread::run(const std::string& display, const PasteboardLimits& limits,
     const std::atomic<bool>& isObserved, const X11ClipboardWorker::Handler& handler)
 {

@@ -6,6 +6,7 @@
 #include <QThread>
 
 #include <atomic>
+#include <functional>
 #include <future>
 #include <memory>
 
@@ -27,6 +28,9 @@ public:
     void waitUntilReady() const { ready_.wait(); }
 
     void write(std::shared_ptr<const PasteboardState> state);
+
+    /// See `X11ClipboardWorker::shareWithMouse`; `isShared` is called on the thread.
+    void shareWithMouse(std::function<void()> isShared);
 
 private:
     void run(const std::string& display, const PasteboardLimits& limits,

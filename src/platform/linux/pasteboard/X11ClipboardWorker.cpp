@@ -84,12 +84,34 @@ void X11ClipboardWorker::write(std::shared_ptr<const PasteboardState> state)
     xcb_flush(connection_.get());
 }
 
+void X11ClipboardWorker::shareWithMouse()
+{
+    // While a write is on its way the server is about to say that it was done.
+    if (!own_ || !(isOwner_ || pendingWrite_))
+        return;
+    auto* const server = connection_.get();
+    xcb_xfixes_select_selection_input(
+        server, window_, XCB_ATOM_PRIMARY, XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER);
+    xcb_set_selection_owner(server, window_, XCB_ATOM_PRIMARY, XCB_CURRENT_TIME);
+    ownerOf(connection_, XCB_ATOM_PRIMARY);
+}
+
+/// With the time at which it began: who has selected something since keeps that.
+void X11ClipboardWorker::endSharing()
+{
+    if (const auto since = std::exchange(sharedSince_, std::nullopt))
+        xcb_set_selection_owner(connection_.get(), XCB_WINDOW_NONE, XCB_ATOM_PRIMARY, *since);
+}
+
 void X11ClipboardWorker::receive(const xcb_generic_event_t& event)
 {
     const auto kind = event.response_type & 0x7F;
     if (firstXFixesEvent_ == 0 || kind != firstXFixesEvent_ + XCB_XFIXES_SELECTION_NOTIFY)
         return;
     const auto& change = reinterpret_cast<const xcb_xfixes_selection_notify_event_t&>(event);
+    if (change.selection == XCB_ATOM_PRIMARY)
+        sharedSince_
+            = change.owner == window_ ? std::optional(change.selection_timestamp) : std::nullopt;
     if (change.selection != clipboard_ || isOutOfDate(event))
         return;
     const bool isDoneWrite = pendingWrite_.has_value();
@@ -122,6 +144,7 @@ void X11ClipboardWorker::becomeOther()
     read_.reset();
     isOwner_ = false;
     offer_.offer(nullptr);
+    endSharing();
 }
 
 void X11ClipboardWorker::followOwner(const xcb_xfixes_selection_notify_event_t& change)

@@ -46,6 +46,10 @@ public:
     /// Puts the state there; one with nothing to read leaves the clipboard without an owner.
     void write(std::shared_ptr<const PasteboardState> state);
 
+    /// Makes what the program has put there what is selected with the mouse, too, as long as it is
+    /// there and nobody selects anything else. Nothing happens while it is another's.
+    void shareWithMouse();
+
     /// Hands what the program owns to the session's clipboard manager, where there is one, and then
     /// calls the handler, in any case in time.
     void end(std::function<void()> ended);
@@ -56,6 +60,7 @@ private:
     void followOwner(const xcb_xfixes_selection_notify_event_t& change);
     void becomeOwner(xcb_timestamp_t since);
     void becomeOther();
+    void endSharing();
     void read(xcb_timestamp_t since);
     void report(PasteboardState state);
     void log(const std::string& problem);
@@ -76,6 +81,8 @@ private:
     /// What the program has put there or wants to put there.
     std::shared_ptr<const PasteboardState> own_;
     bool isOwner_ = false;
+    /// While what is selected with the mouse is the program's.
+    std::optional<xcb_timestamp_t> sharedSince_;
     std::uint64_t writes_ = 0;
     /// The number of the request by which the program wrote last, until the server has said that it
     /// was done: what it says of the time before is out of date.

@@ -45,6 +45,11 @@ void X11Pasteboard::write(PasteboardContent::Any content)
     change(state);
 }
 
+void X11Pasteboard::shareWithMouse(std::function<void()> isShared)
+{
+    thread_.shareWithMouse([this, isShared = std::move(isShared)] { mainThread_.post(isShared); });
+}
+
 void X11Pasteboard::take(std::shared_ptr<const PasteboardState> state, std::uint64_t writes)
 {
     if (writes == writes_)

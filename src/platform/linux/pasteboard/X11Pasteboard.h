@@ -15,7 +15,7 @@ namespace brindlex {
 /// The pasteboard of an X session: the selection `CLIPBOARD`.
 ///
 /// A thread with its own connection to the server talks with the applications; here is what it has
-/// read last. What is selected with the mouse (`PRIMARY`) is not on it.
+/// read last. What is selected with the mouse (`PRIMARY`) is not on it, but see `shareWithMouse`.
 class X11Pasteboard final : public Pasteboard {
 public:
     /// `mainThread` outlives it.
@@ -28,6 +28,11 @@ public:
     std::vector<std::string> filePaths() const override { return state_->filePaths; }
     std::shared_ptr<const std::string> data(std::string_view type) const override;
     void write(PasteboardContent::Any content) override;
+
+    /// Makes what the program has written what is selected with the mouse, too, for applications
+    /// that paste only that; `isShared` is called from the loop once it is. Nothing is shared, but
+    /// the call comes, when another application has copied since.
+    void shareWithMouse(std::function<void()> isShared);
 
 private:
     void take(std::shared_ptr<const PasteboardState> state, std::uint64_t writes);

@@ -1,4 +1,5 @@
 #include "platform/linux/pasteboard/X11PasteboardFixture.h"
+#include "support/windows/PrimarySelection.h"
 
 #include <algorithm>
 #include <sstream>
@@ -188,6 +189,48 @@ TEST_F(X11PasteboardOffer, neverTakesTheClipboardFromWhoHasCopiedSince)
         ASSERT_TRUE(loop.runUntil([&] { return pasteboard->text() == text; })) << turn;
         ASSERT_EQ(read("UTF8_STRING"), text);
     }
+}
+
+struct X11PasteboardMouse : X11PasteboardOffer {
+    void share()
+    {
+        bool isShared = false;
+        pasteboard->shareWithMouse([&] { isShared = true; });
+        EXPECT_TRUE(loop.runUntil([&] { return isShared; }));
+    }
+};
+
+TEST_F(X11PasteboardMouse, hasNothingThatWasOnlyWritten)
+{
+    pasteboard->write(PasteboardContent::Text{"text"});
+    ASSERT_TRUE(eventually([&] { return read("UTF8_STRING") == "text"; }));
+    EXPECT_EQ(primarySelection(server), "nothing");
+}
+
+TEST_F(X11PasteboardMouse, hasWhatIsSharedAtOnce)
+{
+    pasteboard->write(PasteboardContent::Text{"text"});
+    share();
+    EXPECT_EQ(primarySelection(server), "text");
+}
+
+TEST_F(X11PasteboardMouse, hasNothingOnceAnotherApplicationHasCopied)
+{
+    pasteboard->write(PasteboardContent::Text{"text"});
+    share();
+    copy({{"UTF8_STRING", "other"}});
+    EXPECT_TRUE(eventually([&] { return primarySelection(server) == "nothing"; }));
+    share();
+    EXPECT_EQ(primarySelection(server), "nothing");
+}
+
+TEST_F(X11PasteboardMouse, leavesASelectionThatCameLaterWhereItIs)
+{
+    pasteboard->write(PasteboardContent::Text{"text"});
+    share();
+    const SelectionOwner selected({.contents = {{"STRING", "selected"}}, .selection = "PRIMARY"});
+    copy({{"UTF8_STRING", "other"}});
+    EXPECT_EQ(primarySelection(server), "selected");
 }
 
 TEST_F(X11PasteboardOffer, isHandedToTheClipboardManagerAtTheEnd)
