@@ -17,6 +17,7 @@
 #include "catalogue/texts/MouseTexts.h"
 #include "catalogue/texts/OcrTexts.h"
 #include "catalogue/texts/PermissionsTexts.h"
+#include "catalogue/texts/PickerTexts.h"
 #include "catalogue/texts/PlaceholderTexts.h"
 #include "catalogue/texts/SharedTexts.h"
 #include "catalogue/texts/TabTexts.h"
@@ -44,7 +45,7 @@ consteval auto joinedRows(const std::array<CatalogueRow, sizes>&... groups)
 inline constexpr auto catalogueTable = joinedRows(tabTexts, clipboardTexts, generalTexts,
     menubarTexts, ocrTexts, sharedTexts, finderTexts, inputMethodTexts, mouseTexts, aboutTexts,
     logsTexts, permissionsTexts, placeholderTexts, controlsTexts, chooserTexts, whyTexts,
-    updatesTexts, guideTexts, logTableTexts, aboutDetailTexts, keysTexts);
+    updatesTexts, guideTexts, logTableTexts, aboutDetailTexts, keysTexts, pickerTexts);
 
 /// Where the key stands in the table; its size for a key that does not.
 constexpr std::size_t catalogueIndex(std::string_view key)

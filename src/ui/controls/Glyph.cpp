@@ -33,6 +33,8 @@ const char* shapesOf(Glyph glyph)
     case Glyph::dictation:
         return "<rect x='9' y='3' width='6' height='11' rx='3'/>"
                "<path d='M6 11a6 6 0 0 0 12 0M12 17v4'/>";
+    case Glyph::file:
+        return "<path d='M6 4a1 1 0 0 1 1-1h7l5 5v12a1 1 0 0 1-1 1H7a1 1 0 0 1-1-1zM14 3v5h5'/>";
     case Glyph::files:
         return "<path d='M3 18V7a2 2 0 0 1 2-2h4l2 2h8a2 2 0 0 1 2 2v9a2 2 0 0 1-2 2H5"
                "a2 2 0 0 1-2-2z'/>";
@@ -55,12 +57,17 @@ const char* shapesOf(Glyph glyph)
     case Glyph::person:
         return "<circle cx='12' cy='6' r='2'/>"
                "<path d='M5 10c4 1.5 10 1.5 14 0M12 11v4l-3 6M12 15l3 6'/>";
+    case Glyph::picture:
+        return "<rect x='3' y='5' width='18' height='14' rx='2'/><circle cx='8.5' cy='10' r='1.5'/>"
+               "<path d='m5 17 5-4 3 2 4-4 4 4'/>";
     case Glyph::reload:
         return "<path d='M20 12a8 8 0 1 1-2.5-5.8M20 3v5h-5'/>";
     case Glyph::search:
         return "<circle cx='11' cy='11' r='6'/><path d='m20 20-4.5-4.5'/>";
     case Glyph::target:
         return "<circle cx='12' cy='12' r='6'/><path d='M12 2v6M12 16v6M2 12h6M16 12h6'/>";
+    case Glyph::text:
+        return "<path d='M5 7h14M5 12h14M5 17h8'/>";
     case Glyph::trash:
         return "<path d='M5 7h14M9 7V4h6v3M7 7l1 13h8l1-13'/>";
     case Glyph::warning:
