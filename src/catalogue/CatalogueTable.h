@@ -4,6 +4,7 @@
 #include "catalogue/texts/AboutTexts.h"
 #include "catalogue/texts/CatalogueRow.h"
 #include "catalogue/texts/ChooserTexts.h"
+#include "catalogue/texts/ClipboardTabTexts.h"
 #include "catalogue/texts/ClipboardTexts.h"
 #include "catalogue/texts/ControlsTexts.h"
 #include "catalogue/texts/FinderTexts.h"
@@ -42,10 +43,11 @@ consteval auto joinedRows(const std::array<CatalogueRow, sizes>&... groups)
 }
 
 /// Every text of the program.
-inline constexpr auto catalogueTable = joinedRows(tabTexts, clipboardTexts, generalTexts,
-    menubarTexts, ocrTexts, sharedTexts, finderTexts, inputMethodTexts, mouseTexts, aboutTexts,
-    logsTexts, permissionsTexts, placeholderTexts, controlsTexts, chooserTexts, whyTexts,
-    updatesTexts, guideTexts, logTableTexts, aboutDetailTexts, keysTexts, pickerTexts);
+inline constexpr auto catalogueTable
+    = joinedRows(tabTexts, clipboardTexts, generalTexts, menubarTexts, ocrTexts, sharedTexts,
+        finderTexts, inputMethodTexts, mouseTexts, aboutTexts, logsTexts, permissionsTexts,
+        placeholderTexts, controlsTexts, chooserTexts, whyTexts, updatesTexts, guideTexts,
+        logTableTexts, aboutDetailTexts, keysTexts, pickerTexts, clipboardTabTexts);
 
 /// Where the key stands in the table; its size for a key that does not.
 constexpr std::size_t catalogueIndex(std::string_view key)

@@ -7,8 +7,10 @@
 namespace brindlex {
 
 KeyRecorder::KeyRecorder(GlobalEventTap& tap, ProgramActivation& activation,
-    std::function<void(const HotkeyCombo&)> recorded)
-    : tap_(tap), activation_(activation), recorded_(std::move(recorded))
+    std::function<void(const HotkeyCombo&)> recorded,
+    std::function<bool(const HotkeyCombo&)> accepts)
+    : tap_(tap), activation_(activation), recorded_(std::move(recorded)),
+      accepts_(std::move(accepts))
 {
 }
 
@@ -41,9 +43,13 @@ EventVerdict KeyRecorder::receive(const Event& event)
 {
     if (!activation_.isActive())
         return EventVerdict::pass;
-    const auto keyCode = event.value(EventField::keyboardEventKeycode);
-    if (keyCode != virtualKey::escape)
-        recorded_({keyCode, ModifierSet::fromEventFlags(event.flags)});
+    const HotkeyCombo combo{
+        event.value(EventField::keyboardEventKeycode), ModifierSet::fromEventFlags(event.flags)};
+    const bool isEscape = combo.keyCode == virtualKey::escape;
+    if (!isEscape && accepts_ && !accepts_(combo))
+        return EventVerdict::swallow;
+    if (!isEscape)
+        recorded_(combo);
     stop();
     return EventVerdict::swallow;
 }

@@ -40,6 +40,35 @@ TEST_F(KeyRecorderTest, takesAPlainKey)
     EXPECT_EQ(recorded, (Recorded{{0, {}}}));
 }
 
+TEST_F(KeyRecorderTest, goesOnAfterAKeyThatIsNotAcceptedAndKeepsItFromOthers)
+{
+    KeyRecorder choosy(
+        tap, activation, [this](const HotkeyCombo& combo) { recorded.push_back(combo); },
+        [](const HotkeyCombo& combo) { return combo.modifiers == ModifierSet::option; });
+    choosy.start();
+
+    EXPECT_EQ(keyboard.press(12), EventVerdict::swallow);
+    EXPECT_EQ(recorded, Recorded{});
+    EXPECT_TRUE(choosy.recording().value());
+    keyboard.release(12);
+    keyboard.holdModifiers(eventFlag::option);
+    EXPECT_EQ(keyboard.press(12), EventVerdict::swallow);
+
+    EXPECT_EQ(recorded, (Recorded{{12, ModifierSet::option}}));
+    EXPECT_FALSE(choosy.recording().value());
+}
+
+TEST_F(KeyRecorderTest, isCancelledByEscapeThatNobodyNeedsToAccept)
+{
+    KeyRecorder choosy(
+        tap, activation, [](const HotkeyCombo&) {}, [](const HotkeyCombo&) { return false; });
+    choosy.start();
+
+    EXPECT_EQ(keyboard.press(53), EventVerdict::swallow);
+
+    EXPECT_FALSE(choosy.recording().value());
+}
+
 TEST_F(KeyRecorderTest, isCancelledByEscapeWhichGoesNoFurther)
 {
     recorder.start();

@@ -1,5 +1,7 @@
 #include "eventtap/views/KeyRecorderField.h"
 
+#include <QEvent>
+
 #include <utility>
 
 namespace brindlex {
@@ -15,8 +17,10 @@ KeyRecorderField::KeyRecorderField(const ViewContext& context, const QString& na
         {context.text<"controls.recorder.record">(), context.text<"controls.recorder.pressKey">(),
             context.text<"controls.recorder.clear">()}),
       naming_(recording.naming), changed_(std::move(changed)),
-      recorder_(recording.tap, recording.activation,
-          [this](const HotkeyCombo& combo) { changed_(combo); }),
+      recorder_(
+          recording.tap, recording.activation,
+          [this](const HotkeyCombo& combo) { changed_(combo); },
+          [this](const HotkeyCombo& combo) { return !accepts || accepts(combo); }),
       recordingChanges_(recorder_.recording().subscribe([this](bool) { showNow(); }))
 {
     connect(this, &QAbstractButton::clicked, this, [this] { recorder_.toggle(); });
@@ -32,7 +36,15 @@ void KeyRecorderField::show(const HotkeyCombo& combo)
     showNow();
 }
 
-/// A field that cannot be seen waits for no key.
+/// A field that cannot be used waits for no key.
+void KeyRecorderField::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::EnabledChange && !isEnabled())
+        recorder_.stop();
+    KeyCapsField::changeEvent(event);
+}
+
+/// Nor does one that cannot be seen.
 void KeyRecorderField::hideEvent(QHideEvent* event)
 {
     recorder_.stop();

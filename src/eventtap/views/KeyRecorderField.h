@@ -27,7 +27,14 @@ public:
 
     void show(const HotkeyCombo& combo);
 
+    const Observable<bool>& recording() const { return recorder_.recording(); }
+
+    /// Whether a key will do; with one that will not the recording goes on. Any key will do as long
+    /// as this is not set.
+    std::function<bool(const HotkeyCombo&)> accepts{};
+
 protected:
+    void changeEvent(QEvent* event) override;
     void hideEvent(QHideEvent* event) override;
 
 private:

@@ -63,8 +63,7 @@ void KeyCapsField::paintEvent(QPaintEvent*)
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const bool isRinged = isRecording_ || hasFocus();
-    painter.setPen(QPen(
-        theme_.colour(isRinged ? &ThemeTokens::accentText : &ThemeTokens::edge), isRinged ? 2 : 1));
+    painter.setPen(QPen(theme_.colour(edge()), isRinged ? 2 : 1));
     painter.setBrush(theme_.colour(isRecording_ ? &ThemeTokens::select : &ThemeTokens::card));
     const double in = isRinged ? 1 : 0.5;
     painter.drawRoundedRect(QRectF(rect()).adjusted(in, in, -in, -in), radius, radius);
@@ -105,6 +104,14 @@ QRect KeyCapsField::crossRect() const
     return {width() - crossSize - inset, (height() - crossSize) / 2, crossSize, crossSize};
 }
 
+/// The ring while it has the focus or records; what can be pressed has a border of its own.
+Token KeyCapsField::edge() const
+{
+    if (isRecording_ || hasFocus())
+        return &ThemeTokens::accentText;
+    return isEnabled() ? &ThemeTokens::edge : &ThemeTokens::line;
+}
+
 int KeyCapsField::capsWidth() const
 {
     int sum = 0;
@@ -127,7 +134,7 @@ void KeyCapsField::paintCaps(QPainter& painter) const
         painter.setPen(Qt::NoPen);
         painter.setBrush(theme_.colour(&ThemeTokens::soft));
         painter.drawRoundedRect(place, 4, 4);
-        painter.setPen(theme_.colour(&ThemeTokens::text));
+        painter.setPen(theme_.colour(ink()));
         painter.drawText(place, Qt::AlignCenter, cap);
         left += place.width() + capGap;
     }

@@ -39,7 +39,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
-    bool hasCross() const { return !caps_.isEmpty() || isRecording_; }
+    bool hasCross() const { return isEnabled() && (!caps_.isEmpty() || isRecording_); }
+    Token edge() const;
+    Token ink() const { return isEnabled() ? &ThemeTokens::text : &ThemeTokens::subdued; }
     QRect crossRect() const;
     int capsWidth() const;
     int capWidth(const QString& cap) const;

@@ -68,7 +68,7 @@ void TextLabel::setRole(TextRole role)
 
 void TextLabel::paintEvent(QPaintEvent* event)
 {
-    const auto ink = theme_.colour(inkOf(role_));
+    const auto ink = theme_.colour(isEnabled() ? inkOf(role_) : &ThemeTokens::subdued);
     if (palette().color(QPalette::WindowText) != ink) {
         auto inked = palette();
         inked.setColor(QPalette::WindowText, ink);

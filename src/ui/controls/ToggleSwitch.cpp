@@ -16,6 +16,8 @@ constexpr int ringRoom = 4;
 constexpr QSize whole{shape.width() + 2 * ringRoom, shape.height() + 2 * ringRoom};
 constexpr double knobRadius = 8.5;
 constexpr int milliseconds = 120;
+/// How much of one is drawn that cannot be switched.
+constexpr double opacityWhenDisabled = 0.45;
 
 QColor between(const QColor& from, const QColor& to, double part)
 {
@@ -64,6 +66,7 @@ void ToggleSwitch::paintEvent(QPaintEvent*)
     const QRectF track(QPointF(ringRoom, ringRoom), shape);
     const double radius = track.height() / 2;
     painter.setPen(Qt::NoPen);
+    painter.setOpacity(isEnabled() ? 1 : opacityWhenDisabled);
     painter.setBrush(
         between(theme_.colour(&ThemeTokens::edge), theme_.colour(&ThemeTokens::accent), position_));
     painter.drawRoundedRect(track, radius, radius);

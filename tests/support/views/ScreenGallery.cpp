@@ -1,6 +1,7 @@
 #include "support/views/ScreenGallery.h"
 
 #include "applications/views/ApplicationChooser.h"
+#include "clipboard/views/ClipboardSettingsScreen.h"
 #include "eventtap/views/KeysOfReader.h"
 #include "inputmethod/views/InputMethodSettingsScreen.h"
 #include "logviewer/views/LogWindow.h"
@@ -12,8 +13,10 @@
 #include "shell/views/MainWindow.h"
 #include "shell/views/PermissionGuideScreen.h"
 #include "shell/views/UpdateDialog.h"
+#include "support/clipboard/ClipboardRecords.h"
 
 #include <QApplication>
+#include <gtest/gtest.h>
 
 #include <fstream>
 #include <utility>
@@ -37,17 +40,24 @@ ScreenGallery::ScreenGallery(StringCatalogue catalogue, Brightness brightness)
 
 std::vector<std::string> ScreenGallery::names()
 {
-    return {"general", "keyboard", "keyboard-empty", "mouse", "mouse-empty", "dictation", "about",
-        "logs", "chooser", "permissions", "permissions-missing", "update", "update-current",
-        "update-failed"};
+    return {"general", "keyboard", "keyboard-empty", "mouse", "mouse-empty", "clipboard",
+        "clipboard-off", "dictation", "about", "logs", "chooser", "permissions",
+        "permissions-missing", "update", "update-current", "update-failed"};
 }
 
 std::unique_ptr<QWidget> ScreenGallery::show(const std::string& name)
 {
     auto window = make(name);
     window->show();
+    runQueue();
     QApplication::processEvents();
     return window;
+}
+
+void ScreenGallery::runQueue()
+{
+    queue.drain();
+    computer.mainThread.runUntilIdle();
 }
 
 KeyRecording ScreenGallery::recording()
@@ -66,8 +76,19 @@ void ScreenGallery::fill()
     computer.bundles.install(
         "/apps/mail", {.identifier = "org.example.Mail", .displayName = "Mail"});
     inputMethod.refreshSources();
+    computer.userFolders.homeFolder = folder.path();
     log.setFolder(folder.path());
     std::ofstream(Log::fileURL(Log::Subsystem::app).value()) << logLines;
+}
+
+/// A picture of a megabyte and a half, and texts.
+void ScreenGallery::fillClipboard()
+{
+    const auto picture = imageItem();
+    ASSERT_TRUE(clipboardStore.writeBlob(*picture.imageBlobName, std::string(3 << 19, 'x')));
+    clipboardStore.add(picture);
+    for (int text = 0; text < 30; ++text)
+        clipboardStore.add(textItem(std::to_string(text), text));
 }
 
 /// A rule has switched for the application, and the user has changed it.
@@ -148,12 +169,17 @@ std::unique_ptr<QWidget> ScreenGallery::make(const std::string& name)
         mouse.addGestureBinding();
         mouse.addDisabledApp("/apps/mail");
     }
+    if (name == "clipboard")
+        fillClipboard();
+    if (name == "clipboard-off")
+        clipboard.setHistoryEnabled(false);
     const auto chooseApplication = [this](auto chosen) {
         ++choices;
         chosen(chosenApplication);
     };
     const auto tab = name.starts_with("keyboard") ? MainWindowTab::keyboard
         : name.starts_with("mouse")               ? MainWindowTab::mouse
+        : name.starts_with("clipboard")           ? MainWindowTab::clipboard
         : name == "about"                         ? MainWindowTab::about
         : name == "dictation"                     ? MainWindowTab::dictation
                                                   : MainWindowTab::general;
@@ -171,6 +197,13 @@ std::unique_ptr<QWidget> ScreenGallery::make(const std::string& name)
                 [this, chooseApplication] {
                     return new MouseSettingsScreen(
                         context(), mouse, mouseStore, recording(), chooseApplication);
+                }},
+            {MainWindowTab::clipboard,
+                [this] {
+                    return new ClipboardSettingsScreen(context(), clipboard, recording(),
+                        [this](const std::filesystem::path& opened) {
+                            openedFolders.push_back(opened);
+                        });
                 }},
             {MainWindowTab::about,
                 [this] {

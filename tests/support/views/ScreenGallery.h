@@ -2,11 +2,13 @@
 
 #include "applications/AppIdentifierLoader.h"
 #include "catalogue/StringCatalogue.h"
+#include "clipboard/ClipboardSettings.h"
 #include "eventtap/GlobalEventTap.h"
 #include "eventtap/views/KeyRecorderField.h"
 #include "inputmethod/InputMethodSettings.h"
 #include "mouse/MouseSettings.h"
 #include "platform/simulated/SimulatedComputer.h"
+#include "platform/simulated/SimulatedQueue.h"
 #include "shell/GeneralSettings.h"
 #include "shell/PermissionGuide.h"
 #include "shell/UpdateMessage.h"
@@ -30,6 +32,8 @@ public:
     static std::vector<std::string> names();
     /// The screen in a window of its own, shown in the size in which it opens.
     std::unique_ptr<QWidget> show(const std::string& name);
+    /// Lets be done what is to be done beside the main thread, and what comes of it.
+    void runQueue();
 
     ViewContext context() const { return {theme, strings}; }
     KeyRecording recording();
@@ -49,6 +53,14 @@ public:
         inputMethodStore, smartStore, reasons, sources, loader, computer.clock};
     MouseConfigStore mouseStore{computer.defaults};
     MouseSettings mouse{mouseStore, loader};
+    SimulatedQueue queue;
+    ClipboardHistoryStore clipboardStore{
+        {computer.mainThread, computer.clock, queue, computer.defaults},
+        folder.path() / ".local/share/Brindlex/ClipboardHistory"};
+    ClipboardSettings clipboard{
+        {computer.defaults, computer.mainThread, computer.userFolders, queue}, clipboardStore};
+    /// The folders that were opened in the file manager.
+    std::vector<std::filesystem::path> openedFolders;
     LaunchAtLoginManager launchAtLogin{computer.defaults, computer.loginItem, computer.activation};
     ShellWindows windows{computer.platform()};
     LanguageManager language{computer.defaults, computer.relaunching, computer.instances};
@@ -60,6 +72,7 @@ public:
 
 private:
     void fill();
+    void fillClipboard();
     void noteOverriddenSwitch(const std::string& bundleID);
     UpdateMessage updateMessageOf(const std::string& name) const;
     std::unique_ptr<QWidget> make(const std::string& name);

@@ -62,6 +62,20 @@ TEST_F(KeyCapsFieldTest, isPressedAnywhereElse)
     EXPECT_EQ(cleared, 0);
 }
 
+TEST_F(KeyCapsFieldTest, keepsItsKeyWhileItIsDisabled)
+{
+    field.show({"Ctrl", "T"}, false);
+    const auto enabled = field.grab().toImage();
+    field.setEnabled(false);
+    EXPECT_NE(field.grab().toImage(), enabled);
+
+    click({field.width() - 10, field.height() / 2});
+    click({10, field.height() / 2});
+
+    EXPECT_EQ(cleared, 0);
+    EXPECT_EQ(clicked, 0);
+}
+
 TEST_F(KeyCapsFieldTest, growsForLongCapsUpToALimit)
 {
     field.show({"T"}, false);

@@ -57,5 +57,20 @@ TEST(ToggleSwitch, isThereAtOnceWhereNothingIsToMove)
     EXPECT_NE(before, control.grab().toImage());
 }
 
+TEST(ToggleSwitch, isFainterWhileItCannotBeSwitched)
+{
+    const Theme theme({.reducesMotion = true});
+    ToggleSwitch control(theme, "Name", [](bool) {});
+    control.show(true);
+    const QPoint onTrack(10, control.height() / 2);
+    const auto usual = control.grab().toImage().pixelColor(onTrack);
+
+    control.setEnabled(false);
+
+    EXPECT_GT(control.grab().toImage().pixelColor(onTrack).lightness(), usual.lightness());
+    control.click();
+    EXPECT_TRUE(control.isChecked());
+}
+
 } // namespace
 } // namespace brindlex
