@@ -31,8 +31,8 @@ Read readKey(const xcb_generic_event_t& event, bool isPress)
 {
     const auto& input = as<xcb_input_key_press_event_t>(event);
     const bool isRepeat = isPress && (input.flags & XCB_INPUT_KEY_EVENT_FLAGS_KEY_REPEAT) != 0;
-    return X11InputEvent::Key{
-        input.deviceid, static_cast<std::uint8_t>(input.detail), isPress, isRepeat};
+    return X11InputEvent::Key{input.deviceid, static_cast<std::uint8_t>(input.detail), isPress,
+        isRepeat, flagsOfModifiers(input.mods.effective)};
 }
 
 Read readPlace(const xcb_generic_event_t& event)

@@ -25,12 +25,14 @@ struct X11InputEvent {
 
         bool operator==(const Button&) const = default;
     };
-    /// A key of a taken device.
+    /// A key of a taken device. Which modifiers of the same keyboard were held, as flags of an
+    /// event, holds for the press with which a device is taken.
     struct Key {
         std::uint16_t device = 0;
         std::uint8_t keycode = 0;
         bool isPress = false;
         bool isRepeat = false;
+        std::uint64_t flags = 0;
 
         bool operator==(const Key&) const = default;
     };

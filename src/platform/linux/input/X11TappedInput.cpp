@@ -96,12 +96,21 @@ void X11TappedInput::receive(const X11InputEvent::Key& event)
 {
     auto verdict = EventVerdict::pass;
     if (taps_.sees(eventMask(eventTypeOf(event))))
-        verdict = taps_.offer(eventOf(event, hooks_.cursor()));
+        verdict = taps_.offer(eventOf(event, cursorAt(event)));
     if (!event.isPress)
         released(event.device, Kind::key, event.keycode);
     else if (!event.isRepeat)
         pressed(event.device, Kind::key, event.keycode, verdict);
     hooks_.eventDone();
+}
+
+/// The hand may have let go of the modifiers since it pressed the key of a hotkey.
+X11CursorState X11TappedInput::cursorAt(const X11InputEvent::Key& event)
+{
+    auto cursor = hooks_.cursor();
+    if (event.isPress && !grabs_.isTaken(event.device))
+        cursor.flags |= event.flags;
+    return cursor;
 }
 
 void X11TappedInput::receive(const X11InputEvent::Motion& event)

@@ -69,6 +69,7 @@ private:
     void release(const X11InputEvent::Button& event);
     void turnWheel(std::uint8_t button, std::uint8_t meaning);
     static void letGo(Mouse& mouse, std::uint8_t button);
+    X11CursorState cursorAt(const X11InputEvent::Key& event);
     void offerMotion(std::uint16_t device);
     EventVerdict offer(EventType type, EventFields fields);
     EventVerdict offer(const Event& event);

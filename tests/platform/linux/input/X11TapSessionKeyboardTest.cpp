@@ -32,6 +32,23 @@ TEST_F(X11TapSessionTest, knowsAHotkeyUnderCapsLockAndNumLock)
     EXPECT_EQ(typesSeen(), (std::vector{EventType::keyDown, EventType::keyUp}));
 }
 
+TEST_F(X11TapSessionTest, knowsAHotkeyOfWhichTheHandHasLetGoMeanwhile)
+{
+    tap(controlA(), EventVerdict::swallow);
+    desktop_.keyboard.press(keycode::control);
+    desktop_.settle();
+    desktop_.window.forget();
+
+    desktop_.keyboard.stroke(keycode::a);
+    desktop_.keyboard.release(keycode::control);
+    desktop_.keyboard.settle();
+    desktop_.settle();
+
+    EXPECT_TRUE(desktop_.receives({"key 37 up (control)"}));
+    EXPECT_EQ(typesSeen(), (std::vector{EventType::keyDown, EventType::keyUp}));
+    EXPECT_EQ(seen_.front().flags, eventFlag::control);
+}
+
 TEST_F(X11TapSessionTest, knowsItsTriggersUnderEverySetOfLocks)
 {
     constexpr std::array locks{XCB_MOD_MASK_LOCK, XCB_MOD_MASK_2, XCB_MOD_MASK_3, XCB_MOD_MASK_5};
