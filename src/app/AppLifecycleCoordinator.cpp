@@ -40,6 +40,7 @@ void AppLifecycleCoordinator::start()
     shared_.mouse().clickManager().start();
     shared_.mouse().gestureManager().start();
     shared_.mouse().scrollManager().start();
+    shared_.clipboard().manager().start();
     isStarted_ = true;
     Log::notice("Brindlex launched", logCategory::lifecycle);
 }
@@ -58,6 +59,9 @@ void AppLifecycleCoordinator::stop()
     shared_.mouse().clickManager().tearDown();
     shared_.mouse().gestureManager().tearDown();
     shared_.mouse().scrollManager().tearDown();
+    // The history may be that of another instance, to which this one has yielded.
+    if (auto* clipboard = shared_.clipboardIfMade())
+        clipboard->manager().stop();
     shared_.windows().dockIconPolicy().cancelPending();
     shared_.windows().mainWindow().stop();
     showRequests_.reset();

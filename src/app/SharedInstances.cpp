@@ -7,7 +7,8 @@ namespace brindlex {
 SharedInstances::SharedInstances(Platform& platform)
     : platform_(platform), preferences_(platform.defaults, platform.userFolders),
       softwareUpdateManager_(platform.network, platform.program),
-      unlockedTapping_(platform.eventTapping, platform.sessionLock),
+      permittedTapping_(platform.eventTapping, platform.eventPermissions),
+      unlockedTapping_(permittedTapping_, platform.sessionLock),
       changesOfOthers_(platform.defaults.observeChanges([this] { reload(); }))
 {
 }
@@ -43,6 +44,32 @@ GlobalEventTap& SharedInstances::globalEventTap()
 InputMethodSubsystem& SharedInstances::inputMethod() { return inputMethod_.get(platform_); }
 
 MouseSubsystem& SharedInstances::mouse() { return mouse_.get(platform_, globalEventTap()); }
+
+ClipboardSubsystem& SharedInstances::clipboard()
+{
+    return clipboard_.get(
+        ClipboardAbilities{
+            .mainThread = platform_.mainThread,
+            .clock = platform_.clock,
+            .defaults = platform_.defaults,
+            .userFolders = platform_.userFolders,
+            .indexQueue = platform_.historyQueue,
+            .pasteboard = platform_.pasteboard,
+            .images = platform_.images,
+            .pasting = platform_.pasting,
+            .applications = platform_.applications,
+            .activating = platform_.activating,
+            .instances = platform_.instances,
+            .panel = platform_.keyablePanel,
+            .screens = platform_.screens,
+            .previewing = platform_.previewing,
+        },
+        globalEventTap(),
+        TextFolding(platform_.languages.empty() ? std::string() : platform_.languages.front()),
+        [this](const std::shared_ptr<ClipboardPicker>& picker) {
+            return hostPicker_ ? hostPicker_(picker) : Size{};
+        });
+}
 
 void SharedInstances::reload()
 {

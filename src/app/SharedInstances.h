@@ -3,7 +3,9 @@
 #include "app/OverlayHUDController.h"
 #include "app/Preferences.h"
 #include "catalogue/StringCatalogue.h"
+#include "clipboard/ClipboardSubsystem.h"
 #include "eventtap/GlobalEventTap.h"
+#include "eventtap/PermittedEventTapping.h"
 #include "eventtap/UnlockedEventTapping.h"
 #include "foundation/MadeOnFirstUse.h"
 #include "inputmethod/InputMethodSubsystem.h"
@@ -13,6 +15,9 @@
 #include "shell/LaunchAtLoginManager.h"
 #include "shell/ShellWindows.h"
 #include "shell/SoftwareUpdateManager.h"
+
+#include <memory>
+#include <utility>
 
 namespace brindlex {
 
@@ -35,6 +40,16 @@ public:
     GlobalEventTap& globalEventTap();
     InputMethodSubsystem& inputMethod();
     MouseSubsystem& mouse();
+    ClipboardSubsystem& clipboard();
+    /// Null before its first use, which reads and tidies the folder of the history.
+    ClipboardSubsystem* clipboardIfMade() { return clipboard_.ifMade(); }
+
+    /// Brings the pickers of the clipboard history to their panel from now on; without it the panel
+    /// stays empty.
+    void setPickerHosting(ClipboardPickerPanelController::Hosting hosting)
+    {
+        hostPicker_ = std::move(hosting);
+    }
 
 private:
     void reload();
@@ -42,6 +57,7 @@ private:
     Platform& platform_;
     Preferences preferences_;
     SoftwareUpdateManager softwareUpdateManager_;
+    PermittedEventTapping permittedTapping_;
     UnlockedEventTapping unlockedTapping_;
     MadeOnFirstUse<StringCatalogue> strings_;
     MadeOnFirstUse<LanguageManager> languageManager_;
@@ -51,6 +67,8 @@ private:
     MadeOnFirstUse<GlobalEventTap> globalEventTap_;
     MadeOnFirstUse<InputMethodSubsystem> inputMethod_;
     MadeOnFirstUse<MouseSubsystem> mouse_;
+    ClipboardPickerPanelController::Hosting hostPicker_;
+    MadeOnFirstUse<ClipboardSubsystem> clipboard_;
     Subscription changesOfOthers_;
 };
 

@@ -3,9 +3,11 @@
 #include "platform/AccessibilityTree.h"
 #include "platform/ActivationPolicy.h"
 #include "platform/AppGroupContainer.h"
+#include "platform/ApplicationActivating.h"
 #include "platform/ApplicationBundles.h"
 #include "platform/ApplicationOpening.h"
 #include "platform/AutomationPermission.h"
+#include "platform/BackgroundQueue.h"
 #include "platform/BrowserPageReading.h"
 #include "platform/Clock.h"
 #include "platform/CursorReading.h"
@@ -15,12 +17,17 @@
 #include "platform/EventPermissions.h"
 #include "platform/EventPosting.h"
 #include "platform/EventTap.h"
+#include "platform/FilePreviewing.h"
 #include "platform/HttpReading.h"
 #include "platform/IconRendering.h"
+#include "platform/ImageConverting.h"
+#include "platform/KeyablePanel.h"
 #include "platform/KeyboardInputSources.h"
 #include "platform/LoginItem.h"
 #include "platform/MainThread.h"
 #include "platform/OverlayPanel.h"
+#include "platform/Pasteboard.h"
+#include "platform/Pasting.h"
 #include "platform/ProcessLaunching.h"
 #include "platform/ProgramActivation.h"
 #include "platform/ProgramBundle.h"
@@ -28,6 +35,7 @@
 #include "platform/ProgramRelaunching.h"
 #include "platform/ProgramWindows.h"
 #include "platform/RunningApplications.h"
+#include "platform/ScreenReading.h"
 #include "platform/SessionLock.h"
 #include "platform/StatusItem.h"
 #include "platform/UserDefaults.h"
@@ -76,6 +84,15 @@ struct Platform {
     LoginItem& loginItem;
     ProgramRelaunching& relaunching;
     HttpReading& network;
+    Pasteboard& pasteboard;
+    ImageConverting& images;
+    Pasting& pasting;
+    ApplicationActivating& activating;
+    KeyablePanel& keyablePanel;
+    ScreenReading& screens;
+    FilePreviewing& previewing;
+    /// Writes the clipboard history.
+    BackgroundQueue& historyQueue;
 };
 
 } // namespace brindlex

@@ -49,7 +49,7 @@ TEST(AppLifecycleCoordinator, followsMouseSettingsThatAnotherProcessWrites)
 
     EXPECT_EQ(process.shared.mouse().configStore().config().value(), config);
     EXPECT_EQ(process.computer.input.tapMasks(),
-        std::vector{mouseScrollEventMask | mouseButtonMaskOf(0)});
+        std::vector{mouseScrollEventMask | mouseButtonMaskOf(0) | eventMask(EventType::keyDown)});
     EXPECT_EQ(process.computer.mouse.scroll(1), EventVerdict::swallow);
     ASSERT_EQ(process.computer.input.delivered().size(), 1U);
     EXPECT_EQ(
@@ -68,12 +68,13 @@ TEST(AppLifecycleCoordinator, startsWithDefaultsWhereTheMouseSettingsAreDamaged)
     EXPECT_EQ(process.log.lines(),
         (std::vector<std::string>{
             "WARN [lifecycle] The preference \"mouseConfig\" cannot be read; the default applies",
+            "INFO [clipboard] ClipboardHistoryMonitor: started",
             "NOTICE [lifecycle] Brindlex launched",
         }));
     EXPECT_EQ(process.shared.mouse().configStore().config().value(), MouseConfig{});
     EXPECT_EQ(process.computer.defaults.value("mouseConfig"), PreferenceValue(damaged));
-    EXPECT_EQ(
-        process.computer.input.tapMasks(), std::vector{mouseScrollEventMask | mouseClickEventMask});
+    EXPECT_EQ(process.computer.input.tapMasks(),
+        std::vector{mouseScrollEventMask | mouseClickEventMask | eventMask(EventType::keyDown)});
 }
 
 } // namespace

@@ -55,6 +55,13 @@ const std::vector<std::string> wholeStart{
     "tap ends",
     "tap 0x6400000",
     "tap on",
+    "observe activations",
+    "log INFO [clipboard] ClipboardHistoryMonitor: started",
+    "tap off",
+    "tap ends",
+    "tap 0x6400400",
+    "tap on",
+    "observe preferences",
     "log NOTICE [lifecycle] Brindlex launched",
 };
 
@@ -92,15 +99,20 @@ TEST(AppLifecycleCoordinator, stopsEverythingInItsOrder)
             "observe enabled sources no more",
             "tap off",
             "tap ends",
-            "tap 0x400000",
+            "tap 0x400400",
             "tap on",
             "tap off",
             "tap ends",
+            "tap 0x400",
+            "tap on",
+            "tap off",
+            "tap ends",
+            "observe preferences no more",
             "observe com.brindlex.Brindlex.showMainWindow com.brindlex.Brindlex no more",
         }));
 }
 
-TEST(AppLifecycleCoordinator, startsAndStopsClicksBeforeGesturesBeforeTheWheel)
+TEST(AppLifecycleCoordinator, startsAndStopsClicksBeforeGesturesBeforeTheWheelBeforeTheClipboard)
 {
     SimulatedProgram process;
     process.shared.preferences().write(&UserDefaultPreferenceKeys::mouseConfig, leftGesture());
@@ -113,11 +125,12 @@ TEST(AppLifecycleCoordinator, startsAndStopsClicksBeforeGesturesBeforeTheWheel)
     };
 
     process.lifecycle.start();
-    EXPECT_EQ(
-        taps(), (std::vector<std::string>{"tap 0x6000000", "tap 0x6000046", "tap 0x6400046"}));
+    EXPECT_EQ(taps(),
+        (std::vector<std::string>{
+            "tap 0x6000000", "tap 0x6000046", "tap 0x6400046", "tap 0x6400446"}));
 
     process.lifecycle.stop();
-    EXPECT_EQ(taps(), (std::vector<std::string>{"tap 0x400046", "tap 0x400000"}));
+    EXPECT_EQ(taps(), (std::vector<std::string>{"tap 0x400446", "tap 0x400400", "tap 0x400"}));
 }
 
 TEST(AppLifecycleCoordinator, stopsWithoutHavingStarted)
@@ -170,13 +183,16 @@ TEST(AppLifecycleCoordinator, goesOnWithManagersThatMayNotStart)
             "starting",
             "WARN [mouse] MouseScroll: missing Accessibility or Input Monitoring permission; not "
             "starting",
+            "INFO [clipboard] ClipboardHistoryMonitor: started",
+            "WARN [mouse] CGEvent.tapCreate returned nil; check Accessibility and Input Monitoring "
+            "permissions",
             "NOTICE [lifecycle] Brindlex launched",
         }));
     EXPECT_EQ(process.computer.input.tapMasks(), std::vector<EventMask>{});
 
     process.computer.eventPermissions.set(true);
     process.computer.mainThread.advance(2);
-    EXPECT_EQ(process.computer.input.tapMasks(), std::vector<EventMask>{0x6400046});
+    EXPECT_EQ(process.computer.input.tapMasks(), std::vector<EventMask>{0x6400446});
     EXPECT_EQ(process.log.takeLines(), std::vector<std::string>{});
 }
 
@@ -186,8 +202,9 @@ TEST(AppLifecycleCoordinator, goesOnWithoutAContainer)
 
     process.lifecycle.start();
 
-    EXPECT_EQ(
-        process.log.lines(), std::vector<std::string>{"NOTICE [lifecycle] Brindlex launched"});
+    EXPECT_EQ(process.log.lines(),
+        (std::vector<std::string>{"INFO [clipboard] ClipboardHistoryMonitor: started",
+            "NOTICE [lifecycle] Brindlex launched"}));
     EXPECT_EQ(process.log.prunes(), std::vector<Date>{process.computer.clock.now()});
 }
 

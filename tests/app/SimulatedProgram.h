@@ -4,6 +4,7 @@
 #include "app/ProgramIdentity.h"
 #include "platform/simulated/SimulatedComputer.h"
 #include "support/basics/RecordedLog.h"
+#include "support/basics/TemporaryFolder.h"
 
 #include <memory>
 #include <utility>
@@ -20,8 +21,10 @@ struct SimulatedProgram {
             .bundleID = programIdentity::bundleIdentifier,
             .journal = &journal})
     {
+        computer.userFolders = SimulatedUserFolders(home.path());
     }
 
+    TemporaryFolder home;
     SimulatedJournal journal;
     RecordedLog log{&journal};
     SimulatedComputer computer;

@@ -5,12 +5,14 @@
 #include "app/linux/ProgramBuild.h"
 #include "platform/linux/accessibility/AccessibleBrowserPages.h"
 #include "platform/linux/accessibility/AccessibleElementTree.h"
+#include "platform/linux/applications/X11ApplicationActivating.h"
 #include "platform/linux/bus/SessionBusAddress.h"
 #include "platform/linux/input/X11CursorReading.h"
 #include "platform/linux/input/X11EventPermissions.h"
 #include "platform/linux/input/X11EventPosting.h"
 #include "platform/linux/input/X11EventTapping.h"
 #include "platform/linux/input/X11KeyCharacters.h"
+#include "platform/linux/input/X11Pasting.h"
 #include "platform/linux/inputsources/DesktopInputSources.h"
 #include "platform/linux/panels/QtOverlayPanel.h"
 #include "platform/linux/panels/X11ApplicationOpening.h"
@@ -37,8 +39,8 @@ LinuxPlatform::LinuxPlatform(
     const SessionOffer& offer, LinuxSession& session, Clock& clock, AppGroupContainer& container)
     : session_(session), languages_(posixLanguages(::getenv)),
       desktopEntries_(DesktopEntries::ofUser()), browserQueue_("Brindlex.AX"),
-      elementQueue_("Brindlex.Elem"), bundles_(desktopEntries_), icons_(desktopEntries_),
-      processes_(session.mainThread), program_(programBuild()),
+      elementQueue_("Brindlex.Elem"), historyQueue_("Brindlex.Hist"), bundles_(desktopEntries_),
+      icons_(desktopEntries_), processes_(session.mainThread), program_(programBuild()),
       accessibilitySwitch_(session.bus.connection()),
       loginItem_(XdgLoginItem::ofUser(
           programIdentity::bundleIdentifier, {program_.name, runningProgramFile()})),
@@ -54,6 +56,8 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
 {
     using std::make_shared;
     auto& first = providers_;
+    auto& posting = first.of<EventPosting>({{hasX11,
+        [&] { return make_shared<X11EventPosting>(x11().input, session_.mainThread, clock); }}});
     return {
         .mainThread = session_.mainThread,
         .clock = clock,
@@ -90,10 +94,7 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
         .automation = accessibilitySwitch_,
         .eventTapping = first.of<EventTapping>(
             {{hasX11, [&] { return make_shared<X11EventTapping>(x11().input); }}}),
-        .eventPosting = first.of<EventPosting>({{hasX11,
-            [&] {
-                return make_shared<X11EventPosting>(x11().input, session_.mainThread, clock);
-            }}}),
+        .eventPosting = posting,
         .displayLink = first.of<DisplayLink>({{hasX11,
             [&] {
                 return make_shared<RandRDisplayLink>(x11().display, session_.mainThread, clock);
@@ -112,6 +113,17 @@ Platform LinuxPlatform::choose(bool hasX11, Clock& clock, AppGroupContainer& con
         .loginItem = loginItem_,
         .relaunching = relaunching_,
         .network = network_,
+        .pasteboard = first.of<Pasteboard>({{hasX11, [&] { return x11Pasteboard(); }}}),
+        .images = images_,
+        .pasting = first.of<Pasting>({{hasX11, [&] { return x11Pasting(posting); }}}),
+        .activating = first.of<ApplicationActivating>({{hasX11,
+            [&] {
+                return make_shared<X11ApplicationActivating>(x11().display, x11().applications);
+            }}}),
+        .keyablePanel = first.of<KeyablePanel>({{hasX11, [&] { return x11Panel(); }}}),
+        .screens = screens_,
+        .previewing = previewing_,
+        .historyQueue = historyQueue_,
     };
 }
 
@@ -185,6 +197,24 @@ std::shared_ptr<ProgramWindows> LinuxPlatform::x11Windows()
 {
     programWindows_ = std::make_shared<QtProgramWindows>(x11().display, sessionBusAddress());
     return programWindows_;
+}
+
+std::shared_ptr<Pasteboard> LinuxPlatform::x11Pasteboard()
+{
+    pasteboard_ = std::make_shared<X11Pasteboard>(session_.mainThread);
+    return pasteboard_;
+}
+
+std::shared_ptr<Pasting> LinuxPlatform::x11Pasting(EventPosting& posting)
+{
+    return std::make_shared<X11Pasting>(x11().display, posting,
+        [this](auto isShared) { pasteboard_->shareWithMouse(std::move(isShared)); });
+}
+
+std::shared_ptr<KeyablePanel> LinuxPlatform::x11Panel()
+{
+    panel_ = std::make_shared<QtKeyablePanel>(x11().display);
+    return panel_;
 }
 
 X11Session& LinuxPlatform::x11()

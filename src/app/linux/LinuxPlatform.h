@@ -15,8 +15,13 @@
 #include "platform/linux/applications/QtIconRendering.h"
 #include "platform/linux/applications/XdgLoginItem.h"
 #include "platform/linux/network/FetcherHttpReading.h"
+#include "platform/linux/panels/QtFilePreviewing.h"
+#include "platform/linux/panels/QtKeyablePanel.h"
 #include "platform/linux/panels/QtProgramActivation.h"
+#include "platform/linux/panels/QtScreenReading.h"
 #include "platform/linux/panels/X11WindowPicking.h"
+#include "platform/linux/pasteboard/QtImageConverting.h"
+#include "platform/linux/pasteboard/X11Pasteboard.h"
 #include "platform/linux/programwindows/QtProgramWindows.h"
 #include "platform/linux/system/PosixProcessLaunching.h"
 #include "platform/linux/system/PosixProgramRelaunching.h"
@@ -27,6 +32,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace brindlex {
@@ -51,6 +57,13 @@ public:
     /// Lets the user point at a window.
     WindowPicking& windowPicking() { return windowPicking_.get(x11().applications); }
 
+    /// Makes the view the content of the panel that takes keys; see `QtKeyablePanel`.
+    Size hostInPanel(std::unique_ptr<QWidget> view) { return panel_->host(std::move(view)); }
+    void emptyPanel() { panel_->empty(); }
+
+    /// What previews of files are made by from now on.
+    void setPreviewView(QtFilePreviewing::View view) { previewing_.setView(std::move(view)); }
+
     /// How the user wants windows to look.
     const Observable<DesktopAppearance>& appearance() const { return appearance_.current(); }
 
@@ -65,6 +78,9 @@ private:
     std::shared_ptr<ApplicationOpening> x11Opening();
     std::shared_ptr<SessionLock> x11Lock();
     std::shared_ptr<ProgramWindows> x11Windows();
+    std::shared_ptr<Pasteboard> x11Pasteboard();
+    std::shared_ptr<Pasting> x11Pasting(EventPosting& posting);
+    std::shared_ptr<KeyablePanel> x11Panel();
     X11Session& x11();
 
     // What every session offers.
@@ -74,6 +90,7 @@ private:
     DesktopEntries desktopEntries_;
     SerialQueue browserQueue_;
     SerialQueue elementQueue_;
+    SerialQueue historyQueue_;
     DesktopApplicationBundles bundles_;
     QtIconRendering icons_;
     QtProgramActivation activation_;
@@ -83,11 +100,16 @@ private:
     XdgLoginItem loginItem_;
     PosixProgramRelaunching relaunching_;
     FetcherHttpReading network_;
+    QtImageConverting images_;
+    QtScreenReading screens_;
+    QtFilePreviewing previewing_;
 
     /// Made for the first provider that needs it.
     std::shared_ptr<X11Session> x11_;
     LinuxAppearance appearance_;
     std::shared_ptr<QtProgramWindows> programWindows_;
+    std::shared_ptr<X11Pasteboard> pasteboard_;
+    std::shared_ptr<QtKeyablePanel> panel_;
     MadeOnFirstUse<X11WindowPicking> windowPicking_;
     ProviderChoice providers_;
     Platform abilities_;

@@ -3,6 +3,9 @@
 #include "app/linux/DesktopLook.h"
 #include "app/linux/ProgramLinks.h"
 #include "applications/views/ApplicationChooser.h"
+#include "clipboard/views/ClipboardPickerView.h"
+#include "clipboard/views/ClipboardSettingsScreen.h"
+#include "clipboard/views/FilePreviewView.h"
 #include "eventtap/views/KeysOfReader.h"
 #include "inputmethod/views/InputMethodSettingsScreen.h"
 #include "logviewer/views/LogWindow.h"
@@ -39,6 +42,12 @@ void revealFile(const std::filesystem::path& file)
     QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(file.parent_path())));
 }
 
+/// In the file manager.
+void openFolder(const std::filesystem::path& folder)
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QString::fromStdString(folder)));
+}
+
 /// In the browser, or whatever the desktop opens such an address with.
 void openAddress(const std::string& address)
 {
@@ -59,6 +68,9 @@ ProgramScreens::Models::Models(Platform& platform, SharedInstances& shared)
       inputMethod(shared.inputMethod().configStore(), shared.inputMethod().smartConfigStore(),
           shared.inputMethod().switchReasons(), sources, loader, platform.clock),
       mouse(shared.mouse().configStore(), loader),
+      clipboard(
+          {platform.defaults, platform.mainThread, platform.userFolders, platform.historyQueue},
+          shared.clipboard().store()),
       general(platform.defaults, shared.launchAtLoginManager(), shared.windows(),
           shared.languageManager()),
       permissions(platform.eventPermissions, platform.automation)
@@ -67,7 +79,7 @@ ProgramScreens::Models::Models(Platform& platform, SharedInstances& shared)
 
 ProgramScreens::ProgramScreens(LinuxPlatform& linuxPlatform, SharedInstances& shared)
     : linuxPlatform_(linuxPlatform), platform_(linuxPlatform.abilities()), shared_(shared),
-      recency_(platform_.applications)
+      recency_(platform_.applications), directory_(platform_.bundles, platform_.clock)
 {
     appearance_ = linuxPlatform.appearance().subscribe(
         [this, usual = QApplication::font()](const DesktopAppearance& appearance) {
@@ -88,9 +100,23 @@ ProgramScreens::ProgramScreens(LinuxPlatform& linuxPlatform, SharedInstances& sh
     shared.softwareUpdateManager().onResult = [this](const UpdateCheckResult::Any& result) {
         showUpdate(updateMessage(result, platform_.program, shared_.strings()));
     };
+    shared.setPickerHosting([this](const auto& picker) { return hostPicker(picker); });
+    linuxPlatform.setPreviewView([this](const auto& files, const QSize& most) {
+        auto view = std::make_unique<FilePreviewView>(
+            context(), files, most, [this](const auto& file) { return nameInPreview(file); });
+        theme_.dress(*view);
+        return view;
+    });
 }
 
-ProgramScreens::~ProgramScreens() { shared_.softwareUpdateManager().onResult = nullptr; }
+ProgramScreens::~ProgramScreens()
+{
+    shared_.softwareUpdateManager().onResult = nullptr;
+    shared_.setPickerHosting(nullptr);
+    linuxPlatform_.setPreviewView(nullptr);
+    platform_.previewing.close();
+    linuxPlatform_.emptyPanel();
+}
 
 KeyRecording ProgramScreens::keyRecording()
 {
@@ -140,6 +166,40 @@ QIcon ProgramScreens::pictureOf(const std::filesystem::path& bundle)
     return QIcon(picture);
 }
 
+QIcon ProgramScreens::iconOf(const std::string& bundleID)
+{
+    const auto path = directory_.path(bundleID);
+    return path ? pictureOf(*path) : QIcon();
+}
+
+/// The file of a picture that was copied has a name that nobody has given it.
+QString ProgramScreens::nameInPreview(const std::filesystem::path& file)
+{
+    const bool isCopied = file.parent_path() == shared_.clipboard().store().blobsDirectory();
+    return isCopied ? context().text<"clipboard.item.image">() : QString();
+}
+
+Size ProgramScreens::hostPicker(const std::shared_ptr<ClipboardPicker>& picker)
+{
+    auto& pictures = rowPictures_.get(ClipboardRowPictures::Abilities{platform_.mainThread,
+        pictureQueue_, shared_.clipboard().store(),
+        [this](const std::string& bundleID) { return iconOf(bundleID); }});
+    auto view = std::make_unique<ClipboardPickerView>(context(),
+        keysOfReader(context(), linuxPlatform_.keyCharacters()),
+        ClipboardRowSources{
+            .applicationName =
+                [this](const std::string& bundleID) {
+                    return QString::fromStdString(directory_.name(bundleID));
+                },
+            .picture = [&pictures](const ClipboardItem& item) { return pictures.of(item); },
+            .now = [this] { return platform_.clock.now(); },
+        },
+        picker);
+    theme_.dress(*view);
+    picturesMade_ = pictures.observe([view = view.get()] { view->showPictures(); });
+    return linuxPlatform_.hostInPanel(std::move(view));
+}
+
 std::unique_ptr<QWidget> ProgramScreens::makeMainWindow()
 {
     return sized(std::make_unique<MainWindow>(context(), platform_.defaults,
@@ -147,6 +207,7 @@ std::unique_ptr<QWidget> ProgramScreens::makeMainWindow()
                          {MainWindowTab::general, [this] { return makeGeneral(); }},
                          {MainWindowTab::keyboard, [this] { return makeKeyboard(); }},
                          {MainWindowTab::mouse, [this] { return makeMouse(); }},
+                         {MainWindowTab::clipboard, [this] { return makeClipboard(); }},
                          {MainWindowTab::about, [this] { return makeAbout(); }},
                      }),
         windowScene::main);
@@ -188,6 +249,11 @@ QWidget* ProgramScreens::makeMouse()
 {
     return new MouseSettingsScreen(context(), models().mouse, shared_.mouse().configStore(),
         keyRecording(), [this](auto chosen) { chooseApplication(std::move(chosen)); });
+}
+
+QWidget* ProgramScreens::makeClipboard()
+{
+    return new ClipboardSettingsScreen(context(), models().clipboard, keyRecording(), openFolder);
 }
 
 QWidget* ProgramScreens::makeAbout()

@@ -3,12 +3,16 @@
 #include "app/SharedInstances.h"
 #include "app/linux/LinuxPlatform.h"
 #include "applications/AppIdentifierLoader.h"
+#include "applications/ApplicationDirectory.h"
 #include "applications/ApplicationRecency.h"
+#include "clipboard/ClipboardSettings.h"
+#include "clipboard/views/ClipboardRowPictures.h"
 #include "eventtap/views/KeyRecorderField.h"
 #include "foundation/MadeOnFirstUse.h"
 #include "inputmethod/InputMethodSettings.h"
 #include "inputmethod/TextInputSourceService.h"
 #include "mouse/MouseSettings.h"
+#include "platform/posix/SerialQueue.h"
 #include "shell/GeneralSettings.h"
 #include "shell/PermissionGuide.h"
 #include "shell/views/UpdateDialog.h"
@@ -41,6 +45,7 @@ private:
         TextInputSourceService sources;
         InputMethodSettings inputMethod;
         MouseSettings mouse;
+        ClipboardSettings clipboard;
         GeneralSettings general;
         PermissionGuide permissions;
     };
@@ -54,6 +59,9 @@ private:
     Subscription pickWindow(
         std::function<void(const std::optional<std::filesystem::path>&)> picked);
     QIcon pictureOf(const std::filesystem::path& bundle);
+    QIcon iconOf(const std::string& bundleID);
+    QString nameInPreview(const std::filesystem::path& file);
+    Size hostPicker(const std::shared_ptr<ClipboardPicker>& picker);
 
     std::unique_ptr<QWidget> makeMainWindow();
     std::unique_ptr<QWidget> makeLogWindow();
@@ -62,6 +70,7 @@ private:
     QWidget* makeGeneral();
     QWidget* makeKeyboard();
     QWidget* makeMouse();
+    QWidget* makeClipboard();
     QWidget* makeAbout();
 
     LinuxPlatform& linuxPlatform_;
@@ -70,6 +79,10 @@ private:
     Theme theme_;
     Subscription appearance_;
     ApplicationRecency recency_;
+    ApplicationDirectory directory_;
+    SerialQueue pictureQueue_{"Brindlex.Pict"};
+    MadeOnFirstUse<ClipboardRowPictures> rowPictures_;
+    Subscription picturesMade_;
     MadeOnFirstUse<Models> models_;
     UpdateMessage update_;
     QPointer<UpdateDialog> updateDialog_;

@@ -55,8 +55,7 @@ ClipboardPickerView::ClipboardPickerView(const ViewContext& context, const KeyNa
     layout->setSpacing(0);
     layout->addWidget(makeTop(context));
     middle_->addWidget(makeList(context));
-    middle_->addWidget(
-        new EmptyState(context.theme, Glyph::clipboard, context.text<"clipboard.empty">()));
+    middle_->addWidget(makeNothing(context));
     layout->addWidget(middle_);
     layout->addWidget(makeHints(context, keys));
     setFixedWidth(grownWithText(panelWidth));
@@ -120,6 +119,18 @@ QWidget* ClipboardPickerView::makeList(const ViewContext& context)
     return list_;
 }
 
+/// What stands in the middle where no item is visible.
+QWidget* ClipboardPickerView::makeNothing(const ViewContext& context)
+{
+    auto* const nothing = new QWidget;
+    auto* const layout = new QVBoxLayout(nothing);
+    layout->addStretch();
+    layout->addWidget(
+        new EmptyState(context.theme, Glyph::clipboard, context.text<"clipboard.empty">()));
+    layout->addStretch();
+    return nothing;
+}
+
 QWidget* ClipboardPickerView::makeHints(const ViewContext& context, const KeyNaming& keys)
 {
     auto* const foot = new QFrame;
@@ -129,16 +140,17 @@ QWidget* ClipboardPickerView::makeHints(const ViewContext& context, const KeyNam
     layout->setContentsMargins(sideMargin, 0, sideMargin, 0);
     layout->setSpacing(capGap);
     const auto hint = [&](const QString& caps, const QString& words) {
-        layout->addWidget(new TextLabel(context.theme, TextRole::value, caps));
+        layout->addWidget(new TextLabel(context.theme, TextRole::body, caps));
         layout->addWidget(new TextLabel(context.theme, TextRole::value, words));
-        layout->addSpacing(hintGap);
     };
     const auto caps = [&](std::int64_t keyCode, ModifierSet modifiers = {}) {
         return joined(keyCaps({.keyCode = keyCode, .modifiers = modifiers}, keys));
     };
     hint(caps(virtualKey::returnKey), context.text<"clipboard.hint.paste">());
+    layout->addSpacing(hintGap);
     hint(QString::fromStdString(keys.modifiers.command) + QStringLiteral("+1–9"),
         context.text<"clipboard.hint.quick">());
+    layout->addSpacing(hintGap);
     hint(caps(virtualKey::space, ModifierSet::option), context.text<"clipboard.hint.preview">());
     layout->addStretch();
     hint(caps(virtualKey::escape), context.text<"clipboard.hint.close">());

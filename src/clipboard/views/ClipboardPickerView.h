@@ -32,6 +32,7 @@ private:
     QWidget* makeTop(const ViewContext& context);
     QWidget* makeCategories(const ViewContext& context);
     QWidget* makeList(const ViewContext& context);
+    static QWidget* makeNothing(const ViewContext& context);
     QWidget* makeHints(const ViewContext& context, const KeyNaming& keys);
     void showContent(const ClipboardPicker::Content& content);
 

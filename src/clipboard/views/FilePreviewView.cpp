@@ -10,8 +10,10 @@
 #include <QFrame>
 #include <QImageReader>
 #include <QLocale>
+#include <QPlainTextEdit>
 
 #include <algorithm>
+#include <utility>
 
 namespace brindlex {
 namespace {
@@ -24,11 +26,6 @@ constexpr int cardGlyph = 64;
 constexpr QSize textSize(520, 420);
 /// A larger picture is not decoded for a look at it.
 constexpr int mostMegabytes = 256;
-
-QString nameOf(const std::filesystem::path& file)
-{
-    return QFileInfo(QString::fromStdString(file.string())).fileName();
-}
 
 /// The picture in the file, no larger than the room; null for what is none.
 QImage pictureIn(const std::filesystem::path& file, const QSize& room)
@@ -52,15 +49,16 @@ QLabel* pictureLabel(const QImage& picture)
     return label;
 }
 
-QLabel* textLabel(const std::string& text, const QSize& room)
+QWidget* textSheet(const std::string& text, const QSize& room)
 {
-    auto* const label = new QLabel;
-    label->setTextFormat(Qt::PlainText);
-    label->setFont(fixedWidthFont(label->font()));
-    label->setAlignment(Qt::AlignTop | Qt::AlignLeading);
-    label->setText(QString::fromStdString(text));
-    label->setFixedSize(textSize.boundedTo(room));
-    return label;
+    auto* const sheet = new QPlainTextEdit(QString::fromStdString(text));
+    sheet->setReadOnly(true);
+    sheet->setFocusPolicy(Qt::NoFocus);
+    sheet->setFont(fixedWidthFont(sheet->font()));
+    sheet->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    sheet->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    sheet->setFixedSize(textSize.boundedTo(room));
+    return sheet;
 }
 
 QWidget* card(const ViewContext& context, Glyph glyph, const QString& words)
@@ -92,8 +90,9 @@ QString factsOf(const ViewContext& context, const std::filesystem::path& file)
 
 } // namespace
 
-FilePreviewView::FilePreviewView(
-    const ViewContext& context, const std::vector<std::filesystem::path>& files, const QSize& most)
+FilePreviewView::FilePreviewView(const ViewContext& context,
+    const std::vector<std::filesystem::path>& files, const QSize& most, Naming naming)
+    : naming_(std::move(naming))
 {
     setObjectName("window");
     auto* const layout = new QHBoxLayout(this);
@@ -129,7 +128,7 @@ QWidget* FilePreviewView::makeContent(
         return pictureLabel(picture);
     return match(
         filePreview(file),
-        [&](const FilePreview::Text& text) -> QWidget* { return textLabel(text.text, most); },
+        [&](const FilePreview::Text& text) -> QWidget* { return textSheet(text.text, most); },
         [&](const FilePreview::Folder& folder) -> QWidget* {
             const auto words = context.text<"picker.entriesFormat">(folder.entries);
             const bool isAll = folder.entries < mostPreviewEntries;
@@ -138,17 +137,23 @@ QWidget* FilePreviewView::makeContent(
         [&](const FilePreview::Other&) -> QWidget* { return card(context, Glyph::file, {}); });
 }
 
+QString FilePreviewView::name(const std::filesystem::path& file) const
+{
+    const auto given = naming_ ? naming_(file) : QString();
+    return given.isEmpty() ? QString::fromStdString(file.filename().string()) : given;
+}
+
 QWidget* FilePreviewView::makeCaption(const ViewContext& context, const std::filesystem::path& file)
 {
     auto* const caption = new QWidget;
     auto* const layout = new QVBoxLayout(caption);
     layout->setContentsMargins({});
     layout->setSpacing(2);
-    auto* const name = new TextLabel(context.theme, TextRole::body, nameOf(file));
-    name->setAlignment(Qt::AlignHCenter);
+    auto* const title = new TextLabel(context.theme, TextRole::body, name(file));
+    title->setAlignment(Qt::AlignHCenter);
     auto* const facts = new TextLabel(context.theme, TextRole::value, factsOf(context, file));
     facts->setAlignment(Qt::AlignHCenter);
-    layout->addWidget(name);
+    layout->addWidget(title);
     layout->addWidget(facts);
     return caption;
 }

@@ -53,6 +53,14 @@ Platform SimulatedComputer::platformWithInput(EventTapping& tapping, EventPostin
         .loginItem = loginItem,
         .relaunching = relaunching,
         .network = network,
+        .pasteboard = pasteboard,
+        .images = images,
+        .pasting = pasting_,
+        .activating = activating,
+        .keyablePanel = keyablePanel,
+        .screens = screens,
+        .previewing = previewing,
+        .historyQueue = historyQueue,
     };
 }
 

@@ -4,6 +4,7 @@
 #include "platform/simulated/SimulatedAccessibilityTree.h"
 #include "platform/simulated/SimulatedActivationPolicy.h"
 #include "platform/simulated/SimulatedAppGroupContainer.h"
+#include "platform/simulated/SimulatedApplicationActivating.h"
 #include "platform/simulated/SimulatedApplicationBundles.h"
 #include "platform/simulated/SimulatedApplicationOpening.h"
 #include "platform/simulated/SimulatedApplications.h"
@@ -14,22 +15,29 @@
 #include "platform/simulated/SimulatedDisplayLink.h"
 #include "platform/simulated/SimulatedDisplayScale.h"
 #include "platform/simulated/SimulatedEventPermissions.h"
+#include "platform/simulated/SimulatedFilePreviewing.h"
 #include "platform/simulated/SimulatedHttpReading.h"
 #include "platform/simulated/SimulatedIconRendering.h"
+#include "platform/simulated/SimulatedImageConverting.h"
 #include "platform/simulated/SimulatedInput.h"
 #include "platform/simulated/SimulatedInputSources.h"
 #include "platform/simulated/SimulatedJournal.h"
+#include "platform/simulated/SimulatedKeyablePanel.h"
 #include "platform/simulated/SimulatedKeyboard.h"
 #include "platform/simulated/SimulatedLoginItem.h"
 #include "platform/simulated/SimulatedMainThread.h"
 #include "platform/simulated/SimulatedMouse.h"
 #include "platform/simulated/SimulatedNotifications.h"
 #include "platform/simulated/SimulatedOverlayPanel.h"
+#include "platform/simulated/SimulatedPasteboard.h"
+#include "platform/simulated/SimulatedPasting.h"
 #include "platform/simulated/SimulatedProcessLaunching.h"
 #include "platform/simulated/SimulatedProgramActivation.h"
 #include "platform/simulated/SimulatedProgramInstances.h"
 #include "platform/simulated/SimulatedProgramRelaunching.h"
 #include "platform/simulated/SimulatedProgramWindows.h"
+#include "platform/simulated/SimulatedQueue.h"
+#include "platform/simulated/SimulatedScreenReading.h"
 #include "platform/simulated/SimulatedSessionLock.h"
 #include "platform/simulated/SimulatedStatusItem.h"
 #include "platform/simulated/SimulatedUserDefaults.h"
@@ -110,8 +118,16 @@ public:
     SimulatedLoginItem loginItem;
     SimulatedProgramRelaunching relaunching;
     SimulatedHttpReading network{mainThread};
+    SimulatedPasteboard pasteboard{mainThread};
+    SimulatedImageConverting images;
+    SimulatedApplicationActivating activating{applications};
+    SimulatedKeyablePanel keyablePanel{mainThread};
+    SimulatedScreenReading screens;
+    SimulatedFilePreviewing previewing;
+    SimulatedQueue historyQueue{SimulatedQueue::Mode::atOnce};
 
 private:
+    SimulatedPasting pasting_{input};
     Platform platform_;
 };
 

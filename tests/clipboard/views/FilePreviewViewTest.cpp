@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QImage>
 #include <QLabel>
+#include <QPlainTextEdit>
 #include <gtest/gtest.h>
 
 #include <fstream>
@@ -48,6 +49,7 @@ struct FilePreviewViewTest : testing::Test {
         return {};
     }
 
+    QString sheet() const { return view->findChild<QPlainTextEdit*>()->toPlainText(); }
     bool says(const QString& words) const
     {
         for (const auto* const label : view->findChildren<QLabel*>())
@@ -80,14 +82,14 @@ TEST_F(FilePreviewViewTest, fitsALargePictureIntoTheScreen)
 TEST_F(FilePreviewViewTest, showsTheBeginningOfAText)
 {
     show({text("notes.txt", "one\ntwo")});
-    EXPECT_TRUE(says("one\ntwo"));
+    EXPECT_EQ(sheet(), "one\ntwo");
     EXPECT_TRUE(says("notes.txt"));
 }
 
 TEST_F(FilePreviewViewTest, showsWordsOfAMarkupAsTheyAre)
 {
     show({text("page.html", "<b>bold</b>")});
-    EXPECT_TRUE(says("<b>bold</b>"));
+    EXPECT_EQ(sheet(), "<b>bold</b>");
 }
 
 TEST_F(FilePreviewViewTest, countsTheEntriesOfAFolder)
@@ -102,6 +104,16 @@ TEST_F(FilePreviewViewTest, saysWhatAnythingElseIs)
 {
     show({text("archive.bin", std::string("\0\1\2", 3))});
     EXPECT_TRUE(says("archive.bin"));
+}
+
+TEST_F(FilePreviewViewTest, callsFilesByOtherNames)
+{
+    const auto file = text("0815.txt", "text");
+    view = std::make_unique<FilePreviewView>(ViewContext{theme, strings},
+        std::vector{file, text("b.txt", "text")}, screen,
+        [&](const auto& named) { return named == file ? QString("Image") : QString(); });
+    EXPECT_TRUE(says("Image"));
+    EXPECT_TRUE(says("b.txt"));
 }
 
 TEST_F(FilePreviewViewTest, countsTheFilesThatHaveNoRoom)

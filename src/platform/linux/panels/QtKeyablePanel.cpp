@@ -58,6 +58,8 @@ public:
         return view_->size();
     }
 
+    void empty() { view_.reset(); }
+
     double alpha() const { return alpha_; }
 
     void setAlpha(double alpha)
@@ -77,6 +79,10 @@ public:
 
     void orderFront()
     {
+        if (!isVisible() && std::exchange(wasTakenAway_, false)) {
+            destroy();
+            makeNative();
+        }
         show();
         raise();
         owner_.presses_.listen();
@@ -102,10 +108,6 @@ public:
         owner_.presses_.stop();
         giveKeysBack();
         hide();
-        if (std::exchange(wasTakenAway_, false)) {
-            destroy();
-            makeNative();
-        }
         waitForWindowsServer();
     }
 
@@ -241,6 +243,13 @@ Size QtKeyablePanel::host(std::unique_ptr<QWidget> view)
 {
     const auto size = window().host(std::move(view));
     return {static_cast<double>(size.width()), static_cast<double>(size.height())};
+}
+
+void QtKeyablePanel::empty()
+{
+    orderOut();
+    if (window_)
+        window_->empty();
 }
 
 bool QtKeyablePanel::isVisible() const { return window_ && window_->isVisible(); }

@@ -30,6 +30,9 @@ public:
     /// that it wants. The view has the focus while the panel has the keys.
     Size host(std::unique_ptr<QWidget> view);
 
+    /// Ends the view.
+    void empty();
+
     bool isVisible() const override;
     double alpha() const override;
     void setAlpha(double alpha) override;
