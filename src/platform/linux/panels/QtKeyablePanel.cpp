@@ -77,20 +77,21 @@ public:
         cutOut();
     }
 
+    bool isOrderedIn() const { return isOrderedIn_; }
+
+    /// A panel that nobody is to see needs no place among the windows.
     void orderFront()
     {
-        if (!isVisible() && std::exchange(wasTakenAway_, false)) {
-            destroy();
-            makeNative();
-        }
-        show();
-        raise();
+        isOrderedIn_ = true;
         owner_.presses_.listen();
+        if (alpha_ > 0)
+            putOnScreen();
     }
 
     void makeKey()
     {
         orderFront();
+        putOnScreen();
         if (hasKeys_ || attempts_.isActive())
             return;
         made_ = 0;
@@ -102,7 +103,7 @@ public:
 
     void orderOut()
     {
-        if (!isVisible())
+        if (!std::exchange(isOrderedIn_, false))
             return;
         fade_.stop();
         owner_.presses_.stop();
@@ -159,6 +160,16 @@ private:
         windowHandle()->installEventFilter(this);
     }
 
+    void putOnScreen()
+    {
+        if (!isVisible() && std::exchange(wasTakenAway_, false)) {
+            destroy();
+            makeNative();
+        }
+        show();
+        raise();
+    }
+
     void showAlpha(double alpha)
     {
         const bool wasSeen = alpha_ > 0;
@@ -166,6 +177,8 @@ private:
         setWindowOpacity(alpha);
         if (wasSeen != (alpha > 0))
             cutOut();
+        if (isOrderedIn_ && alpha > 0 && !isVisible())
+            putOnScreen();
     }
 
     /// The shape of the window: none where nobody is to see it, so that no click meets it.
@@ -219,6 +232,7 @@ private:
     QVariantAnimation fade_;
     QTimer attempts_;
     int made_ = 0;
+    bool isOrderedIn_ = false;
     bool hasKeys_ = false;
     bool wasActive_ = false;
     /// Such a window has the focus for the library for ever, so that another one takes its place.
@@ -252,7 +266,7 @@ void QtKeyablePanel::empty()
         window_->empty();
 }
 
-bool QtKeyablePanel::isVisible() const { return window_ && window_->isVisible(); }
+bool QtKeyablePanel::isVisible() const { return window_ && window_->isOrderedIn(); }
 
 double QtKeyablePanel::alpha() const { return window_ ? window_->alpha() : 1; }
 
