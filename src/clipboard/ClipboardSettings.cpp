@@ -79,8 +79,8 @@ void ClipboardSettings::setMaxItems(std::int64_t limit)
 /// Most changes are of other preferences.
 void ClipboardSettings::publish()
 {
-    if (auto present = preferencesIn(abilities_.defaults); present != preferences_.value())
-        preferences_.set(std::move(present));
+    if (const auto present = preferencesIn(abilities_.defaults); present != preferences_.value())
+        preferences_.set(present);
 }
 
 } // namespace brindlex

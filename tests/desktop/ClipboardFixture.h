@@ -67,6 +67,15 @@ protected:
         desk.settle();
         return testing::AssertionSuccess();
     }
+    /// Presses the hotkey until the picker comes: the program may be about to listen again.
+    bool opensInTime()
+    {
+        return eventually([&] {
+            chord({keycode::super, keycode::shift}, keyOf('v'));
+            desk.settle();
+            return picker().has_value();
+        });
+    }
     bool isGone() const
     {
         return eventually([&] { return !picker(); });

@@ -163,7 +163,7 @@ QIcon ProgramScreens::pictureOf(const std::filesystem::path& bundle)
     if (png)
         picture.loadFromData(
             reinterpret_cast<const uchar*>(png->data()), static_cast<uint>(png->size()));
-    return QIcon(picture);
+    return {picture};
 }
 
 QIcon ProgramScreens::iconOf(const std::string& bundleID)

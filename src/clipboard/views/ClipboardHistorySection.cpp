@@ -51,7 +51,7 @@ QString ClipboardHistorySection::amount(const ClipboardHistoryMeasure& measure) 
     if (measure.items == 0)
         return context_.text<"clipboard.empty">();
     const QLocale locale(QString::fromStdString(context_.strings.language()));
-    const auto items = locale.toString(static_cast<qulonglong>(measure.items));
+    auto items = locale.toString(static_cast<qulonglong>(measure.items));
     if (!measure.bytes)
         return items;
     return items + QStringLiteral(" · ") + sizeText(locale, *measure.bytes);

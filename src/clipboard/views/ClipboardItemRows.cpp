@@ -30,7 +30,7 @@ QIcon swatch(const Theme& theme, const ClipboardColour& colour)
     painter.setBrush(QColor(colour.red, colour.green, colour.blue, colour.alpha));
     painter.drawRoundedRect(
         QRectF(pixmap.rect()).adjusted(2.5, 2.5, -2.5, -2.5), swatchRadius, swatchRadius);
-    return QIcon(pixmap);
+    return {pixmap};
 }
 
 Glyph glyphOf(ClipboardItemKind kind)

@@ -30,7 +30,7 @@ void ClipboardSearchField::keyPressEvent(QKeyEvent* event)
 {
     const auto key = pickerKeyOf(*event);
     if (!key || !picker_.handleKey(*key))
-        QLineEdit::keyPressEvent(event);
+        SearchField::keyPressEvent(event);
 }
 
 void ClipboardSearchField::keyReleaseEvent(QKeyEvent* event)
@@ -38,7 +38,7 @@ void ClipboardSearchField::keyReleaseEvent(QKeyEvent* event)
     // While a key is held, what looks like its release is none.
     const auto key = event->isAutoRepeat() ? std::nullopt : pickerKeyOf(*event);
     if (!key || !picker_.handleKey(*key))
-        QLineEdit::keyReleaseEvent(event);
+        SearchField::keyReleaseEvent(event);
 }
 
 } // namespace brindlex

@@ -33,7 +33,7 @@ KeyCapsField::KeyCapsField(const Theme& theme, const QString& name, Words words,
     setFocusPolicy(Qt::StrongFocus);
     followTextSize(*this, [this] {
         setFont(scaledFont(QApplication::font(), textScale::second));
-        setFixedSize(sizeHint());
+        setFixedSize(KeyCapsField::sizeHint());
     });
     show({}, false);
 }
@@ -45,7 +45,7 @@ void KeyCapsField::show(const QStringList& caps, bool isRecording)
     const auto said = caps_.isEmpty() ? words_.record : caps_.join(QLatin1Char('+'));
     setAccessibleName(name_ + QStringLiteral(": ") + (isRecording ? words_.pressKey : said));
     setToolTip(caps_.join(QLatin1Char('+')));
-    setFixedSize(sizeHint());
+    setFixedSize(KeyCapsField::sizeHint());
     updateGeometry();
     update();
 }
@@ -150,7 +150,7 @@ QString KeyCapsField::shownText() const
     return fontMetrics().elidedText(text, Qt::ElideRight, room);
 }
 
-void KeyCapsField::takeAway()
+void KeyCapsField::takeAway() const
 {
     if (cleared)
         cleared();

@@ -47,7 +47,7 @@ private:
     int capWidth(const QString& cap) const;
     void paintCaps(QPainter& painter) const;
     QString shownText() const;
-    void takeAway();
+    void takeAway() const;
 
     const Theme& theme_;
     const QString name_;

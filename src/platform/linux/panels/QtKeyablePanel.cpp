@@ -244,7 +244,11 @@ QtKeyablePanel::QtKeyablePanel(X11Connection& connection)
 {
 }
 
-QtKeyablePanel::~QtKeyablePanel() { orderOut(); }
+QtKeyablePanel::~QtKeyablePanel()
+{
+    if (window_)
+        window_->orderOut();
+}
 
 QtKeyablePanel::Window& QtKeyablePanel::window()
 {

@@ -37,6 +37,7 @@ constexpr double leastMotion = 10;
 std::vector<WindowLabel> labelsOf(const std::vector<OpenWindow>& windows)
 {
     std::vector<WindowLabel> labels;
+    labels.reserve(windows.size());
     for (const auto& window : windows)
         labels.push_back(labelOf(window));
     return labels;
