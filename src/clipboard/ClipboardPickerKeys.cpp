@@ -1,19 +1,11 @@
 #include "clipboard/ClipboardPickerKeys.h"
 
-#include "platform/VirtualKey.h"
-
 #include <algorithm>
-#include <array>
 
 namespace brindlex {
 namespace {
 
 using Action = ClipboardPickerAction;
-
-/// In the order of what stands on them.
-constexpr std::array digitKeys{virtualKey::one, virtualKey::two, virtualKey::three,
-    virtualKey::four, virtualKey::five, virtualKey::six, virtualKey::seven, virtualKey::eight,
-    virtualKey::nine};
 
 bool isPressWithCommandAlone(const ClipboardPickerKey& key)
 {
@@ -47,10 +39,10 @@ Action::Any actionOfDeletion(const ClipboardPickerKey& key, bool isQueryEmpty)
 
 Action::Any actionOfDigit(const ClipboardPickerKey& key)
 {
-    const auto digit = std::find(digitKeys.begin(), digitKeys.end(), key.keyCode);
-    if (digit == digitKeys.end() || !isPressWithCommandAlone(key))
+    const auto digit = std::find(clipboardDigitKeys.begin(), clipboardDigitKeys.end(), key.keyCode);
+    if (digit == clipboardDigitKeys.end() || !isPressWithCommandAlone(key))
         return Action::Ignored{};
-    return Action::CommitItem{static_cast<std::size_t>(digit - digitKeys.begin())};
+    return Action::CommitItem{static_cast<std::size_t>(digit - clipboardDigitKeys.begin())};
 }
 
 } // namespace

@@ -2,7 +2,9 @@
 
 #include "eventtap/ModifierSet.h"
 #include "foundation/Cases.h"
+#include "platform/VirtualKey.h"
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
@@ -10,6 +12,11 @@ namespace brindlex {
 
 /// What a key does: it goes down, is said to be down once more while it is held, or goes up.
 enum class KeyPhase { press, repeat, release };
+
+/// The keys that commit the items at the places 1 to 9, in their order.
+inline constexpr std::array<std::int64_t, 9> clipboardDigitKeys{virtualKey::one, virtualKey::two,
+    virtualKey::three, virtualKey::four, virtualKey::five, virtualKey::six, virtualKey::seven,
+    virtualKey::eight, virtualKey::nine};
 
 /// A key as the picker's window is given it.
 struct ClipboardPickerKey {

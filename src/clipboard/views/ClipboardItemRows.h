@@ -1,6 +1,7 @@
 #pragma once
 
 #include "clipboard/ClipboardItems.h"
+#include "clipboard/ClipboardPickerKeys.h"
 #include "foundation/Date.h"
 #include "ui/controls/ViewContext.h"
 
@@ -27,7 +28,7 @@ struct ClipboardRowSources {
 class ClipboardItemRows : public QAbstractListModel {
 public:
     /// Of a list, so many rows can be chosen by a digit.
-    static constexpr int rowsWithDigit = 9;
+    static constexpr int rowsWithDigit = static_cast<int>(clipboardDigitKeys.size());
 
     ClipboardItemRows(const ViewContext& context, ClipboardRowSources sources, QObject* parent);
 

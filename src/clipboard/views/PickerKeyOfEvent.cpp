@@ -24,18 +24,13 @@ constexpr std::array<std::pair<int, std::int64_t>, 10> keys{{
     {Qt::Key_Escape, virtualKey::escape},
 }};
 
-/// From 1 to 9.
-constexpr std::array<std::int64_t, 9> digits{virtualKey::one, virtualKey::two, virtualKey::three,
-    virtualKey::four, virtualKey::five, virtualKey::six, virtualKey::seven, virtualKey::eight,
-    virtualKey::nine};
-
 /// The number by which X knows the key 1 of the upper row of a PC.
 constexpr quint32 scanCodeOfOne = 10;
 
 /// Which of the digits from 1 on, counted from 0.
 std::optional<std::size_t> digitOf(const QKeyEvent& event)
 {
-    const auto count = static_cast<quint32>(digits.size());
+    const auto count = static_cast<quint32>(clipboardDigitKeys.size());
     if (event.nativeScanCode() - scanCodeOfOne < count)
         return event.nativeScanCode() - scanCodeOfOne;
     const auto digit = static_cast<quint32>(event.key() - Qt::Key_1);
@@ -48,7 +43,7 @@ std::optional<std::int64_t> keyCodeOf(const QKeyEvent& event)
     if (found != keys.end())
         return found->second;
     const auto digit = digitOf(event);
-    return digit ? std::optional<std::int64_t>(digits[*digit]) : std::nullopt;
+    return digit ? std::optional<std::int64_t>(clipboardDigitKeys[*digit]) : std::nullopt;
 }
 
 ModifierSet modifiersOf(const QKeyEvent& event)

@@ -1,27 +1,22 @@
 #include "platform/linux/panels/QtKeyablePanel.h"
 
 #include "log/Log.h"
+#include "platform/linux/panels/KeyboardGrab.h"
 #include "platform/linux/panels/RoundedRegion.h"
 #include "platform/linux/windows/WindowsServer.h"
 #include "platform/linux/x11/X11Compositor.h"
 
 #include <QEvent>
-#include <QTimer>
 #include <QVBoxLayout>
 #include <QVariantAnimation>
 #include <QWidget>
 #include <QWindow>
 
-#include <chrono>
 #include <utility>
 
 namespace brindlex {
 namespace {
 
-using namespace std::chrono_literals;
-
-constexpr auto betweenGrabs = 10ms;
-constexpr int mostGrabs = 30;
 constexpr int fadeMilliseconds = 110;
 
 QRect inPixels(const Rect& rect)
@@ -41,8 +36,6 @@ public:
         auto* const layout = new QVBoxLayout(this);
         layout->setContentsMargins({});
         makeNative();
-        attempts_.setInterval(betweenGrabs);
-        attempts_.callOnTimeout([this] { attempt(); });
         QObject::connect(&fade_, &QVariantAnimation::valueChanged, this,
             [this](const QVariant& value) { showAlpha(value.toDouble()); });
     }
@@ -92,13 +85,7 @@ public:
     {
         orderFront();
         putOnScreen();
-        if (hasKeys_ || attempts_.isActive())
-            return;
-        made_ = 0;
-        // Before anything is taken: the program may hang at any moment.
-        owner_.watchdog_.watchOpen(static_cast<std::uint32_t>(winId()));
-        attempts_.start();
-        attempt();
+        grab_.take(*windowHandle());
     }
 
     void orderOut()
@@ -107,7 +94,7 @@ public:
             return;
         fade_.stop();
         owner_.presses_.stop();
-        giveKeysBack();
+        grab_.giveBack();
         hide();
         waitForWindowsServer();
     }
@@ -135,7 +122,7 @@ public:
     bool eventFilter(QObject* object, QEvent* event) override
     {
         const bool mayHaveGone
-            = event->type() == QEvent::Expose && hasKeys_ && !windowHandle()->isExposed();
+            = event->type() == QEvent::Expose && grab_.isTaken() && !windowHandle()->isExposed();
         if (object == windowHandle() && mayHaveGone && !isOnServersScreen()) {
             wasTakenAway_ = true;
             resignKey("the program did not reply");
@@ -147,7 +134,7 @@ protected:
     void changeEvent(QEvent* event) override
     {
         QWidget::changeEvent(event);
-        if (event->type() == QEvent::ActivationChange && hasKeys_ && wasActive_
+        if (event->type() == QEvent::ActivationChange && grab_.isTaken() && wasActive_
             && !isActiveWindow())
             resignKey({});
         wasActive_ = isActiveWindow();
@@ -197,28 +184,10 @@ private:
         return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
     }
 
-    /// Other programs may have the keys for a moment.
-    void attempt()
-    {
-        hasKeys_ = windowHandle()->setKeyboardGrabEnabled(true);
-        if (hasKeys_)
-            return attempts_.stop();
-        if (++made_ >= mostGrabs)
-            resignKey("another program keeps the keyboard");
-    }
-
-    void giveKeysBack()
-    {
-        attempts_.stop();
-        owner_.watchdog_.rest();
-        if (std::exchange(hasKeys_, false))
-            windowHandle()->setKeyboardGrabEnabled(false);
-    }
-
     /// For a reason that is worth a line, if there is one.
     void resignKey(const std::string& reason)
     {
-        giveKeysBack();
+        grab_.giveBack();
         if (!reason.empty())
             Log::warn("The panel was closed: " + reason, logCategory::clipboard);
         owner_.resignObservers_.notify();
@@ -230,10 +199,8 @@ private:
     Rect frame_;
     double alpha_ = 1;
     QVariantAnimation fade_;
-    QTimer attempts_;
-    int made_ = 0;
+    KeyboardGrab grab_{[this] { resignKey("another program keeps the keyboard"); }};
     bool isOrderedIn_ = false;
-    bool hasKeys_ = false;
     bool wasActive_ = false;
     /// Such a window has the focus for the library for ever, so that another one takes its place.
     bool wasTakenAway_ = false;

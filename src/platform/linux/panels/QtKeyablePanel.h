@@ -3,7 +3,6 @@
 #include "foundation/Subscribers.h"
 #include "platform/KeyablePanel.h"
 #include "platform/linux/panels/X11PressesOutside.h"
-#include "platform/linux/watchdog/TapWatchdog.h"
 #include "platform/linux/x11/X11Connection.h"
 
 #include <memory>
@@ -51,8 +50,6 @@ private:
     Window& window();
 
     X11Connection& connection_;
-    /// The panel has the keys to itself; the user gets them back if the loop hangs.
-    TapWatchdog watchdog_{TapWatchdog::besideThisProgram(), ""};
     Subscribers<Handler> resignObservers_;
     Subscribers<Handler> pressObservers_;
     X11PressesOutside presses_;
